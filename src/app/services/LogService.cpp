@@ -1,0 +1,158 @@
+#include "app/services/LogService.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QMutexLocker>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString logLevelName(int level) {
+    switch (level) {
+    case LogService::NoLog:
+        return u"NoLog"_s;
+    case LogService::Default:
+        return u"Default"_s;
+    case LogService::Verbose:
+        return u"Verbose"_s;
+    }
+    return u"Unknown log level"_s;
+}
+
+} // namespace
+
+std::atomic<LogService*> LogService::_instance = nullptr;
+
+int logLevelFromArguments(const QStringList& arguments) {
+    if (arguments.contains("--no-log"_L1))
+        return LogService::NoLog;
+    static const QRegularExpression logOption(u"--log=*"_s);
+    const QStringList options = arguments.filter(logOption);
+    if (options.isEmpty())
+        return LogService::Default;
+    // Without a "=" the index is -1, which leaves the whole entry.
+    const QString value = options.first().mid(options.first().indexOf(u'=') + 1);
+    bool ok = false;
+    const int level = value.toInt(&ok, 16);
+    return ok ? level : LogService::Default;
+}
+
+LogService* LogService::instance() {
+    if (!_instance) {
+        _instance = new LogService;
+        qSetMessagePattern(u"[%{time h:mm:ss.zzz}] %{if-category}%{category}: %{endif}%{message}"_s);
+    }
+    return _instance;
+}
+
+void LogService::destroy() {
+    LogService* service = _instance;
+    if (!service)
+        return;
+    {
+        const QMutexLocker locker(&service->_mutex);
+        if (service->_file) {
+            service->_stream.flush();
+            service->_stream.setDevice(nullptr);
+            service->_file->flush();
+            service->_file->close();
+            service->_file.reset();
+        }
+    }
+    qInstallMessageHandler(nullptr);
+    _instance = nullptr;
+    // A worker that outlives the window may still stand in the handler; it leaves through the mutex.
+    service->_mutex.lock();
+    service->_mutex.unlock();
+    delete service;
+}
+
+LogService::LogService() = default;
+LogService::~LogService() = default;
+
+void LogService::setApplicationInfo(const QString& settingsPath) {
+    _logDirectory = QCoreApplication::applicationDirPath();
+    _applicationName = QCoreApplication::applicationName();
+    _applicationVersion = QCoreApplication::applicationVersion();
+    _settingsPath = settingsPath;
+}
+
+// For messages of the service itself, which come while the mutex is held.
+void LogService::report(const char* text, const QString& detail) const {
+    const QString message =
+        detail.isEmpty() ? QString::fromLatin1(text) : QString::fromLatin1(text) + u' ' + detail;
+    const QMessageLogContext context;
+    if (_previousHandler)
+        _previousHandler(QtDebugMsg, context, message);
+    else
+        fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(QtDebugMsg, context, message)));
+}
+
+void LogService::turnFilesOver() {
+    _stream.setDevice(nullptr);
+    _file = std::make_unique<QFile>();
+    QString directory = _logDirectory;
+    if (!QFile::exists(directory))
+        report("Error, path doesn't exist at:", directory);
+    if (!directory.endsWith(QDir::separator()))
+        directory += QDir::separator();
+    const QString previous = directory + "app-previous.log"_L1;
+    const QString current = directory + "app-current.log"_L1;
+    if (QFile::exists(current)) {
+        QFile::remove(previous);
+        QFile::rename(current, previous);
+    }
+    _logFilePath = current;
+}
+
+void LogService::init(const QStringList& givenArguments) {
+    QStringList arguments = givenArguments;
+    if (arguments.isEmpty())
+        arguments.append(u"--empty"_s);
+
+    const QMutexLocker locker(&_mutex);
+    _logLevel = logLevelFromArguments(arguments);
+    turnFilesOver();
+    // A second init finds the handler in place already, which must not become its own predecessor.
+    const QtMessageHandler handler = qInstallMessageHandler(messageHandler);
+    if (handler != messageHandler)
+        _previousHandler = handler;
+    _file->setFileName(_logFilePath);
+    if (!_file->open(QIODevice::WriteOnly | QIODevice::Text)) {
+        report("Could not open log file for writing!");
+        return;
+    }
+    _stream.setDevice(_file.get());
+    _stream.setEncoding(QStringConverter::Utf8);
+    writeHeader(arguments);
+}
+
+void LogService::writeHeader(const QStringList& arguments) {
+    _stream << "##########\n"
+            << _applicationName << " log " << QDateTime::currentDateTime().toString(u"yyyy-MM-dd hh:mm:ss"_s)
+            << "\nArguments:\n\t" << arguments.join("\n\t"_L1) << "\nLog level: " << _logLevel << " ("
+            << logLevelName(_logLevel) << ")"
+            << "\nApplication version: " << _applicationVersion << " internal: " << _internalVersion
+            << " build date: " << _buildDate << ' ' << _buildTime << "\nUsing paths:"
+            << "\n\tSettings path: " << _settingsPath << "\n";
+    _stream.flush();
+}
+
+void LogService::messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    LogService* service = _instance;
+    if (!service)
+        return;
+    const int requiredLevel = type == QtInfoMsg ? Verbose : Default;
+    const QMutexLocker locker(&service->_mutex);
+    if (requiredLevel <= service->_logLevel && service->_stream.device()) {
+        service->_stream << qFormatLogMessage(type, context, message) << '\n';
+        service->_stream.flush();
+    }
+    if (service->_previousHandler)
+        service->_previousHandler(type, context, message);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+#include <QtLogging>
+
+#include <atomic>
+#include <memory>
+
+class QFile;
+
+// Sends every message of Qt's logging to a text file beside the executable and keeps the file of the last
+// run.
+class LogService {
+public:
+    enum LogLevel { NoLog = 0, Default = 1, Verbose = 2 };
+
+    static LogService* instance();
+    static void destroy();
+
+    void setApplicationInfo(const QString& settingsPath);
+    // Chooses the level from the arguments, turns the files over and takes over Qt's message handler.
+    void init(const QStringList& arguments);
+
+    static void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message);
+
+private:
+    LogService();
+    ~LogService();
+    Q_DISABLE_COPY_MOVE(LogService)
+
+    void turnFilesOver();
+    void writeHeader(const QStringList& arguments);
+    void report(const char* text, const QString& detail = {}) const;
+
+    static std::atomic<LogService*> _instance;
+
+    QString _logFilePath;
+    std::unique_ptr<QFile> _file;
+    QTextStream _stream;
+    int _logLevel = Default;
+    // Guards the stream and the file; not recursive, so nothing may log while it is held.
+    QMutex _mutex;
+    QString _logDirectory;
+    QString _applicationName;
+    QString _applicationVersion;
+    QString _internalVersion;
+    QString _buildDate;
+    QString _buildTime;
+    QString _settingsPath;
+    QtMessageHandler _previousHandler = nullptr;
+};
+
+// The level that an argument list asks for.
+[[nodiscard]] int logLevelFromArguments(const QStringList& arguments);

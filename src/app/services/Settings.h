@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class QSettings;
+
+// The one place where the program keeps anything between runs. The table lives in memory and reaches the disk
+// once, when the singleton is destroyed. GUI thread only.
+class Settings : public QObject {
+    Q_OBJECT
+
+public:
+    enum SettingsLocation { UserConfigLocation = 0, AppDirLocation = 1 };
+    Q_ENUM(SettingsLocation)
+
+    // The first call makes the object and reads the file; later calls ignore the arguments.
+    static Settings* instance(QObject* parent = nullptr, SettingsLocation location = UserConfigLocation,
+                              const QString& fileName = {}, bool debugging = false);
+    // Writes the file.
+    static void destroyInstance();
+
+    void read();
+    // A key that is present with an invalid value yields that value, not the default.
+    [[nodiscard]] QVariant data(const QString& key, const QVariant& defaultValue = {}) const;
+    bool setData(const QString& key, const QVariant& value, bool persistent = true);
+    [[nodiscard]] QString filePath() const { return _filePath; }
+
+private:
+    Settings(QObject* parent, SettingsLocation location, const QString& fileName, bool debugging);
+    ~Settings() override;
+
+    [[nodiscard]] QString directory() const;
+
+    static Settings* _instance;
+
+    QHash<QString, QVariant> _data;
+    QHash<QString, QVariant> _nonPersistentData;
+    std::unique_ptr<QSettings> _settings;
+    bool _debugging = false;
+    SettingsLocation _settingsLocation = UserConfigLocation;
+    QString _fileName;
+    QString _filePath;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QMap>
+#include <QObject>
+
+class QAbstractButton;
+class QAction;
+
+// The catalogue of visual themes; the only place that sets a style or a palette, and the tinter of all icons.
+class Themes : public QObject {
+    Q_OBJECT
+
+public:
+    // The numbers are stored in the settings.
+    enum Theme {
+        NONE = 0,
+        Windows11 = 1,
+        LIGHT_Windows = 2,
+        DARK = 3,
+        LIGHT_Window95 = 4,
+        LIGHT_Fusion = 5,
+        EMERALD = 6,
+        SAPPHIRE = 7,
+        RUBY = 8,
+        COBALTSKY = 9,
+        VIOLETANGELPURPLE = 10,
+        SCARLETDEVILRED = 11,
+        PRUKLESBLUEPALETTE = 12,
+        PIZZABROWN = 13,
+        BABYPASTEL = 14,
+        UNTOUCHEDLAGOON = 15,
+        GREYMATTER = 16,
+        DARKFUSIONBLUE = 17,
+        DARKFUSION = 18,
+        PLASTIQUE = 19
+    };
+    Q_ENUM(Theme)
+
+    static Themes* instance(QObject* parent = nullptr);
+    static void destroyInstance();
+
+    // Makes the menu entries, owned by this object, and applies the current theme.
+    QList<QAction*> themeActions(Theme current);
+    void setTheme(Theme theme);
+    [[nodiscard]] bool isDarkTheme() const;
+    [[nodiscard]] QColor iconTint(bool isDarkTheme) const;
+    void tintActions(bool isDarkTheme, const QList<QAction*>& actions) const;
+    void tintButtons(bool isDarkTheme, const QList<QAbstractButton*>& buttons) const;
+
+signals:
+    void themeChanged(Themes::Theme theme);
+    void themeAccentChanged(bool isDarkTheme);
+
+private:
+    explicit Themes(QObject* parent);
+
+    static Themes* _instance;
+
+    int _theme = NONE;
+    QMap<int, bool> _themeDarkness;
+};

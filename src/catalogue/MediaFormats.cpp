@@ -1,0 +1,88 @@
+#include "catalogue/MediaFormats.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList lowerCased(const QList<QByteArray>& formats) {
+    QStringList suffixes;
+    suffixes.reserve(formats.size());
+    for (const QByteArray& format : formats)
+        suffixes.append(QString::fromLatin1(format).toLower());
+    return suffixes;
+}
+
+QStringList asNameFilters(const QStringList& suffixes) {
+    QStringList filters;
+    filters.reserve(suffixes.size());
+    for (const QString& suffix : suffixes)
+        filters.append(u"*.%1"_s.arg(suffix.toLower()));
+    return filters;
+}
+
+} // namespace
+
+// The plugins behind both lists do not change while the program runs, and asking for them loads each one.
+QStringList supportedImageFormats() {
+    static const QStringList formats = lowerCased(QImageReader::supportedImageFormats());
+    return formats;
+}
+
+QStringList supportedWriteFormats() {
+    static const QStringList formats = lowerCased(QImageWriter::supportedImageFormats());
+    return formats;
+}
+
+QStringList supportedVideoFormats() {
+    static const QStringList formats{u"avi"_s, u"mp4"_s, u"mpv"_s, u"mpeg"_s, u"mpg"_s,
+                                     u"ogg"_s, u"ogv"_s, u"flv"_s, u"mkv"_s,  u"webm"_s};
+    return formats;
+}
+
+bool isVideoFile(const QString& filePath) {
+    return supportedVideoFormats().contains(QFileInfo(filePath).suffix().toLower());
+}
+
+QStringList videoNameFilters() {
+    return asNameFilters(supportedVideoFormats());
+}
+
+QStringList mediaNameFilters() {
+    return asNameFilters(supportedImageFormats()) + asNameFilters(supportedVideoFormats());
+}
+
+QString imageDialogFilter() {
+    return QCoreApplication::translate("MediaFormats", "Images (") +
+           asNameFilters(supportedWriteFormats()).join(u' ') + u')';
+}
+
+QString videoDialogFilter() {
+    QString filter = QCoreApplication::translate("MediaFormats", "Video (");
+    for (const QString& suffix : supportedVideoFormats())
+        filter += u"*."_s + suffix + u' ';
+    return filter + u')';
+}
+
+QString formatSize(qint64 bytes, int precision) {
+    if (bytes < 1024)
+        return u"%1 B"_s.arg(QString::number(static_cast<double>(bytes), 'f', 0));
+    if (bytes < 1024 * 1024)
+        return u"%1 KB"_s.arg(QString::number(static_cast<double>(bytes / 1024), 'f', 0));
+    constexpr std::array units{"MB", "GB", "TB", "PB", "EB", "ZB", "YB"};
+    constexpr double oneStep = 0.0009765625;
+    double value = static_cast<double>(bytes) * oneStep * oneStep;
+    std::size_t unit = 0;
+    while (unit < units.size() && value >= 1024.0) {
+        value *= oneStep;
+        ++unit;
+    }
+    const QString name = unit < units.size() ? QString::fromLatin1(units.at(unit)) : QString();
+    return u"%1 %2"_s.arg(QString::number(value, 'f', precision), name);
+}
