@@ -1,0 +1,55 @@
+#pragma once
+
+#include "editor/EditImageWidget.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace Ui {
+class EditImageDialog;
+}
+
+// A tool window around one image view. Forwards the user's actions to the view and what touches the catalogue
+// to its owner, by signals.
+class EditImageDialog : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit EditImageDialog(QWidget* parent = nullptr);
+    ~EditImageDialog() override;
+
+    // A file that does not exist leaves the window as it is.
+    void setImageFile(const QString& filePath, const QString& positionText);
+
+public slots:
+    void updateIcons(bool dark);
+    void onZoomChanged(QPointF zoom);
+    void onToolChanged(EditImageWidget::Tool tool);
+    void onToolCutSizeChanged(QRectF cutRect);
+    void onCutRectChanged();
+
+signals:
+    void requestImgPrev(QString currFilePath);
+    void requestImgNext(QString currFilePath);
+    void message(QString msg);
+    void widgetState(QByteArray data);
+    void widgetGeometry(QByteArray data);
+    void requestDeleteImage(QString filePath);
+    void savedFile(QString fileName);
+    void newlySavedFile(QString fileName);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void initActions();
+    void initToolTips(const QKeySequence& pan, const QKeySequence& cut);
+    void initViewConnections();
+    void initControlConnections();
+    QAction* addToolBarAction(const QString& text, const QString& iconText, const QKeySequence& shortcut,
+                              const QString& iconName);
+    void onRequestImage(bool next);
+
+    std::unique_ptr<Ui::EditImageDialog> _ui;
+};

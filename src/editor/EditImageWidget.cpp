@@ -1,0 +1,404 @@
+#include "editor/EditImageWidget.h"
+
+#include "catalogue/FileNaming.h"
+#include "catalogue/MediaFormats.h"
+#include "editor/CutGeometry.h"
+#include "editor/PixmapFile.h"
+#include "editor/ViewGeometry.h"
+
+#include <QCursor>
+#include <QDateTime>
+#include <QDebug>
+#include <QFile>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Values of the axis lock.
+constexpr int kNoAxisLock = 0;
+constexpr int kHorizontalMovesOnly = 1;
+constexpr int kVerticalMovesOnly = 2;
+
+constexpr QColor kCutColour(180, 180, 180, 128);
+
+int cutKeyStep(Qt::KeyboardModifiers modifiers) {
+    if (modifiers == Qt::ControlModifier)
+        return 40;
+    return modifiers == Qt::ShiftModifier ? 1 : 8;
+}
+
+bool isSaveKey(const QKeyEvent* event) {
+    if (event->key() == Qt::Key_Save)
+        return true;
+    return event->key() == Qt::Key_S &&
+           (event->modifiers() == Qt::ControlModifier ||
+            QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier));
+}
+
+} // namespace
+
+EditImageWidget::EditImageWidget(QWidget* parent) : QWidget(parent) {
+    qRegisterMetaType<EditImageWidget::Tool>();
+    setObjectName(u"EditImageWidget"_s);
+    resize(397, 325);
+    setWindowTitle(tr("Form"));
+    setFocusPolicy(Qt::WheelFocus);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, &QWidget::customContextMenuRequested, this, &EditImageWidget::onContextMenu);
+    connect(this, &EditImageWidget::autoCenterChanged, this, &EditImageWidget::updateAutoCenter);
+    connect(this, &EditImageWidget::autoFitChanged, this, &EditImageWidget::fitImage);
+}
+
+// --- image ---------------------------------------------------------------------------------------
+
+void EditImageWidget::setImage(const QImage& image, const QString& filePath) {
+    qDebug() << "EditImageWidget::setImage" << image << filePath;
+    _imageFilePath = filePath;
+    _pixmap = QPixmap::fromImage(image);
+    showLoadedImage();
+}
+
+void EditImageWidget::setImageFilePath(const QString& filePath) {
+    if (!QFile::exists(filePath)) {
+        qDebug() << "Error, file don't exists:" << filePath;
+        _imageFilePath.clear();
+        _pixmap = {};
+        update();
+        return;
+    }
+    _imageFilePath = filePath;
+    _pixmap = loadPixmap(filePath);
+    showLoadedImage();
+}
+
+void EditImageWidget::showLoadedImage() {
+    updateView();
+    update();
+    _pixUndoRedo.clear();
+    emit undoAvailableChanged(undoAvailable());
+}
+
+QString EditImageWidget::imageSizeText() const {
+    return u"%1x%2"_s.arg(_pixmap.width()).arg(_pixmap.height());
+}
+
+// --- view ----------------------------------------------------------------------------------------
+
+void EditImageWidget::setAutoCenter(bool on) {
+    _autoCenter = on;
+    emit autoCenterChanged(on);
+}
+
+void EditImageWidget::setAutoFit(bool on) {
+    _autoFit = on;
+    emit autoFitChanged(on);
+}
+
+void EditImageWidget::toggleAutoCenter() {
+    setAutoCenter(!_autoCenter);
+}
+
+void EditImageWidget::toggleAutoFit() {
+    setAutoFit(!_autoFit);
+}
+
+void EditImageWidget::resetZoom() {
+    qDebug() << "Reset zoom and transformations.";
+    _transform = {};
+    _zoom = {1.0, 1.0};
+    emit zoomChanged(_zoom);
+    update();
+}
+
+void EditImageWidget::fitImage() {
+    // Without an image there is nothing to fit; the next one sets the view anew.
+    if (_pixmap.isNull())
+        return;
+    const double zoom = fittingZoom(size(), _pixmap.size());
+    _zoom = {zoom, zoom};
+    _transform = withOffset(withScale(_transform, zoom), centredOffset(size(), _pixmap.size(), zoom));
+    update();
+}
+
+void EditImageWidget::updateAutoCenter() {
+    if (!_autoCenter || _pixmap.isNull())
+        return;
+    _transform = withOffset(_transform, centredOffset(size(), _pixmap.size(), _zoom.x()));
+    update();
+}
+
+void EditImageWidget::updateView() {
+    if (_autoCenter)
+        updateAutoCenter();
+    if (_autoFit) {
+        fitImage();
+        emit zoomChanged(_zoom);
+    }
+}
+
+void EditImageWidget::resizeEvent(QResizeEvent* event) {
+    if (_updateOnResize)
+        updateView();
+    QWidget::resizeEvent(event);
+}
+
+void EditImageWidget::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        emit requestImage(wheelDegrees(event->angleDelta()).y() < 0);
+        return;
+    }
+    const double change = wheelZoomChange(event->angleDelta(), event->pixelDelta(),
+                                          event->modifiers().testFlag(Qt::ShiftModifier));
+    _zoom += QPointF(change, change);
+    applyZoom(QCursor::pos());
+    emit zoomChanged(_zoom);
+    QWidget::wheelEvent(event);
+}
+
+void EditImageWidget::applyZoom(QPoint globalPos) {
+    const double zoom = clampedViewZoom(_zoom.x());
+    _zoom = {zoom, zoom};
+    // A cursor at the very origin stands for a position that is not known.
+    const QPoint position = globalPos.isNull() ? QPoint() : mapFromGlobal(globalPos);
+    _transform = zoomedAround(_transform, position, zoom);
+    update();
+}
+
+void EditImageWidget::paintEvent(QPaintEvent* event) {
+    if (_pixmap.isNull())
+        return;
+    QPainter painter(this);
+    painter.setTransform(_transform);
+    const QRect visible = visibleImageRect(_transform, event->rect(), _pixmap.rect());
+    if (!visible.isEmpty())
+        painter.drawPixmap(visible, _pixmap, visible);
+    if (_tool == ToolCut)
+        paintCutRect(painter);
+}
+
+void EditImageWidget::paintCutRect(QPainter& painter) const {
+    const double width = _cutOutlineWidth / _zoom.x();
+    painter.setPen(QPen(QBrush(kCutColour), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.drawRects(&_cutRect, 1);
+    if (_cutPartRect.isValid()) {
+        painter.setBrush(kCutColour);
+        painter.drawRects(&_cutPartRect, 1);
+    }
+}
+
+// --- mouse and keys ------------------------------------------------------------------------------
+
+void EditImageWidget::mousePressEvent(QMouseEvent* event) {
+    _lastMousePos = event->position();
+    if (_tool == ToolCut && event->buttons().testFlag(Qt::LeftButton)) {
+        const CutRegion region = cutRegionAt(_cutRect, _transform, _zoom.x(), event->position());
+        _cutPart = region.part;
+        _cutPartRect = region.rect;
+    }
+    update();
+    QWidget::mousePressEvent(event);
+}
+
+void EditImageWidget::mouseMoveEvent(QMouseEvent* event) {
+    // A view of no width fits its image at zoom 0, where no distance has a length in the image.
+    const double zoom = _zoom.x();
+    const QPointF moved = zoom > 0.0 ? (event->position() - _lastMousePos) / zoom : QPointF();
+    const QPointF delta = lockedToAxis(moved);
+    if (_tool == ToolCut && _cutPart != CutPartNone && event->buttons().testFlag(Qt::LeftButton)) {
+        _cutPartRect = {};
+        _cutRect = draggedCutRect(_cutRect, _cutPart, delta, _aspectRatioKeep);
+    } else if (!hasMouseTracking()) {
+        _transform.translate(delta.x(), delta.y());
+    }
+    update();
+    _lastMousePos = event->position();
+    QWidget::mouseMoveEvent(event);
+}
+
+void EditImageWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (_tool == ToolCut) {
+        qDebug() << "EditImageWidget::mouseReleaseEvent" << _cutRect;
+        _cutPartRect = {};
+        emit cutSizeChanged(_cutRect);
+    }
+    _cutPart = CutPartNone;
+    update();
+    QWidget::mouseReleaseEvent(event);
+}
+
+void EditImageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (_tool == ToolCut && event->buttons().testFlag(Qt::LeftButton))
+        applyCut();
+}
+
+QPointF EditImageWidget::lockedToAxis(QPointF delta) const {
+    if (_axisLock == kHorizontalMovesOnly)
+        return {delta.x(), 0.0};
+    return _axisLock == kVerticalMovesOnly ? QPointF(0.0, delta.y()) : delta;
+}
+
+void EditImageWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() == Qt::ShiftModifier)
+        _axisLock = kHorizontalMovesOnly;
+    else if (event->modifiers() == Qt::ControlModifier)
+        _axisLock = kVerticalMovesOnly;
+    update();
+    if (isSaveKey(event))
+        saveImage();
+    QWidget::keyPressEvent(event);
+}
+
+void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
+    _axisLock = kNoAxisLock;
+    handleViewKey(event->key(), event->modifiers());
+    if (_tool == ToolCut) {
+        handleCutKey(event->key(), event->modifiers());
+        emit cutSizeChanged(_cutRect);
+        update();
+    }
+    QWidget::keyReleaseEvent(event);
+}
+
+void EditImageWidget::handleViewKey(int key, Qt::KeyboardModifiers modifiers) {
+    if (key == Qt::Key_C) {
+        qDebug() << "Auto center toggled.";
+        toggleAutoCenter();
+    } else if (key == Qt::Key_F) {
+        qDebug() << "Fit image.";
+        toggleAutoFit();
+    } else if (key == Qt::Key_R) {
+        resetZoom();
+    } else if (key == Qt::Key_A) {
+        setAspectRatioKeep(!_aspectRatioKeep);
+        emit aspectRatioKeepChanged(_aspectRatioKeep);
+    } else if (key == Qt::Key_Undo || (key == Qt::Key_Z && modifiers == Qt::ControlModifier)) {
+        undoLastAction();
+    }
+}
+
+void EditImageWidget::handleCutKey(int key, Qt::KeyboardModifiers modifiers) {
+    const int step = cutKeyStep(modifiers);
+    switch (key) {
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+    case Qt::Key_Space:
+        applyCut();
+        break;
+    case Qt::Key_Left:
+        moveCutRect("cut move left", QPointF(-step, 0));
+        break;
+    case Qt::Key_Right:
+        moveCutRect("cut move right", QPointF(step, 0));
+        break;
+    case Qt::Key_Up:
+        moveCutRect("cut move up", QPointF(0, -step));
+        break;
+    case Qt::Key_Down:
+        moveCutRect("cut move down", QPointF(0, step));
+        break;
+    default:
+        break;
+    }
+}
+
+void EditImageWidget::moveCutRect(const char* direction, QPointF delta) {
+    qDebug() << direction;
+    _cutRect.moveCenter(_cutRect.center() + delta);
+}
+
+// --- cut -----------------------------------------------------------------------------------------
+
+void EditImageWidget::setTool(EditImageWidget::Tool tool) {
+    _tool = tool;
+    if (tool == ToolCut)
+        _cutRect = _pixmap.rect();
+    update();
+    emit toolChanged(tool);
+}
+
+void EditImageWidget::onCutRectSet(QRectF r) {
+    _cutRect = r;
+    update();
+}
+
+void EditImageWidget::setCutOutlineWidth(int width) {
+    _cutOutlineWidth = width;
+    update();
+}
+
+void EditImageWidget::setAspectRatioKeep(bool on) {
+    _aspectRatioKeep = on;
+}
+
+void EditImageWidget::applyCut() {
+    if (!_cutRect.isValid()) {
+        qDebug() << "Invalid cut rect:" << _cutRect;
+        return;
+    }
+    _pixUndoRedo.append(_pixmap);
+    _pixmap = _pixmap.copy(_cutRect.toRect());
+    const CutShift shift = shiftAfterCut(_cutRect);
+    _transform.translate(shift.translation.x(), shift.translation.y());
+    _cutRect = shift.cutRect;
+    update();
+    emit undoAvailableChanged(undoAvailable());
+}
+
+void EditImageWidget::undoLastAction() {
+    qDebug() << "EditImageWidget::undoLastAction" << _pixUndoRedo;
+    if (undoAvailable()) {
+        _pixmap = _pixUndoRedo.takeLast();
+        update();
+    }
+    emit undoAvailableChanged(undoAvailable());
+}
+
+// --- save ----------------------------------------------------------------------------------------
+
+void EditImageWidget::saveImage() {
+    if (!savePixmap(_pixmap, _imageFilePath)) {
+        reportSaveFailure(_imageFilePath);
+        return;
+    }
+    qDebug() << "Saved image:" << _imageFilePath;
+    emit message(tr("Save image: %1").arg(_imageFilePath));
+    emit savedFile(_imageFilePath);
+}
+
+void EditImageWidget::saveImageAs() {
+    QString startName = _imageFilePath;
+    if (startName.isEmpty())
+        startName = u"%1.png"_s.arg(QDateTime::currentDateTime().toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s));
+    const QString filePath = QFileDialog::getSaveFileName(this, tr("Save image as"),
+                                                          numberedFilePath(startName), imageDialogFilter());
+    if (!filePath.isEmpty())
+        saveImageToFile(filePath);
+}
+
+void EditImageWidget::saveImageToFile(const QString& filePath) {
+    if (filePath.isEmpty()) {
+        qDebug() << "Error, file name is empty.";
+        return;
+    }
+    if (!savePixmap(_pixmap, filePath)) {
+        reportSaveFailure(filePath);
+        return;
+    }
+    qDebug() << "Saved image as:" << filePath;
+    emit message(tr("Saved image as: %1").arg(filePath));
+    emit newlySavedFile(filePath);
+}
+
+void EditImageWidget::reportSaveFailure(const QString& filePath) {
+    qDebug() << "Error, unable save image:" << filePath;
+    emit message(tr("Error, unable to save image: %1").arg(filePath));
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QList>
+#include <QPixmap>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <QTransform>
+#include <QWidget>
+
+class QMenu;
+
+// Shows one image under pan and zoom, cuts it, and saves it. Knows no catalogue: it asks for the next or the
+// previous image by a signal.
+class EditImageWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    enum Tool { ToolNone = 0, ToolPan = 1, ToolCut = 2 };
+    Q_ENUM(Tool)
+
+    explicit EditImageWidget(QWidget* parent = nullptr);
+
+    void setImage(const QImage& image, const QString& filePath);
+    void setImageFilePath(const QString& filePath);
+    [[nodiscard]] QString imageFilePath() const { return _imageFilePath; }
+    [[nodiscard]] QSize imageSize() const { return _pixmap.size(); }
+    [[nodiscard]] QString imageSizeText() const;
+
+    void setTool(EditImageWidget::Tool tool);
+    // In image coordinates; may reach outside the image.
+    [[nodiscard]] QRectF cutRect() const { return _cutRect; }
+    // In screen pixels.
+    void setCutOutlineWidth(int width);
+    [[nodiscard]] int cutOutlineWidth() const { return _cutOutlineWidth; }
+
+    void setAutoCenter(bool on);
+    [[nodiscard]] bool autoCenter() const { return _autoCenter; }
+    void setAutoFit(bool on);
+    [[nodiscard]] bool autoFit() const { return _autoFit; }
+    // Emits nothing.
+    void setAspectRatioKeep(bool on);
+
+    [[nodiscard]] bool undoAvailable() const { return !_pixUndoRedo.isEmpty(); }
+    void undoLastAction();
+
+    void saveImage();
+    // Asks for a name; the image still belongs to its first file afterwards.
+    void saveImageAs();
+
+public slots:
+    void onCutRectSet(QRectF r);
+    void onContextMenu(QPoint position);
+    void resetZoom();
+
+signals:
+    void zoomChanged(QPointF zoom);
+    void autoCenterChanged(bool autoCenter);
+    void autoFitChanged(bool autoFit);
+    void aspectRatioKeepChanged(bool aspectRatioKeep);
+    void requestImage(bool next);
+    void message(QString msg);
+    void toolChanged(EditImageWidget::Tool tool);
+    void cutSizeChanged(QRectF cutSize);
+    void savedFile(QString fileName);
+    void newlySavedFile(QString fileName);
+    void undoAvailableChanged(bool undoAvailable);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    void showLoadedImage();
+    void fitImage();
+    void updateAutoCenter();
+    void updateView();
+    void applyZoom(QPoint globalPos);
+    void paintCutRect(QPainter& painter) const;
+    [[nodiscard]] QPointF lockedToAxis(QPointF delta) const;
+    void toggleAutoCenter();
+    void toggleAutoFit();
+    void handleViewKey(int key, Qt::KeyboardModifiers modifiers);
+    void handleCutKey(int key, Qt::KeyboardModifiers modifiers);
+    void moveCutRect(const char* direction, QPointF delta);
+    void applyCut();
+    void saveImageToFile(const QString& filePath);
+    void reportSaveFailure(const QString& filePath);
+    void addViewEntries(QMenu* menu);
+    void addCutEntries(QMenu* menu);
+
+    QPixmap _pixmap;
+    QString _imageFilePath;
+    QTransform _transform;
+    QPointF _zoom{1.0, 1.0};
+    QPointF _lastMousePos;
+    int _axisLock = 0;
+    Tool _tool = ToolNone;
+    int _cutPart = 0;
+    QRectF _cutRect{0, 0, 320, 240};
+    // Shown filled until the first move or the release.
+    QRectF _cutPartRect;
+    int _cutOutlineWidth = 8;
+    bool _updateOnResize = false;
+    bool _autoCenter = false;
+    bool _autoFit = false;
+    bool _aspectRatioKeep = false;
+    // One pixmap a cut, oldest first.
+    QList<QPixmap> _pixUndoRedo;
+};

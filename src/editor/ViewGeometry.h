@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+#include <QTransform>
+
+// Zoom and place of an image in a view. The transforms map image to view coordinates.
+
+// Bounds of what the wheel can reach; fitting an image to its view may go beyond.
+inline constexpr double kMinimumViewZoom = 0.1;
+inline constexpr double kMaximumViewZoom = 5.0;
+
+[[nodiscard]] double clampedViewZoom(double zoom);
+
+// A wheel turn in degrees, from eighths of a degree.
+[[nodiscard]] QPoint wheelDegrees(QPoint angleDelta);
+
+// What a wheel event adds to the zoom; a pixel delta comes before an angle delta.
+[[nodiscard]] double wheelZoomChange(QPoint angleDelta, QPoint pixelDelta, bool fineStep);
+
+// The largest zoom at which the whole image is in view. The image must not be empty.
+[[nodiscard]] double fittingZoom(QSize view, QSize image);
+
+// Whole pixels from the view's corner to the image's, for an image in the middle of the view.
+[[nodiscard]] QPoint centredOffset(QSize view, QSize image, double zoom);
+
+[[nodiscard]] QTransform withScale(const QTransform& transform, double zoom);
+[[nodiscard]] QTransform withOffset(const QTransform& transform, QPoint offset);
+
+// Scales around a view position.
+[[nodiscard]] QTransform zoomedAround(const QTransform& transform, QPoint viewPosition, double zoom);
+
+// The part of the image that shows in a rectangle of the view, whole pixels, at least all that is touched.
+[[nodiscard]] QRect visibleImageRect(const QTransform& transform, const QRect& viewRect,
+                                     const QRect& imageRect);
