@@ -1,0 +1,61 @@
+#include "video/VideoPreviewWidget.h"
+
+#include "catalogue/MediaUrl.h"
+#include "ui_VideoPreviewWidget.h"
+
+#include <QAudioOutput>
+
+VideoPreviewWidget::VideoPreviewWidget(QWidget* parent)
+    : QWidget(parent), _ui(std::make_unique<Ui::VideoPreviewWidget>()) {
+    _ui->setupUi(this);
+}
+
+VideoPreviewWidget::~VideoPreviewWidget() = default;
+
+void VideoPreviewWidget::initPlayer() {
+    if (_mediaPlayer)
+        return;
+    _mediaPlayer = new QMediaPlayer(this);
+    _mediaPlayer->setVideoOutput(_ui->videoWidget);
+    auto* audioOutput = new QAudioOutput(this);
+    _mediaPlayer->setAudioOutput(audioOutput);
+    _mediaPlayer->setVideoOutput(_ui->videoWidget);
+    audioOutput->setVolume(0.0F);
+    connect(_mediaPlayer, &QMediaPlayer::sourceChanged, this, &VideoPreviewWidget::sourceChanged);
+    connect(_mediaPlayer, &QMediaPlayer::durationChanged, this, &VideoPreviewWidget::durationChanged);
+    connect(_mediaPlayer, &QMediaPlayer::positionChanged, this, &VideoPreviewWidget::positionChanged);
+    connect(_mediaPlayer, &QMediaPlayer::seekableChanged, this, &VideoPreviewWidget::seekableChanged);
+    connect(_mediaPlayer, &QMediaPlayer::playbackRateChanged, this, &VideoPreviewWidget::playbackRateChanged);
+    connect(_mediaPlayer, &QMediaPlayer::mediaStatusChanged, this, &VideoPreviewWidget::mediaStatusChanged);
+    connect(_mediaPlayer, &QMediaPlayer::playbackStateChanged, this,
+            &VideoPreviewWidget::playbackStateChanged);
+}
+
+void VideoPreviewWidget::start(const QString& path) {
+    _videoPath = path;
+    initPlayer();
+    _mediaPlayer->setSource(mediaUrl(path));
+    _mediaPlayer->setLoops(QMediaPlayer::Infinite);
+    _mediaPlayer->play();
+}
+
+void VideoPreviewWidget::stop(const QString& path) {
+    if (!_mediaPlayer || QString::compare(path, _videoPath, Qt::CaseInsensitive) != 0)
+        return;
+    _mediaPlayer->stop();
+    _mediaPlayer->setSource(QUrl());
+}
+
+void VideoPreviewWidget::durationChanged(qlonglong duration) {
+    _ui->progressBar->setRange(0, static_cast<int>(duration));
+}
+
+void VideoPreviewWidget::positionChanged(qlonglong position) {
+    _ui->progressBar->setValue(static_cast<int>(position));
+}
+
+void VideoPreviewWidget::sourceChanged(QUrl) {}
+void VideoPreviewWidget::seekableChanged(bool) {}
+void VideoPreviewWidget::playbackRateChanged(double) {}
+void VideoPreviewWidget::mediaStatusChanged(QMediaPlayer::MediaStatus) {}
+void VideoPreviewWidget::playbackStateChanged(QMediaPlayer::PlaybackState) {}
