@@ -78,5 +78,7 @@ QRect visibleImageRect(const QTransform& transform, const QRect& viewRect, const
         return {};
     // Clipped before rounding, as a far zoomed out view is larger than integers can tell.
     const QRectF touched = viewToImage.mapRect(QRectF(viewRect)) & QRectF(imageRect);
+    if (touched.isEmpty())
+        return {};
     return touched.toAlignedRect().adjusted(-1, -1, 1, 1) & imageRect;
 }
