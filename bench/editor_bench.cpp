@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImageReader>
+#include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -101,6 +102,7 @@ void measureStepping() {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QImage opaque = photograph(6000, 4000, QImage::Format_RGB32);
     measurePanning("opaque", opaque, EditImageWidget::ToolPan);
     measurePanning("opaque with cut rectangle", opaque, EditImageWidget::ToolCut);

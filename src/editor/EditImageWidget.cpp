@@ -15,7 +15,6 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -173,14 +172,14 @@ void EditImageWidget::applyZoom(QPoint globalPos) {
     update();
 }
 
-void EditImageWidget::paintEvent(QPaintEvent* event) {
+void EditImageWidget::paintEvent(QPaintEvent*) {
     if (_pixmap.isNull())
         return;
     QPainter painter(this);
     painter.setTransform(_transform);
-    const QRect visible = visibleImageRect(_transform, event->rect(), _pixmap.rect());
-    if (!visible.isEmpty())
-        painter.drawPixmap(visible, _pixmap, visible);
+    // The whole pixmap, whatever is exposed: the painter clips it, and a part alone would be sampled at other
+    // pixels, so that the picture would jitter while it moves.
+    painter.drawPixmap(_pixmap.rect(), _pixmap);
     if (_tool == ToolCut)
         paintCutRect(painter);
 }

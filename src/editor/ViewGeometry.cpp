@@ -1,7 +1,5 @@
 #include "editor/ViewGeometry.h"
 
-#include <QRect>
-
 #include <algorithm>
 #include <cmath>
 
@@ -69,16 +67,4 @@ QTransform zoomedAround(const QTransform& transform, QPoint viewPosition, double
     zoomed = withScale(zoomed, zoom);
     zoomed.translate(-anchor.x(), -anchor.y());
     return zoomed;
-}
-
-QRect visibleImageRect(const QTransform& transform, const QRect& viewRect, const QRect& imageRect) {
-    bool invertible = false;
-    const QTransform viewToImage = transform.inverted(&invertible);
-    if (!invertible)
-        return {};
-    // Clipped before rounding, as a far zoomed out view is larger than integers can tell.
-    const QRectF touched = viewToImage.mapRect(QRectF(viewRect)) & QRectF(imageRect);
-    if (touched.isEmpty())
-        return {};
-    return touched.toAlignedRect().adjusted(-1, -1, 1, 1) & imageRect;
 }

@@ -29,7 +29,3 @@ inline constexpr double kMaximumViewZoom = 5.0;
 
 // Scales around a view position.
 [[nodiscard]] QTransform zoomedAround(const QTransform& transform, QPoint viewPosition, double zoom);
-
-// The part of the image that shows in a rectangle of the view, whole pixels, at least all that is touched.
-[[nodiscard]] QRect visibleImageRect(const QTransform& transform, const QRect& viewRect,
-                                     const QRect& imageRect);

@@ -12,8 +12,6 @@ private slots:
     void fitAndCentre_data();
     void fitAndCentre();
     void zoomAroundPosition();
-    void visiblePart_data();
-    void visiblePart();
 };
 
 void ViewGeometryTest::wheel_data() {
@@ -75,26 +73,6 @@ void ViewGeometryTest::zoomAroundPosition() {
     // The anchor is the position times the new zoom, rounded: (6, 9) of (2.5, 3.5) times 2.5.
     QCOMPARE(zoomedAround(before, {10, 20}, 2.5), QTransform(2.5, 0, 0, 2.5, 30 + 25 * -0.5, 40 + 50 * -0.5));
     QCOMPARE(zoomedAround(before, {0, 0}, 0.5), QTransform(0.5, 0, 0, 0.5, 30, 40));
-}
-
-void ViewGeometryTest::visiblePart_data() {
-    QTest::addColumn<QTransform>("transform");
-    QTest::addColumn<QRect>("visible");
-
-    const QRect image(0, 0, 4000, 3000);
-    QTest::newRow("zoomed in") << QTransform(4, 0, 0, 4, -400, -800) << QRect(99, 199, 202, 152);
-    QTest::newRow("zoomed out") << QTransform(0.1, 0, 0, 0.1, 0, 0) << image;
-    QTest::newRow("moved out of sight") << QTransform(1, 0, 0, 1, 5000, 0) << QRect();
-    QTest::newRow("fitted to a view of no width") << QTransform(0, 0, 0, 0, 0, 0) << QRect();
-}
-
-void ViewGeometryTest::visiblePart() {
-    QFETCH(QTransform, transform);
-    QFETCH(QRect, visible);
-    const QRect found = visibleImageRect(transform, {0, 0, 800, 600}, {0, 0, 4000, 3000});
-    QCOMPARE(found.isEmpty(), visible.isEmpty());
-    if (!visible.isEmpty())
-        QCOMPARE(found, visible);
 }
 
 QTEST_GUILESS_MAIN(ViewGeometryTest)
