@@ -1,0 +1,243 @@
+#include "safetensors/JsonParser.h"
+
+#include "safetensors/JsonNumber.h"
+#include "safetensors/JsonString.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <new>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+// Holds the usual shape at once.
+constexpr std::size_t firstArrayCapacity = 4;
+
+enum CharacterClass : std::uint8_t { Space = 1, Terminator = 2, Digit = 4, HexDigit = 8, PlainText = 16 };
+
+constexpr auto characterClasses = [] {
+    std::array<std::uint8_t, 256> classes{};
+    const auto mark = [&classes](std::string_view characters, std::uint8_t added) {
+        for (const char character : characters)
+            classes[static_cast<unsigned char>(character)] |= added;
+    };
+    for (std::size_t byte = 0x20; byte < 0x80; ++byte)
+        classes[byte] = byte == '"' || byte == '\\' ? 0 : PlainText;
+    mark("\r\n \t", Space);
+    mark(std::string_view(":,}]\r\n \0", 8), Terminator);
+    mark("0123456789", Digit | HexDigit);
+    mark("abcdefABCDEF", HexDigit);
+    return classes;
+}();
+
+bool isOfClass(char character, CharacterClass characterClass) {
+    return (characterClasses[static_cast<unsigned char>(character)] & characterClass) != 0;
+}
+
+const char* skipClass(const char* cursor, CharacterClass characterClass) {
+    while (isOfClass(*cursor, characterClass))
+        ++cursor;
+    return cursor;
+}
+
+// Null unless digits follow.
+const char* skipDigits(const char* cursor) {
+    return isOfClass(*cursor, Digit) ? skipClass(cursor, Digit) : nullptr;
+}
+
+// The end of the number at `cursor`; null where a point or an exponent has no digits.
+const char* endOfNumber(const char* cursor) {
+    if (*cursor == '-')
+        ++cursor;
+    if (cursor[0] == '0' && cursor[1] == 'x' && isOfClass(cursor[2], HexDigit))
+        return skipClass(cursor + 2, HexDigit);
+    cursor = skipClass(cursor, Digit);
+    if (*cursor == '.')
+        cursor = skipDigits(cursor + 1);
+    if (cursor && *cursor == 'e')
+        cursor = skipDigits(cursor + 1);
+    return cursor;
+}
+
+// The closing quote of a string, or the NUL byte that came first. `isPlain` tells that nothing needs
+// decoding.
+const char* closingQuote(const char* cursor, bool& isPlain) {
+    cursor = skipClass(cursor, PlainText);
+    isPlain = *cursor == '"';
+    while (*cursor != '"' && *cursor != '\0') {
+        if (*cursor == '\\' && cursor[1] != '\0')
+            ++cursor;
+        ++cursor;
+    }
+    return cursor;
+}
+
+class JsonParser {
+public:
+    explicit JsonParser(const char*& cursor) : _cursor(cursor) {}
+
+    JsonError parseValue(JsonValue& out);
+
+private:
+    JsonError parseLiteral(std::string_view word, JsonValue value, JsonValue& out);
+    JsonError parseNested(JsonError (JsonParser::*parse)(JsonValue&), JsonValue& out);
+    JsonError parseArray(JsonValue& out);
+    JsonError parseObject(JsonValue& out);
+    JsonError parseMember(JsonObject& object);
+    JsonError parseNumber(JsonValue& out);
+    JsonError parseString(std::string& out);
+
+    // Corrupted at the end of input.
+    JsonError skipSpace() {
+        _cursor = skipClass(_cursor, Space);
+        return *_cursor == '\0' ? JsonError::Corrupted : JsonError::NoError;
+    }
+    // After an element: past the closing bracket, or past a comma to the next element.
+    JsonError skipSeparator(char closing, bool& isDone);
+
+    const char*& _cursor;
+    int _depth = 0;
+};
+
+JsonError JsonParser::parseValue(JsonValue& out) {
+    _cursor = skipClass(_cursor, Space);
+    switch (*_cursor) {
+    case '{':
+        return parseNested(&JsonParser::parseObject, out);
+    case '[':
+        return parseNested(&JsonParser::parseArray, out);
+    case '"': {
+        std::string text;
+        const JsonError error = parseString(text);
+        out = JsonValue(std::move(text));
+        return error;
+    }
+    case 't':
+        return parseLiteral("true", JsonValue(true), out);
+    case 'f':
+        return parseLiteral("false", JsonValue(false), out);
+    case 'n':
+        return parseLiteral("null", JsonValue(nullptr), out);
+    default:
+        return *_cursor == '-' || isOfClass(*_cursor, Digit) ? parseNumber(out) : JsonError::InvalidToken;
+    }
+}
+
+JsonError JsonParser::parseLiteral(std::string_view word, JsonValue value, JsonValue& out) {
+    std::size_t length = 0;
+    while (length < word.size() && _cursor[length] == word[length])
+        ++length;
+    if (length < word.size() || !isOfClass(_cursor[length], Terminator))
+        return JsonError::Undefined;
+    _cursor += length;
+    out = std::move(value);
+    return JsonError::NoError;
+}
+
+JsonError JsonParser::parseNested(JsonError (JsonParser::*parse)(JsonValue&), JsonValue& out) {
+    if (_depth == jsonDepthLimit)
+        return JsonError::Corrupted;
+    ++_depth;
+    const JsonError error = (this->*parse)(out);
+    --_depth;
+    return error;
+}
+
+JsonError JsonParser::skipSeparator(char closing, bool& isDone) {
+    if (const JsonError error = skipSpace(); error != JsonError::NoError)
+        return error;
+    isDone = *_cursor == closing;
+    if (!isDone && *_cursor != ',')
+        return JsonError::InvalidToken;
+    ++_cursor;
+    return isDone ? JsonError::NoError : skipSpace();
+}
+
+JsonError JsonParser::parseArray(JsonValue& out) {
+    JsonArray items;
+    ++_cursor;
+    JsonError error = skipSpace();
+    bool isDone = *_cursor == ']';
+    if (isDone)
+        ++_cursor;
+    else
+        items.reserve(firstArrayCapacity);
+    while (error == JsonError::NoError && !isDone) {
+        error = parseValue(items.emplace_back());
+        if (error == JsonError::NoError)
+            error = skipSeparator(']', isDone);
+    }
+    out = JsonValue(std::move(items));
+    return error;
+}
+
+JsonError JsonParser::parseObject(JsonValue& out) {
+    JsonObject members;
+    ++_cursor;
+    JsonError error = skipSpace();
+    bool isDone = *_cursor == '}';
+    if (isDone)
+        ++_cursor;
+    while (error == JsonError::NoError && !isDone) {
+        error = parseMember(members);
+        if (error == JsonError::NoError)
+            error = skipSeparator('}', isDone);
+    }
+    out = JsonValue(std::move(members));
+    return error;
+}
+
+JsonError JsonParser::parseMember(JsonObject& object) {
+    std::string key;
+    JsonError error = parseString(key);
+    if (error == JsonError::NoError)
+        error = skipSpace();
+    if (error != JsonError::NoError)
+        return error;
+    if (*_cursor != ':')
+        return JsonError::InvalidToken;
+    ++_cursor;
+    JsonValue value;
+    error = parseValue(value);
+    if (error != JsonError::NoError)
+        return error;
+    return object.insertNew(std::move(key), std::move(value)) ? JsonError::NoError : JsonError::DuplicatedKey;
+}
+
+JsonError JsonParser::parseNumber(JsonValue& out) {
+    const char* const end = endOfNumber(_cursor);
+    if (!end || !isOfClass(*end, Terminator))
+        return JsonError::InvalidToken;
+    out = JsonValue(jsonNumberFromText(std::string_view(_cursor, end)));
+    _cursor = end;
+    return JsonError::NoError;
+}
+
+JsonError JsonParser::parseString(std::string& out) {
+    if (*_cursor != '"')
+        return JsonError::InvalidToken;
+    const char* const opening = _cursor++;
+    bool isPlain = false;
+    const char* const closing = closingQuote(_cursor, isPlain);
+    if (*closing == '\0' || !isOfClass(closing[1], Terminator))
+        return JsonError::InvalidToken;
+    if (isPlain)
+        out.assign(_cursor, closing);
+    else if (!JsonStringDecoder().decode(std::string_view(opening, closing + 1), out))
+        return JsonError::InvalidToken;
+    _cursor = closing + 1;
+    return JsonError::NoError;
+}
+
+} // namespace
+
+JsonError jsonParse(const char*& cursor, JsonValue& out) {
+    try {
+        return JsonParser(cursor).parseValue(out);
+    } catch (const std::bad_alloc&) {
+        return JsonError::MemoryAllocation;
+    }
+}
