@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <string>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,4 +50,12 @@ QString numberedFilePath(const QString& filePath) {
 QString destinationFilePath(const QString& srcFilePath, const QString& directory) {
     const bool isClosed = directory.endsWith(u'/') || directory.endsWith(u'\\');
     return (isClosed ? u"%1%2"_s : u"%1/%2"_s).arg(directory, QFileInfo(srcFilePath).fileName());
+}
+
+QString foldedPath(const QString& path) {
+    // QString::toCaseFolded may change the length of a text ("ß"), which comparing never does.
+    std::u32string characters = path.toStdU32String();
+    for (char32_t& character : characters)
+        character = QChar::toCaseFolded(character);
+    return QString::fromStdU32String(characters);
 }

@@ -1,0 +1,123 @@
+#include "app/MainWindow.h"
+
+#include "app/services/LogService.h"
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "app/services/Themes.h"
+#include "catalogue/MediaFormats.h"
+#include "ui_MainWindow.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int firstScanDelayMs = 250;
+
+// Settings lie beside the executable, or with the user where that place is read-only.
+Settings::SettingsLocation settingsLocation() {
+    const bool isWritable = QFileInfo(QCoreApplication::applicationDirPath()).isWritable();
+    return isWritable ? Settings::AppDirLocation : Settings::UserConfigLocation;
+}
+
+QAction* makeWindowAction(QObject* parent, const QString& text, const QString& iconText, const QString& data,
+                          const QString& icon) {
+    auto* action = new QAction(QIcon(icon), text, parent);
+    action->setIconText(iconText);
+    action->setData(data);
+    return action;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , ui(std::make_unique<Ui::MainWindow>())
+    , _supportedFormats(supportedImageFormats() + supportedVideoFormats()) {
+    ui->setupUi(this);
+    Settings::instance(this, settingsLocation(), {}, false);
+    LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
+    LogService::instance()->init({});
+    initUi();
+    initConnections();
+    // The quality never survives a start, whatever was restored.
+    ui->hSResizeImgWriteQuality->setValue(100);
+    emit ui->gBResizeSpecificSize->toggled(true);
+    QTimer::singleShot(firstScanDelayMs, this, [this] { openWorkingDirectory(ui->lEWorkingPath->text()); });
+}
+
+MainWindow::~MainWindow() {
+    closeToolWindows();
+    writeSettings();
+    Settings::destroyInstance();
+    Themes::destroyInstance();
+    ui.reset();
+    LogService::destroy();
+}
+
+// Tool windows store their geometry when they close, so they go while the settings still stand.
+void MainWindow::closeToolWindows() {
+    const QList<QWidget*> children = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children) {
+        if (child->isWindow() && child->testAttribute(Qt::WA_DeleteOnClose)) {
+            child->close();
+            delete child;
+        }
+    }
+}
+
+void MainWindow::onShowMessage(const QString& msg) {
+    ui->statusbar->showMessage(msg);
+    qDebug().noquote() << msg;
+}
+
+void MainWindow::initUi() {
+    initActions();
+    initViews();
+    initModels();
+    ui->toolBar->addActions(actions());
+    readSettings();
+    initThemes();
+}
+
+void MainWindow::initActions() {
+    QAction* editImageAction = makeWindowAction(this, tr("&Edit image"), tr("Edit image"), u"editImage"_s,
+                                                u":/resources/icons/editImage.svg"_s);
+    QAction* addTagAction =
+        makeWindowAction(this, tr("&Add tag"), tr("Add tag"), u"addTag"_s, u":/resources/icons/tags.svg"_s);
+    QAction* editVideoAction = makeWindowAction(this, tr("&Edit video"), tr("Edit video"), u"editVideo"_s,
+                                                u":/resources/icons/editVideo.svg"_s);
+    addActions({editImageAction, addTagAction});
+    ui->toolBar->addAction(editVideoAction);
+}
+
+void MainWindow::initThemes() {
+    Themes* themes = Themes::instance(this);
+    connect(themes, &Themes::themeChanged, this,
+            [](Themes::Theme theme) { Settings::instance()->setData(keys::appTheme, int(theme), true); });
+    connect(themes, &Themes::themeAccentChanged, this, &MainWindow::updateThemeIcons);
+    const auto theme = static_cast<Themes::Theme>(Settings::instance()->data(keys::appTheme, 0).toInt());
+    ui->menu_Themes->addActions(themes->themeActions(theme));
+    updateThemeIcons(themes->isDarkTheme());
+}
+
+void MainWindow::updateThemeIcons(bool isDarkTheme) {
+    Themes* themes = Themes::instance();
+    themes->tintActions(isDarkTheme, actions());
+    themes->tintActions(isDarkTheme, ui->toolBar->actions());
+    themes->tintButtons(isDarkTheme, {ui->tBSrcSelectPath, ui->pBProcessResize, ui->tBRefreshOpenFilePath,
+                                      ui->tBOllamaReconect, ui->tBSaveTagTxtFile, ui->tBSendOllamaPrompt,
+                                      ui->pBOllamaGo, ui->tBAddEffect, ui->tBSaveTags, ui->tBExportTags});
+}
+
+void MainWindow::initConnections() {
+    connect(ui->actionExit, &QAction::triggered, this, &QWidget::close);
+    initCatalogueConnections();
+    initTagConnections();
+}

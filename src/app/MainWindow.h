@@ -1,0 +1,182 @@
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QList>
+#include <QMainWindow>
+#include <QModelIndexList>
+#include <QStringList>
+
+#include <memory>
+
+class IconIdentityProxyModel;
+class ImageLoaderThreaded;
+class MediaItem;
+class QAbstractItemView;
+class QFileSystemWatcher;
+class QHeaderView;
+class QListWidget;
+class QMenu;
+class QStandardItem;
+class MediaItemModel;
+class SortFilterProxyModel;
+struct MediaRecord;
+
+namespace Ui {
+class MainWindow;
+}
+
+// The hub: owns the catalogue, the tag record and all tool windows, and turns the signals of workers and
+// windows into changes of the catalogue. Each heading's members live in the folder of that subsystem. GUI
+// thread only.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // --- Start, state and wiring (app) -----------------------------------------------------------
+public slots:
+    // Status bar text without time-out, and the same text to the log.
+    void onShowMessage(const QString& msg);
+    void updateThemeIcons(bool isDarkTheme);
+
+private:
+    void initUi();
+    void initActions();
+    void initConnections();
+    void initCatalogueConnections();
+    void initTagConnections();
+    void initThemes();
+    void closeToolWindows();
+    void readSettings();
+    void writeSettings();
+
+    std::unique_ptr<Ui::MainWindow> ui;
+
+    // --- Scan and media model (catalogue) --------------------------------------------------------
+public:
+    void openWorkingDirectory(const QString& path);
+    [[nodiscard]] QStringList allFilePaths() const;
+    // Column 0 indexes of the view now shown, in terms of that view's model.
+    [[nodiscard]] QModelIndexList selectedIndexes() const;
+    [[nodiscard]] QStringList selectedFilePaths() const;
+
+private:
+    [[nodiscard]] QStringList scanDirectory(const QString& path, const QStringList& nameFilters,
+                                            bool recursive) const;
+    void clearItemModel();
+    void addFileItem(const QString& filePath);
+    void addFileItems(const QStringList& filePaths);
+    void removeFileItem(const QString& filePath);
+    void removeFileItems(const QStringList& filePaths);
+    void populateUiImage(const QStringList& files);
+    [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
+    [[nodiscard]] QAbstractItemView* currentMediaView() const;
+    [[nodiscard]] MediaItem* mediaItem(const QString& filePath) const;
+
+    MediaItemModel* _itemModel = nullptr;
+    QHash<QString, QStandardItem*> _itemsByPath;
+    QString _workingPath;
+    QStringList _supportedFormats;
+    int _scanGeneration = 0;
+
+    // --- Previews (catalogue) --------------------------------------------------------------------
+public slots:
+    void onItemImageLoaded(const QString& fileName, const QImage& img);
+
+private:
+    void queuePreview(const QString& filePath, const QSize& size);
+    void setItemImage(const QString& filePath, const QSize& size, const QImage& image);
+    [[nodiscard]] QSize previewSize() const;
+
+    ImageLoaderThreaded* _imageLoader = nullptr;
+
+    // --- Views, sorting and filtering (catalogue) ------------------------------------------------
+public slots:
+    void onImagesSortByCol(int col);
+    void onImagesSortByFileName();
+    void onImagesSortByFilePath();
+    void onImagesSortByResolution();
+    void onHeaderContextMenu(const QPoint& pos);
+    void onImagesCustomContextMenu();
+    void onDockWidgetImagePreviewCustomMenu();
+    void onFilterImages(const QString& txt);
+    void onItemSelectedChanged();
+
+private:
+    void initViews();
+    void initListView();
+    void initTreeView();
+    void initTableView();
+    void initModels();
+    void showMediaPreview(const QString& filePath);
+    void addViewMenu(QMenu& menu);
+    void addSortMenu(QMenu& menu);
+
+    SortFilterProxyModel* _proxyModel = nullptr;
+    IconIdentityProxyModel* _iconProxyModel = nullptr;
+
+    // --- Directory watcher and refresh (catalogue) -----------------------------------------------
+public slots:
+    void onRefreshOpenFilePath();
+
+private:
+    // --- Sidecars (tags) -------------------------------------------------------------------------
+public:
+    [[nodiscard]] QStringList imageTags(const QString& filePath) const;
+    void setImageTags(const QString& filePath, const QStringList& tags);
+    void removeImageTags(const QString& filePath);
+
+public slots:
+    void onSaveTags();
+    void onSaveTagTxtFile();
+    void onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags);
+
+private:
+    // Reads the sidecar of a media file, shows it in the raw text editor and binds the editor to it.
+    QStringList readTagFile(const QString& filePath);
+    // The same for many files, whose tags are stored.
+    void readTagFiles(const QStringList& filePaths);
+    void saveTagTxtFile(const QString& txtFileName, const QString& text);
+    void checkMediaKey(const QString& filePath) const;
+
+    QHash<QString, QStringList> _imageTags;
+
+    // --- Tag panels (tags) -----------------------------------------------------------------------
+public slots:
+    void onAllImagesTagSelectedChanged();
+    void onFilterTag(const QString& txt);
+    void onFilterAllTags(const QString& txt);
+    void onImageTagCustomContextMenu();
+    void onImagesTagsCustomContextMenu();
+    void onTagCopyToClipboard();
+    void onAllTagCopy();
+    void onTagDelete();
+    void onTagsDelete();
+    void onAllTagDelete();
+
+private:
+    void initTagViews();
+    void refreshAllTags();
+    void refreshSelectionTags(const QStringList& filePaths);
+    void refreshImageTags(const QString& filePath);
+    void deleteTagsEverywhere(const QStringList& tags);
+    void addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order);
+
+    Qt::SortOrder _imageTagsSortOrder = Qt::DescendingOrder;
+    Qt::SortOrder _allTagsSortOrder = Qt::DescendingOrder;
+
+    // --- Tag entry, text operations and export (tags) --------------------------------------------
+public slots:
+    void addTagToSelected();
+    void onAddTagsAccepted(const QString& text);
+    void editTagFor(const QString& filePath);
+    void replaceTagText(const QString& src, const QString& dst);
+    void splitTagText(const QString& src);
+    void onTagsExport();
+
+private:
+    void openTextDialog(int operationType);
+};

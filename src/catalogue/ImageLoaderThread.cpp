@@ -1,0 +1,56 @@
+#include "catalogue/ImageLoaderThread.h"
+
+#include "catalogue/MediaFormats.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileInfo>
+#include <QImageReader>
+
+PreviewResult decodePreview(const QString& filePath, const QSize& size) {
+    QImageReader reader(filePath);
+    if (QImage(size, QImage::Format_ARGB32_Premultiplied).isNull()) {
+        qDebug() << "Error, unable to allocate image.";
+        return {{}, QCoreApplication::translate("ImageLoaderThread", "Unable to allocate image.")};
+    }
+    PreviewResult result;
+    result.image = reader.read();
+    // Scaling a null image would only log a warning of its own.
+    if (!result.image.isNull())
+        result.image = result.image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    if (result.image.isNull()) {
+        qDebug() << "Image read error:" << reader.errorString();
+        result.error = QCoreApplication::translate("ImageLoaderThread", "Image read error: %1")
+                           .arg(reader.errorString());
+    }
+    return result;
+}
+
+ImageLoaderThread::ImageLoaderThread() {
+    setObjectName(QLatin1StringView("ImageLoaderThread"));
+}
+
+void ImageLoaderThread::setJob(const QString& imgFilePath, const QSize& size) {
+    _imgFilePath = imgFilePath;
+    _size = size;
+}
+
+void ImageLoaderThread::run() {
+    _image = {};
+    _error.clear();
+    if (_imgFilePath.isEmpty()) {
+        _error = tr("Image file path empty.");
+        return;
+    }
+    if (_stop)
+        return;
+    if (supportedImageFormats().contains(QFileInfo(_imgFilePath).suffix().toLower())) {
+        PreviewResult result = decodePreview(_imgFilePath, _size);
+        _image = std::move(result.image);
+        _error = std::move(result.error);
+    } else {
+        qDebug() << "Unsupported file format:" << _imgFilePath;
+    }
+    if (!_stop)
+        emit imageLoaded();
+}

@@ -1,0 +1,165 @@
+#include "catalogue/ImageLoaderThreaded.h"
+
+#include "catalogue/ImageLoaderThread.h"
+#include "catalogue/MediaFormats.h"
+
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int stopDeadlineMs = 250;
+
+QString queueSuffix(const QString& filePath) {
+    return QFileInfo(filePath).suffix().toLower();
+}
+
+} // namespace
+
+ImageLoaderThreaded::ImageLoaderThreaded(QObject* parent)
+    : QObject(parent), _videoFormats(supportedVideoFormats()), _imageFormats(supportedImageFormats()) {}
+
+ImageLoaderThreaded::~ImageLoaderThreaded() {
+    stop();
+    for (ImageLoaderThread* worker : std::as_const(_abandonedThreads)) {
+        worker->wait();
+        delete worker;
+    }
+}
+
+void ImageLoaderThreaded::enqueue(const QString& filePath, bool startNow) {
+    _queue.append(filePath);
+    if (startNow)
+        processQueue();
+}
+
+void ImageLoaderThreaded::start() {
+    _startTime = QDateTime::currentMSecsSinceEpoch();
+    processQueue();
+}
+
+void ImageLoaderThreaded::stop() {
+    _queue.clear();
+    destroyPools();
+}
+
+void ImageLoaderThreaded::processQueue() {
+    qDebug() << "ImageLoaderThreaded::processQueue" << _queue.size();
+    if (_queue.isEmpty()) {
+        if (!isAnythingRunning())
+            finishLoad();
+        return;
+    }
+    const QString headSuffix = queueSuffix(_queue.first());
+    if (_videoFormats.contains(headSuffix)) {
+        _queue.removeFirst();
+        processQueue();
+    } else if (_imageFormats.contains(headSuffix)) {
+        dispatchImages();
+    } else {
+        qDebug() << "Error, neither image nor video:" << _queue.takeFirst();
+        processQueue();
+    }
+}
+
+bool ImageLoaderThreaded::isAnythingRunning() const {
+    return std::ranges::any_of(_imageThreads, &ImageLoaderThread::isBusy);
+}
+
+void ImageLoaderThreaded::finishLoad() {
+    qDebug() << "Loaded all media previews.";
+    const double seconds = static_cast<double>(QDateTime::currentMSecsSinceEpoch() - _startTime) / 1000.0;
+    emit showMessage(tr("Loaded all media previews in: %1 s").arg(seconds));
+    destroyPools();
+}
+
+void ImageLoaderThreaded::createImageThreads() {
+    if (_imageThreads.size() == _imageThreadCount)
+        return;
+    while (_imageThreads.size() < _imageThreadCount) {
+        auto* worker = new ImageLoaderThread;
+        connect(worker, &QThread::finished, this, &ImageLoaderThreaded::onImageLoaded);
+        _imageThreads.append(worker);
+    }
+    qDebug() << "Created image threads:" << _imageThreads.size();
+}
+
+void ImageLoaderThreaded::dispatchImages() {
+    createImageThreads();
+    for (qsizetype tries = 0; tries < _imageThreads.size() && !_queue.isEmpty(); ++tries) {
+        const auto idle = std::ranges::find_if_not(_imageThreads, &ImageLoaderThread::isBusy);
+        if (idle == _imageThreads.end()) {
+            qDebug() << "Info, got null image thread.";
+            return;
+        }
+        const QString filePath = takeFirstOf(_imageFormats);
+        if (filePath.isEmpty())
+            return;
+        ImageLoaderThread* worker = *idle;
+        worker->setBusy(true);
+        worker->setJob(filePath, _previewSize);
+        worker->start(QThread::InheritPriority);
+    }
+}
+
+QString ImageLoaderThreaded::takeFirstOf(const QStringList& suffixes) {
+    const auto found = std::ranges::find_if(
+        _queue, [&](const QString& path) { return suffixes.contains(queueSuffix(path)); });
+    return found == _queue.end() ? QString() : _queue.takeAt(found - _queue.begin());
+}
+
+void ImageLoaderThreaded::onImageLoaded() {
+    // A finished signal that was queued before a stop arrives without its worker.
+    auto* worker = qobject_cast<ImageLoaderThread*>(sender());
+    if (!worker) {
+        qDebug() << "Error, unable to case to thread!";
+        return;
+    }
+    if (worker->image().isNull()) {
+        qDebug() << "Image loaded in thread is empty:"
+                 << "_queue.size:" << _queue.size() << "_imgFilePath:" << worker->imgFilePath()
+                 << "_image:" << worker->image() << "_error:" << worker->error()
+                 << "isFinished:" << worker->isFinished() << "isRunning:" << worker->isRunning();
+    }
+    emit loadedImage(worker->imgFilePath(), worker->image());
+    worker->setBusy(false);
+    processQueue();
+}
+
+void ImageLoaderThreaded::destroyPools() {
+    for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {
+        disconnect(worker, &QThread::finished, this, &ImageLoaderThreaded::onImageLoaded);
+        worker->requestStop();
+        worker->quit();
+    }
+    const QDeadlineTimer deadline(stopDeadlineMs);
+    for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {
+        if (worker->wait(deadline)) {
+            delete worker;
+        } else {
+            qDebug() << "Waited for thread to finish, terminating.";
+            abandon(worker);
+        }
+    }
+    _imageThreads.clear();
+}
+
+// A thread inside an image decoder cannot be terminated without taking the process with it.
+void ImageLoaderThreaded::abandon(ImageLoaderThread* worker) {
+    _abandonedThreads.append(worker);
+    connect(worker, &QThread::finished, this, [this, worker] {
+        if (_abandonedThreads.removeOne(worker)) {
+            worker->wait();
+            delete worker;
+        }
+    });
+    // It may have ended between the wait and the connection.
+    if (worker->isFinished() && _abandonedThreads.removeOne(worker)) {
+        worker->wait();
+        delete worker;
+    }
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QSize>
+#include <QStringList>
+#include <QVariant>
+
+class ImageLoaderThread;
+
+// Coordinates the preview load on the GUI thread: one queue of files, a pool of image workers and a pool of
+// video loaders. The pools exist while a load runs.
+class ImageLoaderThreaded : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ImageLoaderThreaded(QObject* parent = nullptr);
+    ~ImageLoaderThreaded() override;
+
+    // Takes effect for threads made later.
+    void setImageThreadCount(int count) { _imageThreadCount = count; }
+    void setPreviewSize(const QSize& size) { _previewSize = size; }
+    void enqueue(const QString& filePath, bool startNow);
+    void start();
+    // Returns with both pools empty; no result comes after it. A worker that is still decoding finishes
+    // alone.
+    void stop();
+    void processQueue();
+
+signals:
+    void loadedImage(QString fileName, QImage img);
+    void loadedVideoImageMeta(QString fileName, QHash<QString, QVariant> videoMeta);
+    void showMessage(QString msg);
+
+public slots:
+    void onImageLoaded();
+
+private:
+    [[nodiscard]] bool isAnythingRunning() const;
+    void finishLoad();
+    void dispatchImages();
+    void createImageThreads();
+    [[nodiscard]] QString takeFirstOf(const QStringList& suffixes);
+    void destroyPools();
+    void abandon(ImageLoaderThread* worker);
+
+    QStringList _queue;
+    QList<ImageLoaderThread*> _imageThreads;
+    // Workers that outlasted a stop; each is deleted when its decode ends, the last ones by the destructor.
+    QList<ImageLoaderThread*> _abandonedThreads;
+    QSize _previewSize;
+    int _imageThreadCount = 4;
+    qint64 _startTime = 0;
+    QStringList _videoFormats;
+    QStringList _imageFormats;
+};

@@ -1,0 +1,46 @@
+#include "app/MainWindow.h"
+
+#include "catalogue/MediaFormats.h"
+#include "ui_MainWindow.h"
+
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+void MainWindow::onImagesCustomContextMenu() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    const QString firstFile = files.first();
+    QMenu menu;
+    const QList<QAction*> windowActions = actions();
+    for (QAction* action : windowActions) {
+        if (action->data().toString() != "editImage"_L1 || !isVideoFile(firstFile))
+            menu.addAction(action);
+    }
+    menu.addAction(tr("Refresh"), this, &MainWindow::onRefreshOpenFilePath);
+    addViewMenu(menu);
+    addSortMenu(menu);
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::addViewMenu(QMenu& menu) {
+    QMenu* view = menu.addMenu(tr("&View"));
+    view->addAction(tr("&Icon"), this, [this] {
+        ui->listView->setViewMode(QListView::IconMode);
+        ui->stackedWidget->setCurrentWidget(ui->pageListView);
+    });
+    view->addAction(tr("&List simple"), this, [this] {
+        ui->listView->setViewMode(QListView::ListMode);
+        ui->stackedWidget->setCurrentWidget(ui->pageListView);
+    });
+    view->addAction(tr("&List"), this, [this] { ui->stackedWidget->setCurrentWidget(ui->pageTreeView); });
+    view->addAction(tr("&Table"), this, [this] { ui->stackedWidget->setCurrentWidget(ui->pageTableView); });
+}
+
+void MainWindow::addSortMenu(QMenu& menu) {
+    QMenu* sort = menu.addMenu(tr("&Sort"));
+    sort->addAction(tr("&Name"), this, &MainWindow::onImagesSortByFileName);
+    sort->addAction(tr("&Path"), this, &MainWindow::onImagesSortByFilePath);
+    sort->addAction(tr("&Resolution"), this, &MainWindow::onImagesSortByResolution);
+}

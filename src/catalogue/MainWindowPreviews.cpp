@@ -1,0 +1,58 @@
+#include "app/MainWindow.h"
+
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/ImageLoaderThreaded.h"
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaModel.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QImageReader>
+
+namespace {
+
+constexpr QMargins gridMargins(11, 11, 11, 11);
+
+} // namespace
+
+QSize MainWindow::previewSize() const {
+    return ui->listView->gridSize().shrunkBy(gridMargins);
+}
+
+void MainWindow::queuePreview(const QString& filePath, const QSize& size) {
+    if (!_imageLoader) {
+        _imageLoader = new ImageLoaderThreaded(this);
+        connect(_imageLoader, &ImageLoaderThreaded::loadedImage, this, &MainWindow::onItemImageLoaded);
+        connect(_imageLoader, &ImageLoaderThreaded::showMessage, this, &MainWindow::onShowMessage);
+        _imageLoader->setImageThreadCount(
+            Settings::instance()->data(keys::imagePreviewThreadCount, 4).toInt());
+        _imageLoader->setPreviewSize(size);
+    }
+    _imageLoader->enqueue(filePath, false);
+    // The row has its final size before its thumbnail is there. The tool tip follows with the thumbnail:
+    // reading the header of every queued file here would double the time of a scan.
+    if (MediaItem* item = mediaItem(filePath)) {
+        item->setThumbnail({}, size);
+        item->notifyChanged();
+    } else {
+        qDebug() << "Error, unable to find model item for:" << filePath;
+    }
+}
+
+void MainWindow::setItemImage(const QString& filePath, const QSize& size, const QImage& image) {
+    MediaItem* item = mediaItem(filePath);
+    if (!item) {
+        qDebug() << "Error, unable to find model item for:" << filePath;
+        return;
+    }
+    item->setThumbnail(image, size);
+    item->setData(mediaToolTip(QImageReader(filePath).size(), filePath), Qt::ToolTipRole);
+    item->notifyChanged();
+}
+
+void MainWindow::onItemImageLoaded(const QString& fileName, const QImage& img) {
+    if (img.isNull())
+        qDebug() << "--- null image from thread:" << fileName;
+    setItemImage(fileName, previewSize(), img);
+}

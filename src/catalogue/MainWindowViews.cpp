@@ -1,0 +1,235 @@
+#include "app/MainWindow.h"
+
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/IconIdentityProxyModel.h"
+#include "catalogue/MediaFilter.h"
+#include "catalogue/MediaFormats.h"
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaModel.h"
+#include "catalogue/SortFilterProxyModel.h"
+#include "catalogue/UpdatesOff.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QMenu>
+#include <QMessageBox>
+
+namespace {
+
+constexpr QSize smallIconSize(32, 32);
+constexpr QSize defaultGridSize(240, 240);
+
+void setUpMediaView(QAbstractItemView* view) {
+    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view->setDragDropMode(QAbstractItemView::NoDragDrop);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    view->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+}
+
+void setUpMediaHeader(QHeaderView* header) {
+    header->setSectionsClickable(true);
+    header->setSortIndicatorClearable(true);
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    header->setSectionsMovable(true);
+}
+
+// The selection model that a view made for itself is ours to delete once the view has another.
+void setMediaModel(QAbstractItemView* view, QAbstractItemModel* model) {
+    const QItemSelectionModel* previous = view->selectionModel();
+    view->setModel(model);
+    delete previous;
+}
+
+void hideHeaderSection(QHeaderView* header, int section) {
+    if (header->count() - header->hiddenSectionCount() > 1)
+        header->setSectionHidden(section, true);
+}
+
+void showAllHeaderSections(QHeaderView* header) {
+    for (int section = 0; section < header->count(); ++section)
+        header->setSectionHidden(section, false);
+}
+
+} // namespace
+
+void MainWindow::initCatalogueConnections() {
+    connect(ui->tBRefreshOpenFilePath, &QToolButton::clicked, this, &MainWindow::onRefreshOpenFilePath);
+    for (const QAbstractItemView* view : mediaViews())
+        connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
+    for (const QHeaderView* header : {ui->tableView->horizontalHeader(), ui->treeView->header()})
+        connect(header, &QWidget::customContextMenuRequested, this, &MainWindow::onHeaderContextMenu);
+    for (const QAbstractItemView* view : mediaViews()) {
+        connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                &MainWindow::onItemSelectedChanged);
+    }
+    connect(ui->leFilterImages, &QLineEdit::textChanged, this, &MainWindow::onFilterImages);
+    connect(ui->dockWidget_ImgPreview, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onDockWidgetImagePreviewCustomMenu);
+    connect(ui->imgWidget, &EditImageWidget::zoomChanged, this, [this](QPointF zoom) {
+        ui->dockWidget_ImgPreview->setWindowTitle(
+            tr("Image %2 preview [zoom: %1]").arg(QString::number(zoom.x()), ui->imgWidget->imageSizeText()));
+    });
+}
+
+void MainWindow::initViews() {
+    setWindowTitle(QString::fromLatin1("%1 - %2").arg(QCoreApplication::applicationName(),
+                                                      QCoreApplication::applicationVersion()));
+    setDockNestingEnabled(true);
+    for (QAbstractItemView* view : mediaViews())
+        setUpMediaView(view);
+    initListView();
+    initTreeView();
+    initTableView();
+    ui->imgWidget->setAutoCenter(true);
+    ui->imgWidget->setAutoFit(true);
+    initTagViews();
+    ui->cBResizeSrcScaleAlignment->addItems({tr("Top left"), tr("Top center"), tr("Top right"),
+                                             tr("Center left"), tr("Center center"), tr("Center right"),
+                                             tr("Bottom left"), tr("Bottom center"), tr("Bottom right")});
+    ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
+}
+
+void MainWindow::initListView() {
+    ui->listView->setViewMode(QListView::IconMode);
+    // Icon mode lets items be dragged about unless their movement is fixed.
+    ui->listView->setMovement(QListView::Static);
+    const QSize gridSize = Settings::instance()->data(keys::gridSizeListView, defaultGridSize).toSize();
+    ui->listView->setGridSize(gridSize);
+    ui->listView->setIconSize(gridSize);
+    ui->listView->setResizeMode(QListView::Adjust);
+    ui->listView->setSpacing(8);
+    ui->listView->setUniformItemSizes(false);
+}
+
+void MainWindow::initTreeView() {
+    ui->treeView->setIconSize(Settings::instance()->data(keys::gridSizeTreeView, smallIconSize).toSize());
+    ui->treeView->setRootIsDecorated(true);
+    ui->treeView->setSortingEnabled(true);
+    setUpMediaHeader(ui->treeView->header());
+}
+
+void MainWindow::initTableView() {
+    ui->tableView->setIconSize(Settings::instance()->data(keys::gridSizeTableView, smallIconSize).toSize());
+    ui->tableView->setShowGrid(true);
+    ui->tableView->setSortingEnabled(true);
+    ui->tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    ui->tableView->setWordWrap(true);
+    QHeaderView* header = ui->tableView->horizontalHeader();
+    setUpMediaHeader(header);
+    header->setStretchLastSection(true);
+    header->setSectionResizeMode(QHeaderView::Interactive);
+}
+
+void MainWindow::initModels() {
+    _itemModel = new MediaItemModel(this);
+    _proxyModel = new SortFilterProxyModel(this);
+    _proxyModel->setSourceModel(_itemModel);
+    _proxyModel->setSortRole(RoleValue);
+    _proxyModel->setFilterKeyColumn(-1);
+    _iconProxyModel = new IconIdentityProxyModel(smallIconSize, this);
+    _iconProxyModel->setSourceModel(_proxyModel);
+    setMediaModel(ui->listView, _proxyModel);
+    setMediaModel(ui->treeView, _iconProxyModel);
+    setMediaModel(ui->tableView, _iconProxyModel);
+}
+
+void MainWindow::onImagesSortByCol(int col) {
+    const Qt::SortOrder order =
+        _proxyModel->sortOrder() == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    _proxyModel->sort(col, order);
+    ui->tableView->horizontalHeader()->setSortIndicator(col, _proxyModel->sortOrder());
+    ui->treeView->header()->setSortIndicator(col, _proxyModel->sortOrder());
+}
+
+void MainWindow::onImagesSortByFileName() {
+    onImagesSortByCol(ColName);
+}
+
+void MainWindow::onImagesSortByFilePath() {
+    onImagesSortByCol(ColPath);
+}
+
+void MainWindow::onImagesSortByResolution() {
+    onImagesSortByCol(ColResolution);
+}
+
+void MainWindow::onHeaderContextMenu(const QPoint& pos) {
+    auto* header = qobject_cast<QHeaderView*>(sender());
+    if (!header) {
+        qDebug() << "Error, sender is not header view...";
+        return;
+    }
+    QMenu menu;
+    menu.addAction(tr("Hide"), this, [=] { hideHeaderSection(header, header->logicalIndexAt(pos.x())); });
+    menu.addAction(tr("Show all"), this, [=] { showAllHeaderSections(header); });
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::onDockWidgetImagePreviewCustomMenu() {
+    QMenu menu;
+    menu.addAction(tr("Auto center"), this,
+                   [this] { ui->imgWidget->setAutoCenter(!ui->imgWidget->autoCenter()); });
+    menu.addAction(tr("Auto fit"), this, [this] { ui->imgWidget->setAutoFit(!ui->imgWidget->autoFit()); });
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::onFilterImages(const QString& txt) {
+    // The flags change silently and the proxy looks at all rows once: a signal for each row would cost far
+    // more.
+    const UpdatesOff updatesOff(mediaViews());
+    const bool wantsMissingTxt = isMissingTxtFilter(txt);
+    const MediaFilter filter(txt);
+    for (int row = 0; row < _itemModel->rowCount(); ++row) {
+        auto* item = static_cast<MediaItem*>(_itemModel->item(row, ColName));
+        const QString filePath = item->data(RoleValue).toString();
+        if (txt.isEmpty())
+            item->setHidden(false);
+        else if (wantsMissingTxt)
+            item->setHidden(hasFilledTxtFile(filePath));
+        else
+            item->setHidden(!filter.matches(*_itemModel, row, _imageTags.value(filePath)));
+    }
+    _proxyModel->invalidate();
+}
+
+void MainWindow::onItemSelectedChanged() {
+    qDebug() << "Selection changed";
+    const QStringList files = selectedFilePaths();
+    ui->labelCurrentSelectionTags->setText(tr("Current selection [%1] tags:").arg(files.size()));
+    if (files.isEmpty()) {
+        refreshSelectionTags({});
+        qDebug() << "Selection empty:" << files;
+        return;
+    }
+    refreshSelectionTags(files);
+    readTagFile(files.first());
+    showMediaPreview(files.first());
+    onShowMessage(tr("Selected: %1 items").arg(files.size()));
+}
+
+void MainWindow::showMediaPreview(const QString& filePath) {
+    if (isVideoFile(filePath)) {
+        ui->dockWidget_ImgPreview->setWindowTitle(tr("Video preview"));
+        ui->vidWidget->start(filePath);
+        ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewVideo);
+    } else {
+        ui->vidWidget->start({});
+        ui->imgWidget->setImageFilePath(filePath);
+        ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewImage);
+    }
+}
+
+void MainWindow::onRefreshOpenFilePath() {
+    QMessageBox box(this);
+    box.setText(tr("Refresh %1 working directory?").arg(ui->lEWorkingPath->text()));
+    box.setInformativeText(tr("All unsaved changes to tags will be discarded."));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::No);
+    if (box.exec() != QMessageBox::No)
+        openWorkingDirectory(ui->lEWorkingPath->text());
+}

@@ -1,0 +1,34 @@
+#include "catalogue/MediaFilter.h"
+
+#include "catalogue/MediaModel.h"
+
+#include <QStandardItemModel>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+bool isMissingTxtFilter(const QString& txt) {
+    return txt.compare(":missingtxt"_L1, Qt::CaseInsensitive) == 0;
+}
+
+MediaFilter::MediaFilter(const QString& txt) : _matcher(txt, Qt::CaseInsensitive) {}
+
+bool MediaFilter::matches(const QStandardItemModel& model, int row, const QStringList& tags) const {
+    auto* name = static_cast<MediaItem*>(model.item(row, ColName));
+    for (const int role : {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(RoleValue)}) {
+        if (isIn(name->data(role).toString()))
+            return true;
+    }
+    for (const MediaColumn column : std::array{ColPath, ColSize, ColResolution}) {
+        if (isIn(model.item(row, column)->text()))
+            return true;
+    }
+    // Forming the text of a date costs more than all other tests of a row together.
+    if (name->lastModifiedText().isNull())
+        name->setLastModifiedText(model.item(row, ColLastModified)->text());
+    if (isIn(name->lastModifiedText()))
+        return true;
+    return std::ranges::any_of(tags, [this](const QString& tag) { return isIn(tag); });
+}

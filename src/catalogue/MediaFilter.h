@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringMatcher>
+
+class QStandardItemModel;
+
+// Whether the filter text asks for the files whose sidecar is missing or empty.
+[[nodiscard]] bool isMissingTxtFilter(const QString& txt);
+
+// The file filter's search through one row of the catalogue and the tags of its file, regardless of case.
+class MediaFilter {
+public:
+    explicit MediaFilter(const QString& txt);
+
+    [[nodiscard]] bool matches(const QStandardItemModel& model, int row, const QStringList& tags) const;
+
+private:
+    [[nodiscard]] bool isIn(const QString& text) const { return _matcher.indexIn(text) >= 0; }
+
+    QStringMatcher _matcher;
+};

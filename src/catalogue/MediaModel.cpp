@@ -1,0 +1,180 @@
+#include "catalogue/MediaModel.h"
+
+#include "catalogue/FileNaming.h"
+#include "catalogue/MediaFormats.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStandardItem* mediaCell(const QVariant& display, const QVariant& value) {
+    auto* item = new QStandardItem;
+    item->setData(display, Qt::DisplayRole);
+    item->setData(value, RoleValue);
+    return item;
+}
+
+// All rows without a thumbnail share one canvas.
+QImage emptyCanvas(const QSize& size) {
+    static QImage canvas;
+    if (canvas.size() != size)
+        canvas = centredOnCanvas({}, size);
+    return canvas;
+}
+
+bool isFullyOpaque(const QImage& image) {
+    if (!image.hasAlphaChannel())
+        return true;
+    const QImage words = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < words.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(words.constScanLine(y));
+        for (int x = 0; x < words.width(); ++x) {
+            if (qAlpha(line[x]) != 255)
+                return false;
+        }
+    }
+    return true;
+}
+
+// Wraps around for sizes that only a damaged header can claim.
+int pixelCount(const QSize& size) {
+    return static_cast<int>(static_cast<qint64>(size.width()) * size.height());
+}
+
+} // namespace
+
+QString embeddedComment(const QImageReader& reader) {
+    constexpr std::array commentKeys{"Comment"_L1, "parameters"_L1, "Description"_L1};
+    for (const QLatin1StringView key : commentKeys) {
+        if (const QString text = reader.text(key); !text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
+MediaRecord readMediaRecord(const QString& filePath) {
+    const QFileInfo info(filePath);
+    const QImageReader reader(filePath);
+    MediaRecord record;
+    record.filePath = filePath;
+    record.resolution = reader.size();
+    record.comment = embeddedComment(reader);
+    record.fileName = info.fileName();
+    record.path = info.path();
+    record.suffix = info.suffix();
+    record.size = info.size();
+    record.lastModified = info.fileTime(QFile::FileModificationTime);
+    record.hasTxtFile = hasFilledTxtFile(filePath);
+    return record;
+}
+
+bool hasFilledTxtFile(const QString& filePath) {
+    const QString sidecar = imgFilePathToTxtFilePath(filePath);
+    const QFileInfo info(sidecar);
+    return !sidecar.isEmpty() && info.exists() && info.size() != 0;
+}
+
+QString resolutionText(const QSize& resolution) {
+    return u"%1x%2"_s.arg(resolution.width()).arg(resolution.height());
+}
+
+QString mediaToolTip(const QSize& resolution, const QString& filePath) {
+    const QFileInfo info(filePath);
+    return resolutionText(resolution) + u' ' + info.suffix().toUpper() + u'\n' + info.fileName() + u'\n' +
+           info.path();
+}
+
+QImage centredOnCanvas(const QImage& image, const QSize& canvasSize) {
+    QImage canvas(canvasSize, QImage::Format_ARGB32_Premultiplied);
+    if (canvas.isNull()) {
+        qDebug() << "Error, unable to allocate image.";
+        return canvas;
+    }
+    canvas.fill(Qt::transparent);
+    if (!image.isNull()) {
+        const QPoint origin((canvas.width() - image.width()) / 2, (canvas.height() - image.height()) / 2);
+        QPainter painter(&canvas);
+        painter.drawImage(canvas.rect(), image, QRect(-origin, canvasSize));
+    }
+    return canvas;
+}
+
+QImage compactThumbnail(const QImage& image) {
+    if (image.isNull())
+        return image;
+    return image.convertToFormat(isFullyOpaque(image) ? QImage::Format_RGB888
+                                                      : QImage::Format_ARGB32_Premultiplied);
+}
+
+QVariant MediaItem::data(int role) const {
+    switch (role) {
+    case Qt::DecorationRole:
+        if (!_canvasSize.isValid())
+            return {};
+        return _thumbnail.isNull() ? emptyCanvas(_canvasSize) : centredOnCanvas(_thumbnail, _canvasSize);
+    case RoleHidden:
+        return _hidden;
+    default:
+        return QStandardItem::data(role);
+    }
+}
+
+void MediaItem::setData(const QVariant& value, int role) {
+    switch (role) {
+    case Qt::DecorationRole: {
+        const auto image = value.value<QImage>();
+        setThumbnail(image, image.size());
+        emitDataChanged();
+        break;
+    }
+    case RoleHidden:
+        _hidden = value.toBool();
+        emitDataChanged();
+        break;
+    default:
+        QStandardItem::setData(value, role);
+    }
+}
+
+void MediaItem::setThumbnail(const QImage& image, const QSize& canvasSize) {
+    _thumbnail = compactThumbnail(image);
+    _canvasSize = canvasSize;
+}
+
+QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes, const QString& no) {
+    QList<QStandardItem*> row;
+    row.reserve(MediaColumnCount);
+
+    auto* name = new MediaItem;
+    name->setData(mediaToolTip(record.resolution, record.filePath), Qt::ToolTipRole);
+    name->setData(record.fileName, Qt::DisplayRole);
+    name->setData(record.filePath, RoleValue);
+    row.append(name);
+
+    QStandardItem* path = mediaCell(record.path, record.path);
+    path->setData(record.path, Qt::ToolTipRole);
+    row.append(path);
+
+    row.append(mediaCell(formatSize(record.size, 1), record.size));
+    row.append(mediaCell(resolutionText(record.resolution), pixelCount(record.resolution)));
+    row.append(mediaCell(record.lastModified, record.lastModified));
+    // The cells of videos exist from the start: the probe fetches the items to fill them.
+    for (int column = ColDuration; column <= ColVideoFrameRate; ++column)
+        row.append(new QStandardItem);
+
+    const QString hasComment = record.comment.isEmpty() ? no : yes;
+    QStandardItem* comment = mediaCell(hasComment, hasComment);
+    comment->setData(record.comment, RoleComment);
+    row.append(comment);
+
+    row.append(mediaCell(record.suffix, record.suffix));
+    row.append(mediaCell(record.hasTxtFile ? yes : no, record.hasTxtFile));
+    return row;
+}

@@ -1,0 +1,34 @@
+#include "tags/AddTagsDialog.h"
+
+#include "ui_AddTagsDialog.h"
+
+AddTagsDialog::AddTagsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_unique<Ui::AddTagsDialog>()) {
+    _ui->setupUi(this);
+    setWindowTitle(tr("Add tags, one per line or/and \",\" separated.."));
+    connect(_ui->pBAdd, &QPushButton::clicked, this, &AddTagsDialog::onAccepted);
+    connect(_ui->pBCancel, &QPushButton::clicked, this, &QWidget::close);
+}
+
+AddTagsDialog::~AddTagsDialog() {
+    emit aboutToBeDestroyed();
+}
+
+void AddTagsDialog::setTagFile(const QString& imageFilePath, const QString& filePath, const QString& tags) {
+    _ui->plainTextEdit->setUpdatesEnabled(false);
+    _ui->labelTags->setText(tr("Tags from: %1").arg(filePath));
+    setWindowTitle(tr("Edit tags, one per line or/and \",\" separated.."));
+    _ui->pBAdd->setText(tr("Save"));
+    disconnect(_ui->pBAdd, &QPushButton::clicked, this, &AddTagsDialog::onAccepted);
+    connect(_ui->pBAdd, &QPushButton::clicked, this, [this, imageFilePath, filePath] {
+        emit addTagsTxtAccepted(imageFilePath, filePath, _ui->plainTextEdit->toPlainText());
+        accept();
+    });
+    _ui->plainTextEdit->clear();
+    _ui->plainTextEdit->setPlainText(tags);
+    _ui->plainTextEdit->setUpdatesEnabled(true);
+}
+
+void AddTagsDialog::onAccepted() {
+    emit addTagsAccepted(_ui->plainTextEdit->toPlainText());
+    accept();
+}

@@ -1,0 +1,122 @@
+#include "app/MainWindow.h"
+
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/FileNaming.h"
+#include "tags/AddTagsDialog.h"
+#include "tags/ReplaceTextDialog.h"
+#include "tags/TagText.h"
+#include "tags/TagsExportDialog.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QFile>
+
+namespace {
+
+// Window-modal without blocking; the dialog deletes itself and keeps its geometry.
+void openTagsDialog(AddTagsDialog* dialog) {
+    QObject::connect(dialog, &AddTagsDialog::aboutToBeDestroyed, dialog, [dialog] {
+        Settings::instance()->setData(keys::addTagsDialogGeometry, dialog->saveGeometry(), true);
+    });
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->restoreGeometry(Settings::instance()->data(keys::addTagsDialogGeometry).toByteArray());
+    dialog->open();
+}
+
+} // namespace
+
+void MainWindow::initTagConnections() {
+    connect(ui->actionSave_tags, &QAction::triggered, this, &MainWindow::onSaveTags);
+    connect(ui->tBSaveTags, &QToolButton::clicked, this, &MainWindow::onSaveTags);
+    connect(ui->tBSaveTagTxtFile, &QToolButton::clicked, this, &MainWindow::onSaveTagTxtFile);
+    connect(ui->lwImageTags, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onImageTagCustomContextMenu);
+    connect(ui->lwAllImagesTags, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onImagesTagsCustomContextMenu);
+    connect(ui->lwAllImagesTags, &QListWidget::itemSelectionChanged, this,
+            &MainWindow::onAllImagesTagSelectedChanged);
+    connect(ui->leFilterTag, &QLineEdit::textChanged, this, &MainWindow::onFilterTag);
+    connect(ui->leFilterAllTags, &QLineEdit::textChanged, this, &MainWindow::onFilterAllTags);
+    connect(ui->tBExportTags, &QToolButton::clicked, this, &MainWindow::onTagsExport);
+}
+
+void MainWindow::addTagToSelected() {
+    if (selectedFilePaths().isEmpty())
+        qDebug() << "Error, selection is empty...";
+    auto* dialog = new AddTagsDialog(this);
+    connect(dialog, &AddTagsDialog::addTagsAccepted, this, &MainWindow::onAddTagsAccepted);
+    openTagsDialog(dialog);
+}
+
+void MainWindow::onAddTagsAccepted(const QString& text) {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        qDebug() << "Error, selection is empty...";
+    const QStringList added = tagsFromEntry(text);
+    for (const QString& file : files)
+        setImageTags(file, imageTags(file) + added);
+    refreshAllTags();
+    onItemSelectedChanged();
+}
+
+void MainWindow::editTagFor(const QString& filePath) {
+    const QString txtFileName = imgFilePathToTxtFilePath(filePath);
+    QFile file(txtFileName);
+    if (!file.exists())
+        return;
+    if (!file.open(QIODevice::ReadOnly)) {
+        qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
+        return;
+    }
+    auto* dialog = new AddTagsDialog(this);
+    connect(dialog, &AddTagsDialog::addTagsTxtAccepted, this, &MainWindow::onTxtTagsAccepted);
+    dialog->setTagFile(filePath, txtFileName, QString::fromUtf8(file.readAll()));
+    openTagsDialog(dialog);
+}
+
+void MainWindow::openTextDialog(int operationType) {
+    ReplaceTextDialog dialog;
+    dialog.setOperationType(operationType);
+    if (operationType == ReplaceTextDialog::Replace)
+        connect(&dialog, &ReplaceTextDialog::replaceText, this, &MainWindow::replaceTagText);
+    else
+        connect(&dialog, &ReplaceTextDialog::splitText, this, &MainWindow::splitTagText);
+    dialog.exec();
+}
+
+void MainWindow::replaceTagText(const QString& src, const QString& dst) {
+    if (src.isEmpty() || dst.isEmpty()) {
+        qDebug() << "Source or dest text is empty:" << src << dst;
+        ui->statusbar->showMessage(
+            tr("Unable to replace text, source \"%1\" or replacement \"%2\" is empty").arg(src, dst));
+        return;
+    }
+    ui->statusbar->showMessage(tr("Replacing text \"%1\" with \"%2\".").arg(src, dst));
+    for (QStringList& tags : _imageTags)
+        replaceInTags(tags, src, dst);
+    refreshAllTags();
+    onItemSelectedChanged();
+}
+
+void MainWindow::splitTagText(const QString& src) {
+    if (src.isEmpty()) {
+        qDebug() << "Source text is empty:" << src;
+        ui->statusbar->showMessage(tr("Source text is empty \"%1\"").arg(src));
+        return;
+    }
+    ui->statusbar->showMessage(tr("Splitting text by \"%1\".").arg(src));
+    for (QStringList& tags : _imageTags)
+        splitTags(tags, src);
+    refreshAllTags();
+    onItemSelectedChanged();
+}
+
+void MainWindow::onTagsExport() {
+    auto* dialog = new TagsExportDialog(this);
+    dialog->setWindowFlag(Qt::Dialog);
+    dialog->setWindowTitle(tr("All tags"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setTags(flattenedTags(_imageTags));
+    dialog->show();
+}

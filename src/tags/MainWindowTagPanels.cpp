@@ -1,0 +1,213 @@
+#include "app/MainWindow.h"
+
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaModel.h"
+#include "catalogue/SortFilterProxyModel.h"
+#include "catalogue/UpdatesOff.h"
+#include "tags/ReplaceTextDialog.h"
+#include "tags/TagText.h"
+#include "ui_MainWindow.h"
+
+#include <QClipboard>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QMenu>
+
+namespace {
+
+QListWidgetItem* makeTagItem(const QString& tag) {
+    auto* item = new QListWidgetItem(tag);
+    item->setFlags(item->flags() & ~Qt::ItemIsDragEnabled);
+    return item;
+}
+
+QListWidgetItem* makeCountedTagItem(const TagCount& counted) {
+    QListWidgetItem* item = makeTagItem(counted.tag);
+    item->setToolTip(MainWindow::tr("Count: %1").arg(counted.count));
+    item->setTextAlignment(Qt::AlignCenter);
+    return item;
+}
+
+void setUpTagList(QListWidget* list) {
+    list->setViewMode(QListView::IconMode);
+    // Icon mode lets items be dragged about unless their movement is fixed.
+    list->setMovement(QListView::Static);
+    list->setResizeMode(QListView::Adjust);
+    list->setSpacing(8);
+    list->setDragDropMode(QAbstractItemView::NoDragDrop);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setUniformItemSizes(false);
+    list->setSortingEnabled(false);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+}
+
+void showTags(QListWidget* list, const QStringList& tags) {
+    const UpdatesOff updatesOff({list});
+    list->clear();
+    for (const QString& tag : tags)
+        list->addItem(makeTagItem(tag));
+}
+
+void filterTagList(QListWidget* list, const QString& txt) {
+    const UpdatesOff updatesOff({list});
+    for (int row = 0; row < list->count(); ++row) {
+        QListWidgetItem* item = list->item(row);
+        item->setHidden(item->text().indexOf(txt, 0, Qt::CaseInsensitive) < 0);
+    }
+}
+
+QStringList selectedTagTexts(const QListWidget* list) {
+    QStringList texts;
+    const QList<QListWidgetItem*> items = list->selectedItems();
+    texts.reserve(items.size());
+    for (const QListWidgetItem* item : items)
+        texts.append(item->text());
+    return texts;
+}
+
+void copyTagsToClipboard(const QListWidget* list) {
+    const QStringList tags = selectedTagTexts(list);
+    if (tags.isEmpty())
+        qDebug() << "Tag sel empty";
+    else
+        QGuiApplication::clipboard()->setText(tags.join(u','), QClipboard::Clipboard);
+}
+
+void sortTagList(QListWidget* list, Qt::SortOrder& order) {
+    order = order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    list->sortItems(order);
+}
+
+} // namespace
+
+void MainWindow::initTagViews() {
+    setUpTagList(ui->lwImageTags);
+    setUpTagList(ui->lwAllImagesTags);
+}
+
+void MainWindow::refreshSelectionTags(const QStringList& filePaths) {
+    QStringList tags;
+    for (const QString& filePath : filePaths)
+        tags.append(imageTags(filePath));
+    showTags(ui->lwImageTags, tags);
+}
+
+void MainWindow::refreshImageTags(const QString& filePath) {
+    showTags(ui->lwImageTags, imageTags(filePath));
+}
+
+void MainWindow::refreshAllTags() {
+    {
+        const UpdatesOff updatesOff({ui->lwAllImagesTags});
+        ui->lwAllImagesTags->clear();
+        const QList<TagCount> counted = countedTags(_imageTags);
+        for (const TagCount& tag : counted)
+            ui->lwAllImagesTags->addItem(makeCountedTagItem(tag));
+    }
+    ui->lwAllImagesTags->doItemsLayout();
+}
+
+void MainWindow::onAllImagesTagSelectedChanged() {
+    const QStringList tags = selectedTagTexts(ui->lwAllImagesTags);
+    int found = 0;
+    {
+        const UpdatesOff updatesOff(mediaViews());
+        for (int row = 0; row < _itemModel->rowCount(); ++row) {
+            auto* item = static_cast<MediaItem*>(_itemModel->item(row, ColName));
+            const bool matches = holdsAnyTag(_imageTags.value(item->data(RoleValue).toString()), tags);
+            item->setHidden(!tags.isEmpty() && !matches);
+            found += matches ? 1 : 0;
+        }
+        _proxyModel->invalidate();
+    }
+    onShowMessage(tr("Found %1 images for tag: %2").arg(QString::number(found), tags.join(u',')));
+}
+
+void MainWindow::onFilterTag(const QString& txt) {
+    filterTagList(ui->lwImageTags, txt);
+}
+
+void MainWindow::onFilterAllTags(const QString& txt) {
+    filterTagList(ui->lwAllImagesTags, txt);
+}
+
+void MainWindow::onTagCopyToClipboard() {
+    copyTagsToClipboard(ui->lwImageTags);
+}
+
+void MainWindow::onAllTagCopy() {
+    copyTagsToClipboard(ui->lwAllImagesTags);
+}
+
+void MainWindow::onTagDelete() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty()) {
+        qDebug() << "Image sel empty";
+        return;
+    }
+    const QStringList tags = selectedTagTexts(ui->lwImageTags);
+    if (tags.isEmpty()) {
+        qDebug() << "Tag sel empty";
+        return;
+    }
+    for (const QString& file : files) {
+        QStringList kept = imageTags(file);
+        removeTags(kept, tags);
+        setImageTags(file, kept);
+    }
+    refreshAllTags();
+    onItemSelectedChanged();
+}
+
+void MainWindow::onTagsDelete() {
+    deleteTagsEverywhere(selectedTagTexts(ui->lwImageTags));
+}
+
+void MainWindow::onAllTagDelete() {
+    deleteTagsEverywhere(selectedTagTexts(ui->lwAllImagesTags));
+}
+
+void MainWindow::deleteTagsEverywhere(const QStringList& tags) {
+    if (tags.isEmpty()) {
+        qDebug() << "Tag sel empty";
+        return;
+    }
+    for (QStringList& entry : _imageTags)
+        removeTags(entry, tags);
+    refreshAllTags();
+    onItemSelectedChanged();
+}
+
+void MainWindow::onImageTagCustomContextMenu() {
+    QListWidget* list = ui->lwImageTags;
+    QMenu menu;
+    menu.addAction(tr("&Copy to clipboard"), this, &MainWindow::onTagCopyToClipboard);
+    addTagListActions(menu, list, _imageTagsSortOrder);
+    menu.addAction(tr("&Delete"), this, &MainWindow::onTagDelete);
+    menu.addAction(tr("Delete &all"), this, &MainWindow::onTagsDelete);
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::onImagesTagsCustomContextMenu() {
+    QListWidget* list = ui->lwAllImagesTags;
+    QMenu menu;
+    menu.addAction(tr("&Copy to clipboard"), this, &MainWindow::onAllTagCopy);
+    addTagListActions(menu, list, _allTagsSortOrder);
+    menu.addSeparator();
+    menu.addAction(tr("R&eplace text"), this, [this] { openTextDialog(ReplaceTextDialog::Replace); });
+    menu.addAction(tr("Spli&t text"), this, [this] { openTextDialog(ReplaceTextDialog::Split); });
+    menu.addSeparator();
+    menu.addAction(tr("&Refresh"), this, &MainWindow::refreshAllTags);
+    menu.addSeparator();
+    menu.addAction(tr("&Delete"), this, &MainWindow::onAllTagDelete);
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order) {
+    menu.addAction(tr("View &list"), this, [list] { list->setViewMode(QListView::ListMode); });
+    menu.addAction(tr("View &icon"), this, [list] { list->setViewMode(QListView::IconMode); });
+    menu.addAction(tr("&Sort"), this, [list, &order] { sortTagList(list, order); });
+}

@@ -1,0 +1,115 @@
+#include "tags/TagText.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+QStringList tagsFromText(const QString& text) {
+    QStringList tags;
+    for (const QStringView line : qTokenize(text, u'\n', Qt::SkipEmptyParts)) {
+        for (const QStringView piece : qTokenize(line, u',', Qt::SkipEmptyParts))
+            tags.append(piece.trimmed().toString());
+    }
+    return tags;
+}
+
+QString tagListToString(const QStringList& tags) {
+    QString text;
+    for (const QString& tag : tags) {
+        text += QStringView(tag).trimmed();
+        text += u',';
+    }
+    text.chop(1);
+    return text;
+}
+
+QString savedTagText(const QStringList& tags, bool keepDuplicates) {
+    QStringList saved = tags;
+    if (!keepDuplicates)
+        saved.removeDuplicates();
+    return tagListToString(saved);
+}
+
+QStringList tagsFromEntry(const QString& text) {
+    // A line without a comma is one piece, so both kinds of lines split alike.
+    QStringList tags;
+    for (const QStringView line : qTokenize(text, u'\n', Qt::SkipEmptyParts)) {
+        for (const QStringView piece : qTokenize(line, u',', Qt::SkipEmptyParts))
+            tags.append(piece.toString());
+    }
+    return tags;
+}
+
+QStringList tagsFromAnswer(const QString& answer, const QString& separator) {
+    if (separator.isEmpty())
+        return answer.isEmpty() ? QStringList() : QStringList(answer);
+    return answer.split(separator, Qt::SkipEmptyParts);
+}
+
+void replaceInTags(QStringList& tags, const QString& src, const QString& dst) {
+    for (QString& tag : tags) {
+        if (tag.contains(src))
+            tag.replace(src, dst);
+    }
+}
+
+void splitTags(QStringList& tags, const QString& src) {
+    const auto holdsSource = [&](const QString& tag) { return tag.contains(src, Qt::CaseInsensitive); };
+    if (std::ranges::none_of(tags, holdsSource))
+        return;
+    QStringList kept;
+    QStringList pieces;
+    for (auto tag = tags.crbegin(); tag != tags.crend(); ++tag) {
+        if (holdsSource(*tag))
+            pieces.append(tag->split(src, Qt::SkipEmptyParts));
+        else
+            kept.append(*tag);
+    }
+    std::ranges::reverse(kept);
+    tags = kept + pieces;
+}
+
+void removeTags(QStringList& tags, const QStringList& removed) {
+    const QSet<QString> unwanted(removed.cbegin(), removed.cend());
+    tags.removeIf([&](const QString& tag) { return unwanted.contains(tag); });
+}
+
+bool holdsAnyTag(const QStringList& tags, const QStringList& wanted) {
+    return std::ranges::any_of(wanted,
+                               [&](const QString& tag) { return tags.contains(tag, Qt::CaseInsensitive); });
+}
+
+QStringList flattenedTags(const QHash<QString, QStringList>& tagsByFile) {
+    qsizetype total = 0;
+    for (const QStringList& tags : tagsByFile)
+        total += tags.size();
+    QStringList all;
+    all.reserve(total);
+    for (const QStringList& tags : tagsByFile)
+        all.append(tags);
+    return all;
+}
+
+QList<TagCount> countedTags(const QHash<QString, QStringList>& tagsByFile) {
+    QList<TagCount> counted;
+    QHash<QString, qsizetype> places;
+    for (const QStringList& tags : tagsByFile) {
+        for (const QString& tag : tags) {
+            const auto place = places.tryEmplace(tag, counted.size());
+            if (place.inserted)
+                counted.append({tag, 1});
+            else
+                ++counted[*place.iterator].count;
+        }
+    }
+    return counted;
+}
+
+QHash<QString, qsizetype> tagCounts(const QStringList& tags) {
+    QHash<QString, qsizetype> counts;
+    for (const QString& tag : tags)
+        ++counts[tag];
+    return counts;
+}

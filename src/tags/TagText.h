@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+// The rules of tag text. A tag is case-sensitive text; a list keeps the order in which its tags were read or
+// added.
+
+// Reads sidecar text: commas and line ends separate alike, empty parts are skipped, pieces are trimmed. A
+// piece of white space alone becomes an empty tag.
+[[nodiscard]] QStringList tagsFromText(const QString& text);
+
+// Writes sidecar text: each tag trimmed, joined by one comma, no line end.
+[[nodiscard]] QString tagListToString(const QStringList& tags);
+
+// The text that a save of all tags writes. Duplicates go before trimming, unless they are kept.
+[[nodiscard]] QString savedTagText(const QStringList& tags, bool keepDuplicates);
+
+// The tags that a user typed, one a line or separated by commas; nothing is trimmed.
+[[nodiscard]] QStringList tagsFromEntry(const QString& text);
+
+// The tags in an answer of a model; an empty separator leaves the answer whole.
+[[nodiscard]] QStringList tagsFromAnswer(const QString& answer, const QString& separator);
+
+// Replaces src by dst inside the tags, in place and case-sensitively.
+void replaceInTags(QStringList& tags, const QString& src, const QString& dst);
+
+// Splits the tags that hold src, regardless of case, at src with its case. The pieces go to the end of the
+// list, those of the last tag first; a tag that matches only in another case goes there whole.
+void splitTags(QStringList& tags, const QString& src);
+
+// Removes every occurrence of the given tags.
+void removeTags(QStringList& tags, const QStringList& removed);
+
+// Whether the list holds any of the wanted tags, regardless of case.
+[[nodiscard]] bool holdsAnyTag(const QStringList& tags, const QStringList& wanted);
+
+// All lists one after the other, in the hash's order.
+[[nodiscard]] QStringList flattenedTags(const QHash<QString, QStringList>& tagsByFile);
+
+struct TagCount {
+    QString tag;
+    qsizetype count = 0;
+
+    bool operator==(const TagCount&) const = default;
+};
+
+// The unique tags in the order of their first occurrence, with the number of exactly equal strings.
+[[nodiscard]] QList<TagCount> countedTags(const QHash<QString, QStringList>& tagsByFile);
+[[nodiscard]] QHash<QString, qsizetype> tagCounts(const QStringList& tags);
