@@ -6,6 +6,7 @@
 #include <new>
 
 #ifdef _WIN32
+#define NOMINMAX
 #include <filesystem>
 #include <windows.h>
 #endif

@@ -11,6 +11,7 @@
 namespace {
 
 constexpr std::string_view metadataKey = "__metadata__";
+constexpr std::size_t offsetCount = 2;
 
 bool failHeader(std::string& err, std::initializer_list<std::string_view> parts) {
     for (const std::string_view part : parts)
@@ -64,15 +65,18 @@ bool parseOffsets(const JsonValue& value, TensorInfo::Offsets& out, std::string&
     if (!items)
         return failHeader(err,
                           {"`data_offsets` value must be JSON array, but got ", jsonTypeName(value), "."});
-    // The first item of a wrong type is told before a wrong count.
-    const auto odd =
-        std::find_if(items->begin(), items->end(), [](const auto& item) { return !item.number(); });
-    if (odd != items->end())
-        return failHeader(
-            err, {"Array item in `data_offsets` must be number type, but got ", jsonTypeName(*odd), "."});
-    if (items->size() != 2)
+    std::vector<std::uint64_t> offsets;
+    for (const JsonValue& item : *items) {
+        if (!item.number())
+            return failHeader(
+                err, {"Array item in `data_offsets` must be number type, but got ", jsonTypeName(item), "."});
+        offsets.push_back(unsignedFromNumber(*item.number()));
+        if (offsets.size() > offsetCount)
+            break;
+    }
+    if (offsets.size() != offsetCount)
         return failHeader(err, {"`data_offsets` length must be 2."});
-    out = {unsignedFromNumber(*items->front().number()), unsignedFromNumber(*items->back().number())};
+    out = {offsets[0], offsets[1]};
     return true;
 }
 

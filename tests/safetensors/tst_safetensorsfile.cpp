@@ -204,6 +204,7 @@ void SafetensorsFileTest::header_data() {
         {"three offsets", offsets("[0,4,8]"), 4, "`data_offsets` length must be 2.\n"},
         {"offset is a string", offsets(R"([0,"4"])"), 4, offsetItem + "string.\n"},
         {"third offset is a flag", offsets("[0,4,false]"), 4, offsetItem + "boolean.\n"},
+        {"fourth offset is a string", offsets(R"([0,4,8,"x"])"), 4, "`data_offsets` length must be 2.\n"},
         {"lone offset is null", offsets("[null]"), 4, offsetItem + "null.\n"},
         {"fractional offsets", offsets("[0.5,4.5]"), 4, "t U8 [4] 0..4\n"},
         {"first fault of two tensors", R"({"a":1,"b":2,"c":3})", 0, "`a` value must be JSON object.\n"},
