@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+#include <utility>
+
+// A filter chain as profiles keep it: one entry a row, in order, the filter's name and the row's options.
+using EffectList = QList<std::pair<QString, QHash<QString, QVariant>>>;
+
+// Makes stored effect lists readable; must run before any profile is restored. More calls do no harm.
+void registerEffectListType();
+
+[[nodiscard]] QVariant effectListToVariant(const EffectList& effects);
+// Empty for an absent value and for one of another type.
+[[nodiscard]] EffectList effectListFromVariant(const QVariant& value);

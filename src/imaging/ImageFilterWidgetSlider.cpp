@@ -1,0 +1,75 @@
+#include "imaging/ImageFilterWidgetSlider.h"
+
+#include "ui_ImageFilterWidgetSlider.h"
+
+#include <QMetaType>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr double kSliderStepsPerUnit = 10.0;
+
+} // namespace
+
+ImageFilterWidgetSlider::ImageFilterWidgetSlider(QWidget* parent)
+    : QWidget(parent), _ui(std::make_unique<Ui::ImageFilterWidgetSlider>()) {
+    qRegisterMetaType<ImageFilterWidgetSlider::SliderType>();
+    _ui->setupUi(this);
+    _ui->doubleSpinBox->hide();
+    connect(_ui->spinBox, &QSpinBox::valueChanged, _ui->horizontalSlider, &QSlider::setValue);
+    connect(_ui->doubleSpinBox, &QDoubleSpinBox::valueChanged, this,
+            &ImageFilterWidgetSlider::onTenthsChanged);
+    connect(_ui->horizontalSlider, &QSlider::valueChanged, this,
+            &ImageFilterWidgetSlider::sliderValueChanged);
+}
+
+ImageFilterWidgetSlider::~ImageFilterWidgetSlider() = default;
+
+void ImageFilterWidgetSlider::setRange(int min, int max) {
+    _ui->spinBox->setRange(min, max);
+    _ui->doubleSpinBox->setRange(min / kSliderStepsPerUnit, max / kSliderStepsPerUnit);
+    _ui->horizontalSlider->setRange(min, max);
+}
+
+void ImageFilterWidgetSlider::setSliderType(SliderType type) {
+    _sliderType = type;
+    if (type != SliderInt && type != SliderDouble)
+        return;
+    _ui->spinBox->setVisible(type == SliderInt);
+    _ui->doubleSpinBox->setVisible(type == SliderDouble);
+}
+
+void ImageFilterWidgetSlider::setValue(int value) {
+    const QSignalBlocker sliderBlocker(_ui->horizontalSlider);
+    const QSignalBlocker spinBoxBlocker(_ui->spinBox);
+    _ui->horizontalSlider->setValue(value);
+    _ui->spinBox->setValue(value);
+    showTenths();
+}
+
+int ImageFilterWidgetSlider::value() const {
+    return _ui->horizontalSlider->value();
+}
+
+double ImageFilterWidgetSlider::valueD() const {
+    return value() / kSliderStepsPerUnit;
+}
+
+void ImageFilterWidgetSlider::sliderValueChanged(int value) {
+    const QSignalBlocker spinBoxBlocker(_ui->spinBox);
+    const QSignalBlocker doubleSpinBoxBlocker(_ui->doubleSpinBox);
+    _ui->spinBox->setValue(value);
+    _ui->doubleSpinBox->setValue(value / kSliderStepsPerUnit);
+    emit sliderChanged(value);
+}
+
+void ImageFilterWidgetSlider::onTenthsChanged(double tenths) {
+    _ui->horizontalSlider->setValue(static_cast<int>(tenths * kSliderStepsPerUnit));
+    // A number between two tenths moves no slider and would stay in the box.
+    showTenths();
+}
+
+void ImageFilterWidgetSlider::showTenths() {
+    const QSignalBlocker blocker(_ui->doubleSpinBox);
+    _ui->doubleSpinBox->setValue(valueD());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class ImageFilterWidgetBase;
+
+// The catalogue of filters: names, row widgets, and running one row over one image.
+class ImageFilters : public QObject {
+    Q_OBJECT
+
+public:
+    enum FilterType : qint32 {
+        Invalid = 0,
+        Brightness = 1,
+        Contrast = 2,
+        Blur = 3,
+        WhitePoint = 4,
+        BlackPoint = 5,
+        Sharpen = 6
+    };
+    Q_ENUM(FilterType)
+
+    explicit ImageFilters(QObject* parent = nullptr);
+
+    [[nodiscard]] QStringList filterNames() const;
+    // The caller owns the row. Names are matched in any case; an unknown one gives a row that does nothing.
+    [[nodiscard]] ImageFilterWidgetBase* createFilterWidget(const QString& filterName) const;
+    // Sets the flag when the row changed the image and leaves it alone otherwise. The result of an image that
+    // is not of 32 bits in a plain layout has ARGB32 or RGB32.
+    [[nodiscard]] QImage applyFilter(const QImage& image, QWidget* row, bool* applied) const;
+
+    // "Invalid" outside the table.
+    [[nodiscard]] static QString filterName(FilterType type);
+    [[nodiscard]] static FilterType filterType(const QString& name);
+};
+
+// The image in a format that the pixel routines take: 32-bit RGB and ARGB as they are, all others converted
+// to ARGB32, or to RGB32 without an alpha channel.
+[[nodiscard]] QImage filterInput(const QImage& image);

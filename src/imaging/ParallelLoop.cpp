@@ -1,0 +1,82 @@
+#include "imaging/ParallelLoop.h"
+
+#include <QRunnable>
+#include <QSemaphore>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <new>
+
+namespace {
+
+constexpr qsizetype kChunksPerThread = 32;
+constexpr qsizetype kWorkItemsPerThread = 4;
+
+// Hands out the chunks of one loop; the counter is all that the threads share.
+class ChunkQueue {
+public:
+    ChunkQueue(qsizetype count, qsizetype chunks, const ChunkStep& step)
+        : _chunkSize(count / chunks), _longerChunks(count % chunks), _chunks(chunks), _step(step) {}
+
+    void work() {
+        for (qsizetype chunk = _next.fetch_add(1); chunk < _chunks; chunk = _next.fetch_add(1))
+            _step(begin(chunk), begin(chunk + 1));
+    }
+
+private:
+    [[nodiscard]] qsizetype begin(qsizetype chunk) const {
+        return chunk * _chunkSize + std::min(chunk, _longerChunks);
+    }
+
+    qsizetype _chunkSize;
+    qsizetype _longerChunks;
+    qsizetype _chunks;
+    const ChunkStep& _step;
+    std::atomic<qsizetype> _next = 0;
+};
+
+class ChunkWorker : public QRunnable {
+public:
+    ChunkWorker() { setAutoDelete(false); }
+    void attach(ChunkQueue* queue, QSemaphore* finished) {
+        _queue = queue;
+        _finished = finished;
+    }
+    void run() override {
+        _queue->work();
+        _finished->release();
+    }
+
+private:
+    ChunkQueue* _queue = nullptr;
+    QSemaphore* _finished = nullptr;
+};
+
+} // namespace
+
+void parallelLoop(qsizetype count, int threads, const ChunkStep& step) {
+    if (count <= 0)
+        return;
+    if (threads <= 1 || count < 2) {
+        step(0, count);
+        return;
+    }
+    const qsizetype chunks = std::min(count, kChunksPerThread * threads);
+    const qsizetype items = std::min(chunks, kWorkItemsPerThread * threads);
+    const std::unique_ptr<ChunkWorker[]> workers(new (std::nothrow) ChunkWorker[static_cast<size_t>(items)]);
+    if (!workers) {
+        step(0, count);
+        return;
+    }
+    ChunkQueue queue(count, chunks, step);
+    QSemaphore finished;
+    QThreadPool* const pool = QThreadPool::globalInstance();
+    for (qsizetype i = 0; i < items; ++i) {
+        workers[static_cast<size_t>(i)].attach(&queue, &finished);
+        pool->start(&workers[static_cast<size_t>(i)]);
+    }
+    queue.work();
+    finished.acquire(static_cast<int>(items));
+}

@@ -1,0 +1,30 @@
+#include "imaging/ProfilesEditWidget.h"
+
+#include "imaging/Profile.h"
+#include "ui_ProfilesEditWidget.h"
+
+ProfilesEditWidget::ProfilesEditWidget(QWidget* parent)
+    : QWidget(parent), _ui(std::make_unique<Ui::ProfilesEditWidget>()) {
+    _ui->setupUi(this);
+    connect(_ui->pBApply, &QPushButton::clicked, this, &ProfilesEditWidget::onApply);
+    connect(_ui->pBClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+ProfilesEditWidget::~ProfilesEditWidget() = default;
+
+void ProfilesEditWidget::setProfile(Profile* profile) {
+    _profile = profile;
+    _ui->lEProfileName->setText(profile->name());
+    _ui->label_DataSize->setText(tr("Data size: %1").arg(profile->optionsCount()));
+}
+
+void ProfilesEditWidget::onApply() {
+    emit aboutToApply();
+    if (!_profile) {
+        close();
+        return;
+    }
+    _profile->setName(_ui->lEProfileName->text());
+    close();
+    emit profilesUpdated();
+}
