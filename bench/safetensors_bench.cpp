@@ -11,7 +11,21 @@
 #include <string>
 #include <vector>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
+
+// Memory that went back to the system between two runs would come again page by page, which depends on the
+// order of releases and costs as much as the parsing.
+[[maybe_unused]] const bool memoryIsKept = [] {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 1 << 30);
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
+#endif
+    return true;
+}();
 
 // Names and shapes as in a diffusion model, sorted as the format's usual writers leave them.
 std::string modelHeader(std::size_t tensors) {
