@@ -10,7 +10,11 @@ VideoPreviewWidget::VideoPreviewWidget(QWidget* parent)
     _ui->setupUi(this);
 }
 
-VideoPreviewWidget::~VideoPreviewWidget() = default;
+VideoPreviewWidget::~VideoPreviewWidget() {
+    // The player outlives the form, and its last signals would reach widgets that are gone.
+    if (_mediaPlayer)
+        _mediaPlayer->disconnect(this);
+}
 
 void VideoPreviewWidget::initPlayer() {
     if (_mediaPlayer)

@@ -1,0 +1,138 @@
+#include "catalogue/VideoImageLoader.h"
+
+#include "catalogue/MediaUrl.h"
+
+#include <QDebug>
+#include <QPlaybackOptions>
+#include <QVideoSink>
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds kProbePatience{5};
+
+constexpr std::array kVideoMetaNames{
+    std::pair{QMediaMetaData::Duration, "Duration"_L1},
+    std::pair{QMediaMetaData::MediaType, "MediaType"_L1},
+    std::pair{QMediaMetaData::FileFormat, "FileFormat"_L1},
+    std::pair{QMediaMetaData::AudioBitRate, "AudioBitRate"_L1},
+    std::pair{QMediaMetaData::AudioCodec, "AudioCodec"_L1},
+    std::pair{QMediaMetaData::VideoBitRate, "VideoBitRate"_L1},
+    std::pair{QMediaMetaData::VideoCodec, "VideoCodec"_L1},
+    std::pair{QMediaMetaData::VideoFrameRate, "VideoFrameRate"_L1},
+    std::pair{QMediaMetaData::Resolution, "Resolution"_L1},
+    std::pair{QMediaMetaData::Comment, "Comment"_L1},
+};
+
+} // namespace
+
+VideoImageLoader::VideoImageLoader(QObject* parent) : QObject(parent) {
+    _patience.setSingleShot(true);
+    connect(&_patience, &QTimer::timeout, this, &VideoImageLoader::endFailedJob);
+}
+
+void VideoImageLoader::initVideoPlayer() {
+    if (_player)
+        return;
+    qDebug() << "VideoImageLoader::initVideoPlayer";
+    _player = new QMediaPlayer(this);
+    _player->setVideoSink(new QVideoSink(_player));
+    _player->setPlaybackOptions(QPlaybackOptions());
+    connect(_player, &QMediaPlayer::mediaStatusChanged, this, &VideoImageLoader::mediaStatusChanged);
+    connect(_player, &QMediaPlayer::errorOccurred, this, &VideoImageLoader::errorOccurred);
+}
+
+void VideoImageLoader::grabFrame(const QString& filePath, qint64 position) {
+    qDebug() << "VideoImageLoader::grabFrame" << filePath << position << "_isRunning:" << _isRunning;
+    initVideoPlayer();
+    endJob();
+    _videoFilePath = filePath;
+    _jobIsOn = true;
+    _jobHasFailed = false;
+    _patience.start(kProbePatience);
+    _player->setSource(mediaUrl(filePath));
+    followFramesOfThisJob();
+    _player->pause();
+    _player->setPosition(position);
+}
+
+// Frames come queued from a thread of the back end: one of the file before may still be on its way. It
+// arrives over a connection of its own job and is told by that.
+void VideoImageLoader::followFramesOfThisJob() {
+    disconnect(_frames);
+    _frames = connect(_player->videoSink(), &QVideoSink::videoFrameChanged, this,
+                      [this, job = _job](const QVideoFrame& frame) {
+                          if (_jobIsOn && job == _job)
+                              videoFrameChanged(frame);
+                      });
+}
+
+void VideoImageLoader::videoFrameChanged(QVideoFrame frame) {
+    if (!frame.isValid()) {
+        qDebug() << "!!! invalid frame waiting for valid one";
+        return;
+    }
+    if (!_player)
+        return;
+    qDebug() << "VideoImageLoader::videoFrameChanged" << _player->source() << frame << frame.isValid()
+             << _player->position() << "_isRunning:" << _isRunning;
+    endJob();
+    _player->stop();
+    _image = frame.toImage();
+    if (_size.isValid())
+        _image = _image.scaled(_size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    _videoMeta = videoMetaHash(_player->metaData());
+    emit imageFrame(_videoFilePath, _image);
+}
+
+void VideoImageLoader::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
+    qDebug() << "VideoImageLoader::mediaStatusChanged" << status << _videoFilePath;
+    if (!_jobIsOn || _jobHasFailed)
+        return;
+    _jobHasFailed = status == QMediaPlayer::InvalidMedia;
+    _patience.start(_jobHasFailed ? std::chrono::seconds{0} : kProbePatience);
+}
+
+void VideoImageLoader::errorOccurred(QMediaPlayer::Error error, QString errorString) {
+    qDebug() << "VideoImageLoader::errorOccurred" << error << errorString << _videoFilePath;
+    if (!_jobIsOn)
+        return;
+    _jobHasFailed = true;
+    _patience.start(0);
+}
+
+void VideoImageLoader::endFailedJob() {
+    stopPlayer();
+    emit failed(_videoFilePath);
+}
+
+void VideoImageLoader::stopPlayer() {
+    endJob();
+    if (_player)
+        _player->stop();
+}
+
+void VideoImageLoader::endJob() {
+    ++_job;
+    _jobIsOn = false;
+    _patience.stop();
+}
+
+QHash<QString, QVariant> videoMetaHash(QMediaMetaData metaData) {
+    // Some containers tell a frame rate that is not a number.
+    if (std::isnan(metaData.value(QMediaMetaData::VideoFrameRate).toDouble()))
+        metaData.remove(QMediaMetaData::VideoFrameRate);
+    QHash<QString, QVariant> hash;
+    for (const QMediaMetaData::Key key : metaData.keys())
+        hash.insert(QMediaMetaData::metaDataKeyToString(key), metaData.value(key));
+    for (const auto& [key, name] : kVideoMetaNames)
+        if (const QVariant value = metaData.value(key); value.isValid())
+            hash.insert(name, value);
+    return hash;
+}

@@ -1,0 +1,39 @@
+#include "video/VideoTexts.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QTime>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString timeOfDayText(qint64 milliseconds) {
+    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds)).toString(u"hh:mm:ss.zzz"_s);
+}
+
+} // namespace
+
+QString positionFormat(qint64 position, qint64 duration) {
+    return u"%p% [%1 - %2]"_s.arg(timeOfDayText(position), timeOfDayText(duration));
+}
+
+QString grabbedFrameBaseName(const QString& source, const std::optional<QString>& openedDirectory,
+                             const QDateTime& time) {
+    QString name;
+    if (!source.isEmpty())
+        name = QFileInfo(source).completeBaseName();
+    else if (openedDirectory)
+        name = QFileInfo(*openedDirectory).completeBaseName() + u'_';
+    return name + u'_' + time.toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s);
+}
+
+QString grabbedFrameFilePath(const QString& directory, const QString& baseName) {
+    const bool ends = directory.endsWith(u'/') || directory.endsWith(u'\\');
+    const QString place = ends ? directory : directory + u'/';
+    QString path = u"%1%2.png"_s.arg(place, baseName);
+    for (int i = 1; QFile::exists(path); ++i)
+        path = u"%1%2_%3.png"_s.arg(place, baseName, QString::number(i));
+    return path;
+}

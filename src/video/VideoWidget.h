@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QMainWindow>
+#include <QMediaPlayer>
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+
+class VideoWidgetFrameGrabber;
+
+namespace Ui {
+class VideoWidget;
+}
+
+// A window for stepping through a video and taking frames from it. What becomes of a frame is its owner's
+// matter.
+class VideoWidget : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit VideoWidget(QWidget* parent = nullptr);
+    ~VideoWidget() override;
+
+    // Opens a path or URL, paused at its start.
+    void openFile(const QString& path);
+    [[nodiscard]] QString lastOpenPath() const { return _lastOpenPath; }
+
+public slots:
+    void onPlayPause();
+    void onFrameNext();
+    void onFramePrev();
+    void onGrabFrame();
+    // Opens the video beside the current one; which one is told by the sender, tBFilePrev or any other.
+    void onFileNextPrev();
+    void onOpenVideoFile();
+    void onOpenVideoUrl();
+    void sourceChanged(QUrl media);
+    void durationChanged(qlonglong duration);
+    void positionChanged(qlonglong position);
+    void seekableChanged(bool seekable);
+    void playbackRateChanged(double rate);
+    void mediaStatusChanged(QMediaPlayer::MediaStatus status);
+    QString mediaStatusToString(QMediaPlayer::MediaStatus status);
+    void playbackStateChanged(QMediaPlayer::PlaybackState newState);
+    void onPositionChanged();
+    void onVideoGrabSeries();
+    void onVideoGrabFilesFrame();
+    void onAddFrames(QList<QImage> frames, QString fileName);
+
+signals:
+    // A frame of the named path or URL.
+    void imagePic(QImage img, QString fileName);
+    void widgetState(QByteArray data);
+    void widgetGeometry(QByteArray data);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void initActions();
+    void initPlayer();
+    void initThemes();
+    void initControls();
+    void updateIcons(bool dark);
+    void stepFrames(int direction);
+    void readFrameRate();
+    void ensureLastOpenPath();
+    void showStatus(const QString& text);
+    VideoWidgetFrameGrabber* makeFrameGrabber();
+
+    std::unique_ptr<Ui::VideoWidget> _ui;
+    QMediaPlayer* _mediaPlayer = nullptr;
+    // The playback rate until the media tells its frame rate.
+    double _fps = -1.0;
+    // Multiplies a frame step; 0 makes it a single millisecond.
+    int _seekSpeedModifier = 1;
+    QString _lastOpenPath;
+    // Path or URL as it was given.
+    QString _openFileName;
+};

@@ -1,0 +1,257 @@
+#include "video/VideoWidgetFrameGrabber.h"
+
+#include "catalogue/MediaUrl.h"
+#include "catalogue/UpdatesOff.h"
+#include "ui_VideoWidgetFrameGrabber.h"
+#include "video/VideoSteps.h"
+
+#include <QCursor>
+#include <QDebug>
+#include <QFileDialog>
+#include <QListWidget>
+#include <QMenu>
+#include <QPainter>
+#include <QVideoSink>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kFullFrameRole = Qt::UserRole;
+constexpr int kFrameSourceRole = Qt::UserRole + 1;
+constexpr QMargins kThumbnailMargins(11, 11, 11, 11);
+// The first of several files starts here, whatever the form says.
+constexpr qint64 kFirstFileStartMs = 1000;
+
+QImage frameThumbnail(const QImage& frame, const QSize& size) {
+    const QImage scaled = frame.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+    if (canvas.isNull())
+        qDebug() << "Error, unable to allocate image.";
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    painter.drawImage((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2, scaled);
+    return canvas;
+}
+
+} // namespace
+
+VideoWidgetFrameGrabber::VideoWidgetFrameGrabber(QWidget* parent)
+    : QDialog(parent), _ui(std::make_unique<Ui::VideoWidgetFrameGrabber>()) {
+    _ui->setupUi(this);
+    setWindowTitle(tr("Frame grabber"));
+    initList();
+    connect(_ui->pBGrabFrames, &QPushButton::clicked, this, &VideoWidgetFrameGrabber::onGrabFrames);
+    connect(_ui->pBAddAll, &QPushButton::clicked, this, &VideoWidgetFrameGrabber::onAddAll);
+    connect(_ui->pBAddSelected, &QPushButton::clicked, this, &VideoWidgetFrameGrabber::onAddSelected);
+    connect(_ui->pBClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(_ui->pBSelecFiles, &QPushButton::clicked, this, [this] { grabFramesFromFiles(_filesPath); });
+    connect(_ui->listWidget, &QWidget::customContextMenuRequested, this,
+            &VideoWidgetFrameGrabber::onImagesCustomContextMenu);
+}
+
+VideoWidgetFrameGrabber::~VideoWidgetFrameGrabber() {
+    // The player outlives the form.
+    if (_mediaPlayer)
+        _mediaPlayer->disconnect(this);
+}
+
+void VideoWidgetFrameGrabber::initList() {
+    QListWidget* list = _ui->listWidget;
+    list->setSortingEnabled(false);
+    // First, as it sets others of these to its own taste.
+    list->setViewMode(QListView::IconMode);
+    list->setGridSize(QSize(240, 240));
+    list->setResizeMode(QListView::Adjust);
+    list->setSpacing(8);
+    list->setDragEnabled(false);
+    list->setAcceptDrops(false);
+    list->setDragDropMode(QAbstractItemView::NoDragDrop);
+    list->setUniformItemSizes(false);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+}
+
+void VideoWidgetFrameGrabber::setSourceUrl(const QUrl& url) {
+    _sourceUrl = url;
+    setWindowTitle(tr("Frame grabber: %1").arg(url.toString()));
+}
+
+// --- runs ----------------------------------------------------------------------------------------
+
+void VideoWidgetFrameGrabber::initPlayer() {
+    if (_mediaPlayer)
+        return;
+    _mediaPlayer = new QMediaPlayer(this);
+    _videoSink = new QVideoSink(_mediaPlayer);
+    _mediaPlayer->setVideoSink(_videoSink);
+    connect(_mediaPlayer, &QMediaPlayer::mediaStatusChanged, this,
+            &VideoWidgetFrameGrabber::onMediaStatusChanged);
+    connect(_mediaPlayer, &QMediaPlayer::durationChanged, this,
+            &VideoWidgetFrameGrabber::askForStartWhenLoaded);
+}
+
+void VideoWidgetFrameGrabber::onGrabFrames() {
+    initPlayer();
+    grabFramesFromFile(_sourceUrl.toString());
+}
+
+void VideoWidgetFrameGrabber::grabFramesFromFiles(const QString& directory) {
+    _filesPath = directory;
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Select video files"), directory,
+                                                            tr("Videos (*.avi *.mpeg *.ogv *.mp4 *.mkv)"));
+    if (files.isEmpty())
+        return;
+    _videoFiles = files;
+    initPlayer();
+    grabFramesFromFile(_videoFiles.takeFirst());
+    startAt(kFirstFileStartMs);
+}
+
+void VideoWidgetFrameGrabber::grabFramesFromFile(QString fileName) {
+    initPlayer();
+    _frameCounter = 1;
+    _runIsOn = false;
+    // Nothing of the run before is decoded any more.
+    _mediaPlayer->stop();
+    _mediaPlayer->setSource(mediaUrl(fileName));
+    ++_run;
+    _runIsOn = true;
+    followFramesOfThisRun();
+    _mediaPlayer->pause();
+    startAt(_ui->sBFrameStart->value());
+}
+
+void VideoWidgetFrameGrabber::followFramesOfThisRun() {
+    disconnect(_frames);
+    _frames = connect(_videoSink, &QVideoSink::videoFrameChanged, this,
+                      [this, run = _run](const QVideoFrame& frame) {
+                          if (run == _run)
+                              videoFrameChanged(frame);
+                      });
+}
+
+// Media that is still loading forgets where it was sent.
+void VideoWidgetFrameGrabber::startAt(qint64 position) {
+    _startPosition = position;
+    _startIsPending = _mediaPlayer->duration() <= 0;
+    _mediaPlayer->setPosition(position);
+}
+
+void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
+    const QMediaPlayer::MediaStatus status = _mediaPlayer->mediaStatus();
+    const bool loaded = status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferingMedia ||
+                        status == QMediaPlayer::BufferedMedia;
+    if (!_startIsPending || !loaded || _mediaPlayer->duration() <= 0)
+        return;
+    _startIsPending = false;
+    _mediaPlayer->setPosition(_startPosition);
+}
+
+void VideoWidgetFrameGrabber::onMediaStatusChanged(QMediaPlayer::MediaStatus status) {
+    askForStartWhenLoaded();
+    if (!_runIsOn || status != QMediaPlayer::EndOfMedia)
+        return;
+    // The picture ends before the duration does. A last frame may have been queued before this.
+    const auto endThisRun = [this, run = _run] {
+        if (_runIsOn && run == _run)
+            endOfFile();
+    };
+    QMetaObject::invokeMethod(this, endThisRun, Qt::QueuedConnection);
+}
+
+void VideoWidgetFrameGrabber::videoFrameChanged(QVideoFrame frame) {
+    // Invalid frames come around a stop and from behind the last picture.
+    if (!_runIsOn || !frame.isValid())
+        return;
+    const SeriesStep step = nextSeriesStep(_mediaPlayer->duration(), _ui->sBFrameStart->value(),
+                                           _ui->sBFrameNum->value(), _frameCounter + 1);
+    if (step.kind == SeriesStep::Wait)
+        return;
+    addImageItem(frame.toImage());
+    ++_frameCounter;
+    if (step.kind == SeriesStep::Seek)
+        _mediaPlayer->setPosition(step.position);
+    else
+        endOfFile();
+}
+
+void VideoWidgetFrameGrabber::endOfFile() {
+    _runIsOn = false;
+    if (!_videoFiles.isEmpty())
+        grabFramesFromFile(_videoFiles.takeFirst());
+}
+
+// --- list ----------------------------------------------------------------------------------------
+
+void VideoWidgetFrameGrabber::addImageItem(QImage image) {
+    initPlayer();
+    QListWidget* list = _ui->listWidget;
+    auto* item = new QListWidgetItem;
+    const QSize size = list->gridSize().shrunkBy(kThumbnailMargins);
+    item->setData(Qt::DecorationRole, frameThumbnail(image, size));
+    item->setData(kFullFrameRole, image);
+    item->setData(kFrameSourceRole, _mediaPlayer->source());
+    item->setTextAlignment(Qt::AlignCenter);
+    item->setText(tr("%1").arg(_mediaPlayer->position()));
+    list->insertItem(list->count(), item);
+}
+
+void VideoWidgetFrameGrabber::onAddAll() {
+    // No item is without a text.
+    const QString anyText(u'.');
+    getItemsImage(_ui->listWidget->findItems(anyText, Qt::MatchRegularExpression));
+}
+
+void VideoWidgetFrameGrabber::onAddSelected() {
+    QModelIndexList selected = _ui->listWidget->selectionModel()->selectedIndexes();
+    std::ranges::sort(selected);
+    QList<QListWidgetItem*> items;
+    for (const QModelIndex& index : std::as_const(selected))
+        items.append(_ui->listWidget->item(index.row()));
+    getItemsImage(items);
+}
+
+void VideoWidgetFrameGrabber::getItemsImage(QList<QListWidgetItem*> items) {
+    for (const QListWidgetItem* item : std::as_const(items)) {
+        const auto image = item->data(kFullFrameRole).value<QImage>();
+        if (image.isNull()) {
+            qDebug() << "Null image:" << item->text();
+            continue;
+        }
+        emit addFrames({image}, mediaPath(item->data(kFrameSourceRole).toUrl()));
+    }
+}
+
+void VideoWidgetFrameGrabber::onRemoveAll() {
+    const UpdatesOff updatesOff({_ui->listWidget});
+    _ui->listWidget->clear();
+}
+
+void VideoWidgetFrameGrabber::onRemoveSelected() {
+    QListWidget* list = _ui->listWidget;
+    const UpdatesOff updatesOff({list});
+    const QList<QListWidgetItem*> selected = list->selectedItems();
+    for (const QListWidgetItem* item : selected) {
+        const std::unique_ptr<QListWidgetItem> taken(list->takeItem(list->row(item)));
+        if (taken.get() != item)
+            qDebug() << "Taken item not same as selected...";
+    }
+}
+
+void VideoWidgetFrameGrabber::onImagesCustomContextMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(actions());
+    connect(menu->addAction(tr("Add &selected")), &QAction::triggered, this,
+            &VideoWidgetFrameGrabber::onAddSelected);
+    connect(menu->addAction(tr("Add &all")), &QAction::triggered, this, &VideoWidgetFrameGrabber::onAddAll);
+    menu->addSeparator();
+    connect(menu->addAction(tr("&Remove selected")), &QAction::triggered, this,
+            &VideoWidgetFrameGrabber::onRemoveSelected);
+    connect(menu->addAction(tr("&Clear")), &QAction::triggered, this, &VideoWidgetFrameGrabber::onRemoveAll);
+    menu->popup(QCursor::pos());
+}
