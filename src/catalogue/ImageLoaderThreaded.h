@@ -19,8 +19,8 @@ public:
     explicit ImageLoaderThreaded(QObject* parent = nullptr);
     ~ImageLoaderThreaded() override;
 
-    // Takes effect for threads made later.
-    void setImageThreadCount(int count) { _imageThreadCount = count; }
+    // Takes effect for threads made later; at least one.
+    void setImageThreadCount(int count) { _imageThreadCount = qMax(1, count); }
     void setPreviewSize(const QSize& size) { _previewSize = size; }
     void enqueue(const QString& filePath, bool startNow);
     void start();

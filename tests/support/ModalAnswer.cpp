@@ -1,5 +1,6 @@
 #include "support/ModalAnswer.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>

@@ -4,6 +4,7 @@
 #include "support/ModalAnswer.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QLineEdit>
@@ -17,10 +18,15 @@ void WindowDriver::forgetSettings() {
         QFile::remove(QCoreApplication::applicationDirPath() + name);
 }
 
+QString WindowDriver::emptyDirectory() {
+    const QString path = QCoreApplication::applicationDirPath() + "/empty";
+    QDir().mkpath(path);
+    return path;
+}
+
 WindowDriver::WindowDriver(const QString& workingPath) : _window(std::make_unique<MainWindow>()) {
-    // The scan of the start comes a moment later and reads this text; "/proc" has no media and is quickly
-    // read.
-    widget<QLineEdit>("lEWorkingPath")->setText(workingPath.isEmpty() ? QString("/proc") : workingPath);
+    // The scan of the start comes a moment later and reads this text.
+    widget<QLineEdit>("lEWorkingPath")->setText(workingPath.isEmpty() ? emptyDirectory() : workingPath);
     _window->show();
     if (!waitForLoad())
         qFatal("the directory did not load");

@@ -15,8 +15,9 @@ class WindowDriver {
 public:
     // Removes what an earlier run left beside the executable.
     static void forgetSettings();
+    [[nodiscard]] static QString emptyDirectory();
 
-    // Opens the window on a directory, as its start does. With an empty path no directory is opened.
+    // Opens the window on a directory, as its start does. With an empty path on an empty one.
     explicit WindowDriver(const QString& workingPath = {});
     ~WindowDriver();
     Q_DISABLE_COPY_MOVE(WindowDriver)

@@ -1,0 +1,133 @@
+#include "app/services/LogService.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+#include <vector>
+
+// The log file of a run, the one of the run before, and many threads writing at once.
+class TestLogService : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { removeFiles(); }
+    void cleanup() {
+        LogService::destroy();
+        removeFiles();
+    }
+
+    void levelFollowsTheArguments_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("level");
+        const auto row = [](const char* name, const QStringList& arguments, int level) {
+            QTest::newRow(name) << arguments << level;
+        };
+        row("no argument", {"--empty"}, 1);
+        row("no log", {"--no-log"}, 0);
+        row("verbose", {"--log=2"}, 2);
+        row("hexadecimal", {"--log=A"}, 10);
+        row("not a number", {"--log=x"}, 1);
+        row("no value", {"--log"}, 1);
+        row("no log wins", {"--log=2", "--no-log"}, 0);
+        row("first of several", {"a", "--log=0", "--log=2"}, 0);
+    }
+    void levelFollowsTheArguments() {
+        QFETCH(QStringList, arguments);
+        QTEST(logLevelFromArguments(arguments), "level");
+    }
+
+    void theHeaderNamesTheRun() {
+        start({});
+        const QString text = content("app-current.log");
+        QVERIFY(text.startsWith("##########\n" + QCoreApplication::applicationName() + " log "));
+        QVERIFY(text.contains("\nArguments:\n\t--empty\nLog level: 1 (Default)\nApplication version: "));
+        QVERIFY(text.contains(" internal:  build date:  \nUsing paths:\n\tSettings path: /the/settings\n"));
+        QVERIFY(!QFile::exists(path("app-previous.log")));
+    }
+
+    void theRunBeforeIsKept() {
+        start({});
+        qDebug() << "first run";
+        LogService::destroy();
+        start({});
+        qDebug() << "second run";
+        QVERIFY(content("app-previous.log").contains("first run"));
+        QVERIFY(!content("app-current.log").contains("first run"));
+        // Turned over once more within one run.
+        LogService::instance()->init({"--log=2"});
+        qInfo() << "an info";
+        QVERIFY(content("app-previous.log").contains("second run"));
+        QVERIFY(content("app-current.log").contains("an info"));
+        QCOMPARE(content("app-current.log").count("an info"), 1);
+    }
+
+    void levelsHoldMessagesBack() {
+        start({"--no-log"});
+        qDebug() << "silent";
+        QVERIFY(content("app-current.log").contains("Log level: 0 (NoLog)"));
+        QVERIFY(!content("app-current.log").contains("silent"));
+        LogService::instance()->init({});
+        qInfo() << "too detailed";
+        qWarning() << "worth it";
+        QVERIFY(!content("app-current.log").contains("too detailed"));
+        QVERIFY(content("app-current.log").contains("worth it"));
+    }
+
+    void aFileThatCannotBeOpenedLeavesTheProgramRunning() {
+        // A directory in its place that is not empty can neither be removed nor opened.
+        QVERIFY(QDir().mkpath(path("app-previous.log/full")));
+        QVERIFY(QDir().mkpath(path("app-current.log/full")));
+        start({});
+        qDebug() << "into nowhere";
+        QVERIFY(QFileInfo(path("app-current.log")).isDir());
+    }
+
+    void noLineIsTornAndNothingHangs() {
+        start({});
+        constexpr int threadCount = 8;
+        constexpr int lineCount = 2000;
+        std::vector<std::unique_ptr<QThread>> threads;
+        for (int number = 0; number < threadCount; ++number) {
+            threads.emplace_back(QThread::create([number] {
+                for (int line = 0; line < lineCount; ++line)
+                    qDebug().noquote()
+                        << QString("<%1 %2 ").arg(number).arg(line) + QString(80, QChar('x')) + ">";
+            }));
+            threads.back()->start();
+        }
+        // The files are turned over while the others write.
+        for (int turn = 0; turn < 20; ++turn)
+            LogService::instance()->init({});
+        for (const auto& thread : threads)
+            QVERIFY(thread->wait(60000));
+        const QStringList lines = content("app-current.log").split('\n', Qt::SkipEmptyParts);
+        for (const QString& line : lines) {
+            if (line.contains('<'))
+                QVERIFY2(line.count('<') == 1 && line.endsWith("x>"), qPrintable(line));
+        }
+    }
+
+private:
+    static QString path(const QString& name) { return QCoreApplication::applicationDirPath() + "/" + name; }
+    static QString content(const QString& name) {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    static void start(const QStringList& arguments) {
+        LogService::instance()->setApplicationInfo("/the/settings");
+        LogService::instance()->init(arguments);
+    }
+    static void removeFiles() {
+        for (const char* name : {"app-current.log", "app-previous.log"}) {
+            QDir(path(name)).removeRecursively();
+            QFile::remove(path(name));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLogService)
+#include "tst_logservice.moc"
