@@ -5,10 +5,10 @@ add_library(tessarine_options INTERFACE)
 target_compile_features(tessarine_options INTERFACE cxx_std_20)
 target_compile_options(tessarine_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Woverloaded-virtual -Wnon-virtual-dtor
-    $<$<BOOL:${TESSARINE_WERROR}>:-Werror>
-    $<$<BOOL:${TESSARINE_SANITIZE}>:-fsanitize=${TESSARINE_SANITIZE};-fno-omit-frame-pointer>)
+    $<$<BOOL:${TESSARINE_WERROR}>:-Werror>)
 target_compile_definitions(tessarine_options INTERFACE QT_ENABLE_STRICT_MODE_UP_TO=0x060A00)
 if(TESSARINE_SANITIZE)
+    target_compile_options(tessarine_options INTERFACE -fsanitize=${TESSARINE_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(tessarine_options INTERFACE -fsanitize=${TESSARINE_SANITIZE})
 endif()
 if(TESSARINE_SANITIZE MATCHES "undefined")

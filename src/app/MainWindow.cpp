@@ -93,6 +93,7 @@ void MainWindow::initActions() {
         makeWindowAction(this, tr("&Add tag"), tr("Add tag"), u"addTag"_s, u":/resources/icons/tags.svg"_s);
     QAction* editVideoAction = makeWindowAction(this, tr("&Edit video"), tr("Edit video"), u"editVideo"_s,
                                                 u":/resources/icons/editVideo.svg"_s);
+    connect(addTagAction, &QAction::triggered, this, &MainWindow::addTagToSelected);
     addActions({editImageAction, addTagAction});
     ui->toolBar->addAction(editVideoAction);
 }

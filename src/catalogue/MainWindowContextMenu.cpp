@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "catalogue/MediaFormats.h"
+#include "catalogue/MediaModel.h"
 #include "ui_MainWindow.h"
 
 #include <QMenu>
@@ -18,6 +19,8 @@ void MainWindow::onImagesCustomContextMenu() {
         if (action->data().toString() != "editImage"_L1 || !isVideoFile(firstFile))
             menu.addAction(action);
     }
+    if (hasFilledTxtFile(firstFile))
+        menu.addAction(tr("Edit &tag file"), this, [this, firstFile] { editTagFor(firstFile); });
     menu.addAction(tr("Refresh"), this, &MainWindow::onRefreshOpenFilePath);
     addViewMenu(menu);
     addSortMenu(menu);
