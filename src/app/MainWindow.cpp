@@ -93,6 +93,8 @@ void MainWindow::initActions() {
         makeWindowAction(this, tr("&Add tag"), tr("Add tag"), u"addTag"_s, u":/resources/icons/tags.svg"_s);
     QAction* editVideoAction = makeWindowAction(this, tr("&Edit video"), tr("Edit video"), u"editVideo"_s,
                                                 u":/resources/icons/editVideo.svg"_s);
+    connect(editImageAction, &QAction::triggered, this, &MainWindow::editImage);
+    connect(editVideoAction, &QAction::triggered, this, &MainWindow::showEditVideoWidget);
     connect(addTagAction, &QAction::triggered, this, &MainWindow::addTagToSelected);
     addActions({editImageAction, addTagAction});
     ui->toolBar->addAction(editVideoAction);

@@ -6,9 +6,11 @@
 #include <QMainWindow>
 #include <QModelIndexList>
 #include <QStringList>
+#include <QVariant>
 
 #include <memory>
 
+class EditImageDialog;
 class IconIdentityProxyModel;
 class ImageLoaderThreaded;
 class MediaItem;
@@ -20,7 +22,7 @@ class QMenu;
 class QStandardItem;
 class MediaItemModel;
 class SortFilterProxyModel;
-struct MediaRecord;
+class VideoWidget;
 
 namespace Ui {
 class MainWindow;
@@ -85,6 +87,7 @@ private:
     // --- Previews (catalogue) --------------------------------------------------------------------
 public slots:
     void onItemImageLoaded(const QString& fileName, const QImage& img);
+    void onItemVideoImageMetaLoaded(const QString& fileName, const QHash<QString, QVariant>& videoMeta);
 
 private:
     void queuePreview(const QString& filePath, const QSize& size);
@@ -120,9 +123,43 @@ private:
 
     // --- Directory watcher and refresh (catalogue) -----------------------------------------------
 public slots:
+    void onWorkingDirectoryChanged(const QString& path);
     void onRefreshOpenFilePath();
+    void onSrcSelectPath();
+    void onWorkingPathEdited();
 
 private:
+    void watchWorkingDirectory();
+    void watcherAddNewFiles(const QStringList& fileList);
+    void watcherRemoveMissingFiles();
+
+    QFileSystemWatcher* _fileSystemWatcher = nullptr;
+
+    // --- File operations (catalogue) -------------------------------------------------------------
+public slots:
+    void copyFiles();
+    void moveFiles();
+    void deleteFile();
+    void deleteStrayTxtFiles();
+    void importFiles();
+    void openInNativeApp();
+    void showPathInFileBrowser();
+
+private:
+    // Asks for a directory, starting at the last one; empty when the user cancels.
+    [[nodiscard]] QString selectDirectory();
+    void importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource);
+    [[nodiscard]] bool wantsToOpenMany(qsizetype count);
+
+    // --- Embedded comments (catalogue) -----------------------------------------------------------
+public slots:
+    void onCopyComment();
+    void onExtractWorkflow();
+
+private:
+    void updateComments();
+    [[nodiscard]] QString firstSelectedComment() const;
+
     // --- Sidecars (tags) -------------------------------------------------------------------------
 public:
     [[nodiscard]] QStringList imageTags(const QString& filePath) const;
@@ -179,4 +216,29 @@ public slots:
 
 private:
     void openTextDialog(int operationType);
+
+    // --- Editor windows (editor) -----------------------------------------------------------------
+public slots:
+    void editImage();
+    void onEditImgRequestImgNext(const QString& currFilePath);
+    void onEditImgRequestImgPrev(const QString& currFilePath);
+    void onEditImgSavedFile(const QString& fileName);
+    void onEditImgNewlySavedFile(const QString& fileName);
+    void onRequestDeleteImage(const QString& filePath);
+
+private:
+    [[nodiscard]] int fileRow(const QString& filePath) const;
+    [[nodiscard]] QString fileIndexText(const QString& filePath) const;
+    [[nodiscard]] QString steppedFilePath(const QString& filePath, int step) const;
+    void stepEditor(EditImageDialog* dialog, const QString& currFilePath, int step);
+    // Refreshes thumbnail and tags of one file.
+    void reloadFile(const QString& filePath);
+
+    // --- Video windows (video) -------------------------------------------------------------------
+public slots:
+    VideoWidget* showEditVideoWidget();
+    void onVideoPicCaptured(const QImage& img, const QString& fileName);
+
+private:
+    void editVideo(const QString& filePath);
 };

@@ -2,11 +2,13 @@
 
 #include "catalogue/ImageLoaderThread.h"
 #include "catalogue/MediaFormats.h"
+#include "catalogue/VideoImageLoader.h"
 
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -56,8 +58,7 @@ void ImageLoaderThreaded::processQueue() {
     }
     const QString headSuffix = queueSuffix(_queue.first());
     if (_videoFormats.contains(headSuffix)) {
-        _queue.removeFirst();
-        processQueue();
+        dispatchVideos();
     } else if (_imageFormats.contains(headSuffix)) {
         dispatchImages();
     } else {
@@ -67,7 +68,8 @@ void ImageLoaderThreaded::processQueue() {
 }
 
 bool ImageLoaderThreaded::isAnythingRunning() const {
-    return std::ranges::any_of(_imageThreads, &ImageLoaderThread::isBusy);
+    return std::ranges::any_of(_imageThreads, &ImageLoaderThread::isBusy) ||
+           std::ranges::any_of(_videoThreads, &VideoImageLoader::isRunning);
 }
 
 void ImageLoaderThreaded::finishLoad() {
@@ -106,6 +108,35 @@ void ImageLoaderThreaded::dispatchImages() {
     }
 }
 
+void ImageLoaderThreaded::createVideoThreads() {
+    if (_videoThreads.size() == _videoThreadCount)
+        return;
+    while (_videoThreads.size() < _videoThreadCount) {
+        auto* loader = new VideoImageLoader;
+        loader->setSize(_previewSize);
+        connect(loader, &VideoImageLoader::imageFrame, this, &ImageLoaderThreaded::onVideoImageLoaded);
+        connect(loader, &VideoImageLoader::failed, this, &ImageLoaderThreaded::onVideoImageFailed);
+        _videoThreads.append(loader);
+    }
+    qDebug() << "Created video threads:" << _videoThreads.size();
+}
+
+void ImageLoaderThreaded::dispatchVideos() {
+    createVideoThreads();
+    for (qsizetype tries = 0; tries < _videoThreads.size() && !_queue.isEmpty(); ++tries) {
+        const auto idle = std::ranges::find_if_not(_videoThreads, &VideoImageLoader::isRunning);
+        if (idle == _videoThreads.end()) {
+            qDebug() << "Info, got null video thread.";
+            return;
+        }
+        const QString filePath = takeFirstOf(_videoFormats);
+        if (filePath.isEmpty())
+            return;
+        (*idle)->setRunning(true);
+        (*idle)->grabFrame(filePath, 0);
+    }
+}
+
 QString ImageLoaderThreaded::takeFirstOf(const QStringList& suffixes) {
     const auto found = std::ranges::find_if(
         _queue, [&](const QString& path) { return suffixes.contains(queueSuffix(path)); });
@@ -125,12 +156,46 @@ void ImageLoaderThreaded::onImageLoaded() {
                  << "_image:" << worker->image() << "_error:" << worker->error()
                  << "isFinished:" << worker->isFinished() << "isRunning:" << worker->isRunning();
     }
+    // A slot may stop the load, which takes the worker along.
+    const QPointer<ImageLoaderThread> guard(worker);
     emit loadedImage(worker->imgFilePath(), worker->image());
+    if (!guard || !_imageThreads.contains(worker))
+        return;
     worker->setBusy(false);
     processQueue();
 }
 
+void ImageLoaderThreaded::onVideoImageLoaded(const QString& videoFilePath, const QImage& frame) {
+    qDebug() << "ImageLoaderThreaded::onVideoImageLoaded";
+    auto* loader = qobject_cast<VideoImageLoader*>(sender());
+    if (!loader) {
+        qDebug() << "Error, unable to case to VideoImageLoader thread!";
+        return;
+    }
+    // A slot may stop the load, which takes the loader along.
+    const QPointer<VideoImageLoader> guard(loader);
+    emit loadedImage(videoFilePath, frame);
+    emit loadedVideoImageMeta(videoFilePath, loader->videoMeta());
+    if (!guard || !_videoThreads.contains(loader))
+        return;
+    loader->setRunning(false);
+    processQueue();
+}
+
+void ImageLoaderThreaded::onVideoImageFailed(const QString& videoFilePath) {
+    qDebug() << "Error, no frame from video:" << videoFilePath;
+    if (auto* loader = qobject_cast<VideoImageLoader*>(sender())) {
+        loader->setRunning(false);
+        processQueue();
+    }
+}
+
 void ImageLoaderThreaded::destroyPools() {
+    destroyImageThreads();
+    destroyVideoThreads();
+}
+
+void ImageLoaderThreaded::destroyImageThreads() {
     for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {
         disconnect(worker, &QThread::finished, this, &ImageLoaderThreaded::onImageLoaded);
         worker->requestStop();
@@ -146,6 +211,17 @@ void ImageLoaderThreaded::destroyPools() {
         }
     }
     _imageThreads.clear();
+}
+
+void ImageLoaderThreaded::destroyVideoThreads() {
+    for (VideoImageLoader* loader : std::as_const(_videoThreads)) {
+        loader->disconnect(this);
+        loader->stopPlayer();
+        // This may run inside a signal of the loader. As a child it goes at the latest with its parent.
+        loader->setParent(this);
+        loader->deleteLater();
+    }
+    _videoThreads.clear();
 }
 
 // A thread inside an image decoder cannot be terminated without taking the process with it.

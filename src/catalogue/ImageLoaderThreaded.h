@@ -9,6 +9,7 @@
 #include <QVariant>
 
 class ImageLoaderThread;
+class VideoImageLoader;
 
 // Coordinates the preview load on the GUI thread: one queue of files, a pool of image workers and a pool of
 // video loaders. The pools exist while a load runs.
@@ -36,22 +37,31 @@ signals:
 
 public slots:
     void onImageLoaded();
+    void onVideoImageLoaded(const QString& videoFilePath, const QImage& frame);
+    // A file without a frame keeps its placeholder, and the queue goes on.
+    void onVideoImageFailed(const QString& videoFilePath);
 
 private:
     [[nodiscard]] bool isAnythingRunning() const;
     void finishLoad();
     void dispatchImages();
     void createImageThreads();
+    void dispatchVideos();
+    void createVideoThreads();
     [[nodiscard]] QString takeFirstOf(const QStringList& suffixes);
     void destroyPools();
+    void destroyImageThreads();
+    void destroyVideoThreads();
     void abandon(ImageLoaderThread* worker);
 
     QStringList _queue;
     QList<ImageLoaderThread*> _imageThreads;
+    QList<VideoImageLoader*> _videoThreads;
     // Workers that outlasted a stop; each is deleted when its decode ends, the last ones by the destructor.
     QList<ImageLoaderThread*> _abandonedThreads;
     QSize _previewSize;
     int _imageThreadCount = 4;
+    int _videoThreadCount = 4;
     qint64 _startTime = 0;
     QStringList _videoFormats;
     QStringList _imageFormats;

@@ -21,9 +21,21 @@ void MainWindow::onImagesCustomContextMenu() {
     }
     if (hasFilledTxtFile(firstFile))
         menu.addAction(tr("Edit &tag file"), this, [this, firstFile] { editTagFor(firstFile); });
+    if (isVideoFile(firstFile))
+        menu.addAction(tr("Edit v&ideo"), this, [this, firstFile] { editVideo(firstFile); });
+    menu.addAction(tr("&Open in native app"), this, &MainWindow::openInNativeApp);
+    menu.addAction(tr("Show file in &file browser"), this, &MainWindow::showPathInFileBrowser);
+    menu.addAction(tr("&Import files"), this, &MainWindow::importFiles);
+    menu.addAction(tr("Copy co&mment"), this, &MainWindow::onCopyComment);
+    menu.addAction(tr("E&xtract workflow"), this, &MainWindow::onExtractWorkflow);
     menu.addAction(tr("Refresh"), this, &MainWindow::onRefreshOpenFilePath);
     addViewMenu(menu);
     addSortMenu(menu);
+    menu.addSeparator();
+    menu.addAction(tr("&Copy files"), this, &MainWindow::copyFiles);
+    menu.addAction(tr("&Move files"), this, &MainWindow::moveFiles);
+    menu.addAction(tr("&Delete stray txt files"), this, &MainWindow::deleteStrayTxtFiles);
+    menu.addAction(tr("&Delete file"), this, &MainWindow::deleteFile);
     menu.exec(QCursor::pos());
 }
 

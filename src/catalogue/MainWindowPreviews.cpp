@@ -5,6 +5,7 @@
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/VideoMeta.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -24,6 +25,8 @@ void MainWindow::queuePreview(const QString& filePath, const QSize& size) {
     if (!_imageLoader) {
         _imageLoader = new ImageLoaderThreaded(this);
         connect(_imageLoader, &ImageLoaderThreaded::loadedImage, this, &MainWindow::onItemImageLoaded);
+        connect(_imageLoader, &ImageLoaderThreaded::loadedVideoImageMeta, this,
+                &MainWindow::onItemVideoImageMetaLoaded);
         connect(_imageLoader, &ImageLoaderThreaded::showMessage, this, &MainWindow::onShowMessage);
         _imageLoader->setImageThreadCount(
             Settings::instance()->data(keys::imagePreviewThreadCount, 4).toInt());
@@ -55,4 +58,33 @@ void MainWindow::onItemImageLoaded(const QString& fileName, const QImage& img) {
     if (img.isNull())
         qDebug() << "--- null image from thread:" << fileName;
     setItemImage(fileName, previewSize(), img);
+}
+
+void MainWindow::onItemVideoImageMetaLoaded(const QString& fileName,
+                                            const QHash<QString, QVariant>& videoMeta) {
+    MediaItem* item = mediaItem(fileName);
+    if (!item) {
+        qDebug() << "Error, unable to find model item for:" << fileName;
+        return;
+    }
+    item->setData(videoMeta, RoleVideoMeta);
+    item->setData(mediaToolTip(videoResolution(videoMeta), fileName), Qt::ToolTipRole);
+    const int row = item->row();
+    const auto cellItem = [&](MediaColumn column) {
+        QStandardItem* cell = _itemModel->item(row, column);
+        if (!cell)
+            qDebug() << "Error, unable to get item for column" << int(column) << "for:" << fileName;
+        return cell;
+    };
+    for (const VideoMetaCell& cell : videoMetaCells(videoMeta)) {
+        if (QStandardItem* target = cellItem(cell.column)) {
+            target->setData(cell.display, Qt::DisplayRole);
+            target->setData(cell.value, RoleValue);
+        }
+    }
+    if (QStandardItem* comment = cellItem(ColComment)) {
+        const QString text = videoMeta.value(QStringLiteral("Comment")).toString();
+        comment->setData(text.isEmpty() ? tr("No") : tr("Yes"), Qt::DisplayRole);
+        comment->setData(text, RoleComment);
+    }
 }

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/Questions.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "catalogue/FileNaming.h"
@@ -15,19 +16,8 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QItemSelectionModel>
-#include <QMessageBox>
 #include <QSet>
 #include <QTimer>
-
-namespace {
-
-void showScanMessageBox(QWidget* parent, const QString& text) {
-    QMessageBox box(parent);
-    box.setText(text);
-    box.exec();
-}
-
-} // namespace
 
 void MainWindow::openWorkingDirectory(const QString& path) {
     if (_imageLoader)
@@ -36,7 +26,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         const QString message = tr("Provide correct working directory path. Path is empty.");
         qDebug() << "Path empty:" << path;
         ui->statusbar->showMessage(message);
-        showScanMessageBox(this, message);
+        tellUser(this, message);
         return;
     }
     if (!QFile::exists(path)) {
@@ -44,7 +34,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
             tr("Provide correct working directory. Directory dont exists at: %1").arg(path);
         qDebug() << "Path dont exists at:" << path;
         onShowMessage(message);
-        showScanMessageBox(this, message);
+        tellUser(this, message);
         return;
     }
     _imageTags.clear();
@@ -145,6 +135,7 @@ void MainWindow::populateUiImage(const QStringList& files) {
         onShowMessage(tr("Loading image previews"));
         _imageLoader->start();
     }
+    watchWorkingDirectory();
     onFilterImages(ui->leFilterImages->text());
 }
 

@@ -7,6 +7,7 @@
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
 #include "ui_MainWindow.h"
@@ -15,7 +16,6 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMenu>
-#include <QMessageBox>
 
 namespace {
 
@@ -58,6 +58,9 @@ void showAllHeaderSections(QHeaderView* header) {
 } // namespace
 
 void MainWindow::initCatalogueConnections() {
+    connect(ui->action_SelectWorkingPath, &QAction::triggered, this, &MainWindow::onSrcSelectPath);
+    connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
+    connect(ui->tBSrcSelectPath, &QToolButton::clicked, this, &MainWindow::onSrcSelectPath);
     connect(ui->tBRefreshOpenFilePath, &QToolButton::clicked, this, &MainWindow::onRefreshOpenFilePath);
     for (const QAbstractItemView* view : mediaViews())
         connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
@@ -67,6 +70,7 @@ void MainWindow::initCatalogueConnections() {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 &MainWindow::onItemSelectedChanged);
     }
+    connect(ui->lEWorkingPath, &QLineEdit::editingFinished, this, &MainWindow::onWorkingPathEdited);
     connect(ui->leFilterImages, &QLineEdit::textChanged, this, &MainWindow::onFilterImages);
     connect(ui->dockWidget_ImgPreview, &QWidget::customContextMenuRequested, this,
             &MainWindow::onDockWidgetImagePreviewCustomMenu);
@@ -92,6 +96,7 @@ void MainWindow::initViews() {
                                              tr("Center left"), tr("Center center"), tr("Center right"),
                                              tr("Bottom left"), tr("Bottom center"), tr("Bottom right")});
     ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
+    ui->tWComments->setItemDelegate(new ShortTextDelegate(ui->tWComments));
 }
 
 void MainWindow::initListView() {
@@ -210,6 +215,7 @@ void MainWindow::onItemSelectedChanged() {
     readTagFile(files.first());
     showMediaPreview(files.first());
     onShowMessage(tr("Selected: %1 items").arg(files.size()));
+    updateComments();
 }
 
 void MainWindow::showMediaPreview(const QString& filePath) {
@@ -222,14 +228,4 @@ void MainWindow::showMediaPreview(const QString& filePath) {
         ui->imgWidget->setImageFilePath(filePath);
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewImage);
     }
-}
-
-void MainWindow::onRefreshOpenFilePath() {
-    QMessageBox box(this);
-    box.setText(tr("Refresh %1 working directory?").arg(ui->lEWorkingPath->text()));
-    box.setInformativeText(tr("All unsaved changes to tags will be discarded."));
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::No);
-    if (box.exec() != QMessageBox::No)
-        openWorkingDirectory(ui->lEWorkingPath->text());
 }

@@ -1,0 +1,84 @@
+#include "app/MainWindow.h"
+
+#include "catalogue/MediaFormats.h"
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaModel.h"
+#include "catalogue/UpdatesOff.h"
+#include "catalogue/VideoMeta.h"
+#include "ui_MainWindow.h"
+
+#include <QClipboard>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void addCommentItem(QTreeWidgetItem* parent, const QString& key, const QString& value) {
+    auto* item = new QTreeWidgetItem(parent, {key, value});
+    // Editable, so that a value can be marked and copied in place.
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
+}
+
+} // namespace
+
+void MainWindow::updateComments() {
+    const UpdatesOff updatesOff({ui->tWComments});
+    ui->tWComments->clear();
+    QImageReader reader;
+    const QStringList files = selectedFilePaths();
+    for (const QString& path : files) {
+        auto* top = new QTreeWidgetItem({QFileInfo(path).fileName()});
+        top->setToolTip(0, path);
+        if (isVideoFile(path)) {
+            const MediaItem* item = mediaItem(path);
+            const QVariantHash meta = item ? item->data(RoleVideoMeta).toHash() : QVariantHash();
+            for (const auto& [key, value] : meta.asKeyValueRange())
+                addCommentItem(top, key, videoMetaText(value));
+        } else {
+            reader.setFileName(path);
+            const QStringList keys = reader.textKeys();
+            for (const QString& key : keys)
+                addCommentItem(top, key, reader.text(key));
+        }
+        ui->tWComments->addTopLevelItem(top);
+        top->setFirstColumnSpanned(true);
+    }
+    ui->tWComments->expandAll();
+}
+
+QString MainWindow::firstSelectedComment() const {
+    const QModelIndexList selected = selectedIndexes();
+    return selected.isEmpty() ? QString()
+                              : selected.first().siblingAtColumn(ColComment).data(RoleComment).toString();
+}
+
+void MainWindow::onCopyComment() {
+    if (!selectedIndexes().isEmpty())
+        QGuiApplication::clipboard()->setText(firstSelectedComment(), QClipboard::Clipboard);
+}
+
+void MainWindow::onExtractWorkflow() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    const QString comment = firstSelectedComment();
+    if (comment.isEmpty())
+        return;
+    const QString directory = selectDirectory();
+    if (directory.isEmpty())
+        return;
+    QFile file(u"%1/%2.json"_s.arg(directory, QFileInfo(files.first()).baseName()));
+    if (!file.open(QIODevice::WriteOnly)) {
+        qDebug() << "Error, unable to open file for writting:" << file.errorString();
+        return;
+    }
+    if (file.write(comment.toUtf8()) == -1) {
+        qDebug() << "Error, unable to write content to the file:" << file.fileName()
+                 << "error:" << file.errorString();
+    }
+}

@@ -1,0 +1,210 @@
+#include "app/MainWindow.h"
+
+#include "app/Questions.h"
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "app/services/Utils.h"
+#include "catalogue/FileNaming.h"
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/StrayTxtFiles.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QDesktopServices>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype openWithoutAsking = 8;
+
+bool endsInSlash(const QString& directory) {
+    return directory.endsWith(u'/') || directory.endsWith(u'\\');
+}
+
+QStringList namesInDirectory(const QString& directory, const QStringList& nameFilters,
+                             QDir::Filters filters) {
+    QStringList names;
+    QDirIterator entries(directory, nameFilters, filters);
+    while (entries.hasNext()) {
+        entries.next();
+        names.append(entries.fileName());
+    }
+    return names;
+}
+
+// The name of an imported file in its new directory; counted up until it is free.
+QString freeImportName(const QString& directory, const QFileInfo& source) {
+    for (int number = 0;; ++number) {
+        const QString target = u"%1%2_%4.%3"_s.arg(directory, source.completeBaseName(), source.suffix(),
+                                                   QString::number(number));
+        if (!QFile::exists(target))
+            return target;
+    }
+}
+
+} // namespace
+
+QString MainWindow::selectDirectory() {
+    const QString directory =
+        QFileDialog::getExistingDirectory(this, tr("Select directory"), _workingPath,
+                                          QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    if (!directory.isEmpty())
+        _workingPath = directory;
+    return directory;
+}
+
+void MainWindow::copyFiles() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    const QString directory = selectDirectory();
+    if (directory.isEmpty())
+        return;
+    for (const QString& source : files) {
+        const QString target = destinationFilePath(source, directory);
+        QFile file(source);
+        if (!file.copy(target)) {
+            onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
+                              .arg(source, target, file.errorString()));
+        }
+    }
+}
+
+void MainWindow::moveFiles() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    const QString directory = selectDirectory();
+    if (directory.isEmpty())
+        return;
+    for (const QString& source : files) {
+        ui->vidWidget->stop(source);
+        const QString target = destinationFilePath(source, directory);
+        QFile file(source);
+        if (!file.rename(target)) {
+            onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
+                              .arg(source, target, file.errorString()));
+        }
+    }
+}
+
+void MainWindow::deleteFile() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    const auto answer =
+        askUser(this, tr("Delete files."), tr("Do you want to delete %1 files?").arg(files.size()),
+                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel)
+        return;
+    for (const QString& path : files) {
+        ui->vidWidget->stop(path);
+        QFile file(path);
+        if (!file.moveToTrash()) {
+            qDebug() << "Error, unable to move file to trash:" << file.errorString() << path;
+            onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(file.errorString()));
+        }
+    }
+    for (const QString& path : files)
+        removeImageTags(path);
+    removeFileItems(files);
+    refreshAllTags();
+}
+
+void MainWindow::deleteStrayTxtFiles() {
+    const QString directory = ui->lEWorkingPath->text();
+    if (directory.isEmpty()) {
+        onShowMessage(tr("Working path empty."));
+        return;
+    }
+    if (!QFile::exists(directory)) {
+        onShowMessage(tr("Working path dont exists."));
+        return;
+    }
+    const QStringList stray =
+        strayTxtFiles(namesInDirectory(directory, {u"*.txt"_s}, QDir::Files),
+                      namesInDirectory(directory, {}, QDir::AllEntries), _supportedFormats);
+    for (const QString& name : stray) {
+        const QString path = destinationFilePath(name, directory);
+        if (!QFile::moveToTrash(path))
+            onShowMessage(tr("Failed to trash file: %1").arg(path));
+    }
+    onShowMessage(tr("Found %1 stray txt files, moved to trash bin.").arg(stray.size()));
+}
+
+void MainWindow::importFiles() {
+    QString directory = ui->lEWorkingPath->text();
+    if (directory.isEmpty()) {
+        tellUser(this, tr("Set working directory. Path is empty."));
+        return;
+    }
+    if (!QFile::exists(directory)) {
+        tellUser(this, tr("Working directory don't exists at: %1").arg(directory));
+        return;
+    }
+    if (!endsInSlash(directory))
+        directory += u'/';
+    const QStringList sources =
+        QFileDialog::getOpenFileNames(this, tr("Select files to import"), _workingPath, tr("Files (*.*)"));
+    if (sources.isEmpty())
+        return;
+    _workingPath = QFileInfo(sources.first()).path();
+    const bool deleteSource = Settings::instance()->data(keys::importFilesDeleteSrc, false).toBool();
+    const bool autoRename = Settings::instance()->data(keys::importFilesAutoRename, false).toBool();
+    for (const QString& source : sources)
+        importFile(source, directory, autoRename, deleteSource);
+}
+
+void MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
+                            bool deleteSource) {
+    const QFileInfo info(source);
+    QString target = u"%1%2.%3"_s.arg(directory, info.completeBaseName(), info.suffix());
+    if (QFile::exists(target)) {
+        if (!autoRename) {
+            onShowMessage(tr("Unable to import file from %1, file already exist at: %2").arg(source, target));
+            return;
+        }
+        target = freeImportName(directory, info);
+    }
+    QFile file(source);
+    if (!file.copy(target)) {
+        onShowMessage(tr("Unable to import file from %1, copy error: %2").arg(source, file.errorString()));
+        return;
+    }
+    onShowMessage(tr("Imported file from %1 to %2").arg(source, target));
+    if (deleteSource) {
+        QFile trashed(source);
+        if (!trashed.moveToTrash()) {
+            onShowMessage(tr("Import file error, unable to move to trash file: %1, error: %2")
+                              .arg(source, trashed.errorString()));
+        }
+    }
+    queuePreview(target, previewSize());
+    setImageTags(target, readTagFile(target));
+}
+
+bool MainWindow::wantsToOpenMany(qsizetype count) {
+    return count <= openWithoutAsking || userSaysYes(this, tr("Open %1 file browsers?").arg(count));
+}
+
+void MainWindow::openInNativeApp() {
+    const QStringList files = selectedFilePaths();
+    if (!wantsToOpenMany(files.size()))
+        return;
+    for (const QString& path : files)
+        QDesktopServices::openUrl(QUrl::fromUserInput(path));
+}
+
+void MainWindow::showPathInFileBrowser() {
+    const QStringList files = selectedFilePaths();
+    if (!wantsToOpenMany(files.size()))
+        return;
+    for (const QString& path : files)
+        Utils::instance()->revealInFileBrowser(path, true, nullptr);
+}

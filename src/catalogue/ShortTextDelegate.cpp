@@ -1,0 +1,24 @@
+#include "catalogue/ShortTextDelegate.h"
+
+#include <QLineEdit>
+
+#include <limits>
+
+namespace {
+
+constexpr qsizetype shownCharacters = 2000;
+
+} // namespace
+
+QString ShortTextDelegate::displayText(const QVariant& value, const QLocale& locale) const {
+    const QString text = QStyledItemDelegate::displayText(value, locale);
+    return text.size() <= shownCharacters ? text : text.first(shownCharacters) + QChar(0x2026);
+}
+
+QWidget* ShortTextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                         const QModelIndex& index) const {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        edit->setMaxLength(std::numeric_limits<int>::max());
+    return editor;
+}

@@ -1,0 +1,23 @@
+#include "catalogue/StrayTxtFiles.h"
+
+#include "catalogue/FileNaming.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+QStringList strayTxtFiles(const QStringList& txtNames, const QStringList& allNames,
+                          const QStringList& mediaSuffixes) {
+    QSet<QString> answering;
+    const QSet<QString> suffixes(mediaSuffixes.cbegin(), mediaSuffixes.cend());
+    for (const QString& name : allNames) {
+        const QFileInfo info(name);
+        if (suffixes.contains(info.suffix().toLower()))
+            answering.insert(foldedPath(info.baseName()));
+    }
+    QStringList stray;
+    for (const QString& name : txtNames) {
+        if (!answering.contains(foldedPath(QFileInfo(name).baseName())))
+            stray.append(name);
+    }
+    return stray;
+}

@@ -1,0 +1,134 @@
+#include "app/MainWindow.h"
+
+#include "app/Questions.h"
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/ImageLoaderThreaded.h"
+#include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaModel.h"
+#include "editor/EditImageDialog.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+void MainWindow::editImage() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    auto* dialog = new EditImageDialog(this);
+    const Settings* settings = Settings::instance();
+    const QByteArray geometry = settings->data(keys::editImageWidgetGeometry).toByteArray();
+    if (!geometry.isEmpty() && !dialog->restoreGeometry(geometry))
+        qDebug() << "Error, unable to restore geometry for:" << dialog;
+    const QByteArray state = settings->data(keys::editImageWidgetState).toByteArray();
+    if (!state.isEmpty() && !dialog->restoreState(state))
+        qDebug() << "Error, unable to restore state for:" << dialog;
+    connect(dialog, &EditImageDialog::requestDeleteImage, this, &MainWindow::onRequestDeleteImage);
+    connect(dialog, &EditImageDialog::requestImgPrev, this, &MainWindow::onEditImgRequestImgPrev);
+    connect(dialog, &EditImageDialog::requestImgNext, this, &MainWindow::onEditImgRequestImgNext);
+    connect(dialog, &EditImageDialog::message, this, &MainWindow::onShowMessage);
+    connect(dialog, &EditImageDialog::savedFile, this, &MainWindow::onEditImgSavedFile);
+    connect(dialog, &EditImageDialog::newlySavedFile, this, &MainWindow::onEditImgNewlySavedFile);
+    connect(dialog, &EditImageDialog::widgetGeometry, this, [](const QByteArray& saved) {
+        Settings::instance()->setData(keys::editImageWidgetGeometry, saved, true);
+    });
+    connect(dialog, &EditImageDialog::widgetState, this, [](const QByteArray& saved) {
+        Settings::instance()->setData(keys::editImageWidgetState, saved, true);
+    });
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setImageFile(files.first(), fileIndexText(files.first()));
+    dialog->show();
+}
+
+int MainWindow::fileRow(const QString& filePath) const {
+    const QStandardItem* item = _itemsByPath.value(filePath);
+    return item ? item->row() : -1;
+}
+
+QString MainWindow::fileIndexText(const QString& filePath) const {
+    const int row = fileRow(filePath);
+    return QStringLiteral("[%1 - %2]").arg(row < 0 ? -1 : row + 1).arg(_itemModel->rowCount());
+}
+
+// The path so many rows on, around both ends; empty for a path without a row.
+QString MainWindow::steppedFilePath(const QString& filePath, int step) const {
+    const int row = fileRow(filePath);
+    const int count = _itemModel->rowCount();
+    if (row < 0)
+        return {};
+    return _itemModel->item((row + step + count) % count, ColName)->data(RoleValue).toString();
+}
+
+void MainWindow::onEditImgRequestImgNext(const QString& currFilePath) {
+    qDebug() << "MainWindow::onEditImgRequestImgNext";
+    stepEditor(qobject_cast<EditImageDialog*>(sender()), currFilePath, 1);
+}
+
+void MainWindow::onEditImgRequestImgPrev(const QString& currFilePath) {
+    qDebug() << "MainWindow::onEditImgRequestImgPrev";
+    stepEditor(qobject_cast<EditImageDialog*>(sender()), currFilePath, -1);
+}
+
+void MainWindow::stepEditor(EditImageDialog* dialog, const QString& currFilePath, int step) {
+    if (!dialog) {
+        qDebug() << "Error, sender not EditImageDialog";
+        return;
+    }
+    if (const QString path = steppedFilePath(currFilePath, step); !path.isEmpty())
+        dialog->setImageFile(path, fileIndexText(path));
+}
+
+void MainWindow::onEditImgSavedFile(const QString& fileName) {
+    queuePreview(fileName, previewSize());
+    if (_imageLoader)
+        _imageLoader->start();
+    onShowMessage(tr("Saved image: %1").arg(fileName));
+}
+
+void MainWindow::onEditImgNewlySavedFile(const QString& fileName) {
+    qDebug() << "MainWindow::onEditImgNewlySavedFile" << fileName;
+    if (_itemsByPath.contains(fileName)) {
+        onShowMessage(tr("Saved image as file: %1, file overwritten.").arg(fileName));
+        return;
+    }
+    if (QFileInfo(fileName).path() != ui->lEWorkingPath->text()) {
+        onShowMessage(
+            tr("Saved image as file: %1, outside of working directory, not adding to list.").arg(fileName));
+        return;
+    }
+    onShowMessage(tr("Adding saved image as file: %1").arg(fileName));
+    addFileItem(fileName);
+    reloadFile(fileName);
+}
+
+void MainWindow::reloadFile(const QString& filePath) {
+    queuePreview(filePath, previewSize());
+    setImageTags(filePath, readTagFile(filePath));
+}
+
+void MainWindow::onRequestDeleteImage(const QString& filePath) {
+    qDebug() << "MainWindow::onRequestDeleteImage";
+    // The question runs an event loop in which the window may be closed.
+    const QPointer<EditImageDialog> dialog = qobject_cast<EditImageDialog*>(sender());
+    const auto answer =
+        askUser(nullptr, tr("Delete file?"), tr("Do you want to delete %1 file?").arg(filePath),
+                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel)
+        return;
+    if (!dialog) {
+        qDebug() << "Error, sender not EditImageDialog";
+        return;
+    }
+    const QString next = steppedFilePath(filePath, 1);
+    QFile file(filePath);
+    if (file.moveToTrash()) {
+        dialog->setImageFile(next, fileIndexText(next));
+    } else {
+        qDebug() << "Error, unable to move file to trash:" << filePath << file.errorString();
+        ui->statusbar->showMessage(
+            tr("Error %1 unable move file %2 to trash.").arg(file.errorString(), filePath));
+    }
+}

@@ -1,0 +1,65 @@
+#include "app/MainWindow.h"
+
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/FileNaming.h"
+#include "ui_MainWindow.h"
+#include "video/VideoWidget.h"
+
+#include <QDateTime>
+#include <QDebug>
+
+namespace {
+
+constexpr auto frameFormat = "png";
+constexpr int frameQuality = 99;
+
+} // namespace
+
+VideoWidget* MainWindow::showEditVideoWidget() {
+    auto* window = new VideoWidget(this);
+    const Settings* settings = Settings::instance();
+    const QByteArray geometry = settings->data(keys::videoWidgetGeometry).toByteArray();
+    if (!geometry.isEmpty() && !window->restoreGeometry(geometry))
+        qDebug() << "Error, unable to restore geometry for:" << window;
+    const QByteArray state = settings->data(keys::videoWidgetState).toByteArray();
+    if (!state.isEmpty() && !window->restoreState(state))
+        qDebug() << "Error, unable to restore state for:" << window;
+    connect(window, &VideoWidget::imagePic, this, &MainWindow::onVideoPicCaptured);
+    connect(window, &VideoWidget::widgetGeometry, this, [](const QByteArray& saved) {
+        Settings::instance()->setData(keys::videoWidgetGeometry, saved, true);
+    });
+    connect(window, &VideoWidget::widgetState, this, [](const QByteArray& saved) {
+        Settings::instance()->setData(keys::videoWidgetState, saved, true);
+    });
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+    return window;
+}
+
+void MainWindow::editVideo(const QString& filePath) {
+    showEditVideoWidget()->openFile(filePath);
+}
+
+void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) {
+    if (img.isNull()) {
+        qDebug() << "Image is null...";
+        return;
+    }
+    const QString directory = ui->lEWorkingPath->text();
+    if (directory.isEmpty()) {
+        qDebug() << "Path is empty...";
+        return;
+    }
+    const auto* window = qobject_cast<VideoWidget*>(sender());
+    const QString path =
+        grabbedFramePath(directory, fileName, window ? std::optional(window->lastOpenPath()) : std::nullopt,
+                         QDateTime::currentDateTime());
+    if (!img.save(path, frameFormat, frameQuality)) {
+        qDebug() << "Error, unable to save image to:" << path;
+        onShowMessage(tr("Error, unable to save file to: %1").arg(path));
+        return;
+    }
+    addFileItem(path);
+    reloadFile(path);
+}
