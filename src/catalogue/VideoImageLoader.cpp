@@ -53,11 +53,12 @@ void VideoImageLoader::grabFrame(const QString& filePath, qint64 position) {
     initVideoPlayer();
     endJob();
     _videoFilePath = filePath;
-    _jobIsOn = true;
-    _jobHasFailed = false;
-    _patience.start(kProbePatience);
+    // Until here the player speaks of the file before.
     _player->setSource(mediaUrl(filePath));
     followFramesOfThisJob();
+    _jobIsOn = true;
+    _jobHasFailed = false;
+    mediaStatusChanged(_player->mediaStatus());
     _player->pause();
     _player->setPosition(position);
 }
@@ -95,7 +96,8 @@ void VideoImageLoader::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
     qDebug() << "VideoImageLoader::mediaStatusChanged" << status << _videoFilePath;
     if (!_jobIsOn || _jobHasFailed)
         return;
-    _jobHasFailed = status == QMediaPlayer::InvalidMedia;
+    const bool withoutPicture = status == QMediaPlayer::LoadedMedia && !_player->hasVideo();
+    _jobHasFailed = status == QMediaPlayer::InvalidMedia || withoutPicture;
     _patience.start(_jobHasFailed ? std::chrono::seconds{0} : kProbePatience);
 }
 

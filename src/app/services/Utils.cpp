@@ -1,8 +1,52 @@
 #include "app/services/Utils.h"
 
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDebug>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QUrl>
+#include <QWidget>
+
 #include <array>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void warnWithoutFileManager(QWidget* parent) {
+    QMessageBox::warning(parent, Utils::tr("Launching Windows Explorer Failed"),
+                         Utils::tr("Could not find explorer.exe in path to launch Windows Explorer."),
+                         QMessageBox::Ok);
+}
+
+void openFolderOf(const QString& path, QWidget* parent) {
+    const QFileInfo info(path);
+    const QString folder = info.isDir() ? info.absoluteFilePath() : info.absolutePath();
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
+        warnWithoutFileManager(parent);
+}
+
+QDBusMessage fileManagerCall(const QString& path) {
+    const QFileInfo info(path);
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
+        u"org.freedesktop.FileManager1"_s, info.isDir() ? u"ShowFolders"_s : u"ShowItems"_s);
+    const QUrl url = QUrl::fromLocalFile(info.absoluteFilePath());
+    call << QStringList{url.toString(QUrl::FullyEncoded)} << QString();
+    return call;
+}
+
+} // namespace
 
 Utils* Utils::instance(QObject* parent) {
     static auto* const utils = new Utils(parent);
@@ -34,4 +78,107 @@ QString Utils::formatDuration(quint64 milliseconds, bool showMilliseconds, int h
     if (showMilliseconds)
         text += u".%1"_s.arg(milliseconds % 1000);
     return text;
+}
+
+QString Utils::findInPath(const QString& fileName) const {
+    const QString searchPath = QProcessEnvironment::systemEnvironment().value(u"PATH"_s);
+    const QStringList directories = searchPath.split(u';', Qt::SkipEmptyParts);
+    for (QString directory : directories) {
+        directory.replace(u'\\', u'/');
+        if (!directory.endsWith(u'/'))
+            directory += u'/';
+        const QString path = directory + fileName;
+        if (QFileInfo::exists(path))
+            return path;
+    }
+    return {};
+}
+
+QString nearestExistingPath(const QString& path) {
+    QDir dir(QFileInfo(path).path());
+    while (!dir.exists()) {
+        const QString parent = QFileInfo(QDir::cleanPath(dir.path())).path();
+        if (parent.isEmpty() || parent == dir.path())
+            return path;
+        dir.setPath(parent);
+    }
+    const QString separator = dir.path().endsWith(u'/') ? QString() : u"/"_s;
+    const QString found = u"%1%2%3"_s.arg(dir.path(), separator, QFileInfo(path).fileName());
+    return QFileInfo::exists(found) ? found : dir.path();
+}
+
+void Utils::revealInFileBrowser(const QString& path, bool resolveExisting, QWidget* parent) {
+    QString shown = path;
+    if (resolveExisting) {
+        shown = nearestExistingPath(path);
+        if (!QFileInfo::exists(path) && QFileInfo(shown).isDir())
+            qDebug() << "dir exists at:" << shown;
+    }
+#ifdef Q_OS_WIN
+    showInExplorer(shown, parent);
+#else
+    showOnDesktop(shown, parent);
+#endif
+}
+
+void Utils::showInExplorer(const QString& path, QWidget* parent) {
+    const QString explorer = findInPath(u"explorer.exe"_s);
+    if (explorer.isEmpty()) {
+        warnWithoutFileManager(parent);
+        return;
+    }
+    QStringList arguments;
+    if (!QFileInfo(path).isDir())
+        arguments << u"/select,"_s;
+    arguments << QDir::toNativeSeparators(path);
+    QProcess::startDetached(explorer, arguments);
+}
+
+// Starting a file manager over the bus takes its time, so nobody waits for the answer.
+void Utils::showOnDesktop(const QString& path, QWidget* parent) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        openFolderOf(path, parent);
+        return;
+    }
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(fileManagerCall(path)), this);
+    const auto onAnswer = [path, answer, guard = QPointer<QWidget>(parent)] {
+        answer->deleteLater();
+        if (QDBusPendingReply<>(*answer).isError())
+            openFolderOf(path, guard);
+    };
+    connect(answer, &QDBusPendingCallWatcher::finished, this, onAnswer);
+}
+
+bool Utils::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyRelease) {
+        const auto* keyEvent = static_cast<QKeyEvent*>(event);
+        if (keyEvent->modifiers().testFlag(Qt::ControlModifier))
+            zoomFonts(keyEvent->key());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Utils::storeFontSizes() {
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget* widget : widgets)
+        _storedFontSizes.insert(widget, widget->font().pointSizeF());
+}
+
+void Utils::zoomFonts(int key) {
+    if (key != Qt::Key_Plus && key != Qt::Key_Minus && key != Qt::Key_0)
+        return;
+    if (_storedFontSizes.isEmpty())
+        storeFontSizes();
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        QFont font = widget->font();
+        double size = font.pointSizeF() + (key == Qt::Key_Plus ? 1.0 : -1.0);
+        if (key == Qt::Key_0)
+            size = _storedFontSizes.value(widget);
+        if (size <= 0.0)
+            continue;
+        font.setPointSizeF(size);
+        widget->setFont(font);
+    }
 }

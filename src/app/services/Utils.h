@@ -7,7 +7,7 @@
 class QWidget;
 
 // What belongs nowhere else: texts of bit rates and durations, and showing a file in the desktop's file
-// manager.
+// manager. As an event filter of the application it zooms all fonts by Ctrl and plus, minus or zero.
 class Utils : public QObject {
     Q_OBJECT
 
@@ -21,6 +21,28 @@ public:
     [[nodiscard]] QString formatDuration(quint64 milliseconds, bool showMilliseconds, int hourPadding,
                                          bool hideEmptyHours) const;
 
+    // The first existing file of that name in the directories of PATH, which are separated by semicolons;
+    // empty if there is none.
+    [[nodiscard]] QString findInPath(const QString& fileName) const;
+    // Shows a file selected in its folder, or opens a folder. With resolveExisting a path that has
+    // disappeared stands for the nearest folder that is left. Tells the user when no file manager can be
+    // started.
+    void revealInFileBrowser(const QString& path, bool resolveExisting, QWidget* parent);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     explicit Utils(QObject* parent);
+
+    void showInExplorer(const QString& path, QWidget* parent);
+    void showOnDesktop(const QString& path, QWidget* parent);
+    void storeFontSizes();
+    void zoomFonts(int key);
+
+    // Point sizes before the first zoom.
+    QHash<const QWidget*, double> _storedFontSizes;
 };
+
+// The path, or where its folder is gone, the nearest folder above it that exists.
+[[nodiscard]] QString nearestExistingPath(const QString& path);
