@@ -183,7 +183,8 @@ void Profiles::restore(const QByteArray& data) {
     _profiles = std::move(contents.profiles);
     _current = contents.current;
     if (!isValidIndex(_current)) {
-        qDebug() << "Info, restored current profile is not in the list:" << _current;
+        qDebug() << "Info, restored current profile index is not in the list:" << _current
+                 << "profiles count:" << _profiles.size();
         _current = 0;
     }
     for (Profile& profile : _profiles)

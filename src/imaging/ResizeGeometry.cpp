@@ -48,6 +48,12 @@ QRect aspectRatioCrop(const QSize& size, double aspectRatio) {
     return crop;
 }
 
+QImage reducedToFit(const QImage& image, const QSize& size) {
+    if (image.width() <= size.width() && image.height() <= size.height())
+        return image;
+    return image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
 std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& options) {
     switch (options.mode) {
     case ResizeMode::None:

@@ -34,5 +34,8 @@ struct ResizeOptions {
 // reaches beyond the image where that is higher.
 [[nodiscard]] QRect aspectRatioCrop(const QSize& size, double aspectRatio);
 
+// The image itself, or where it is wider or higher than the size a smooth copy that fits into it.
+[[nodiscard]] QImage reducedToFit(const QImage& image, const QSize& size);
+
 // Nothing if the options ask for no operation; a null image if the new size is empty or too large.
 [[nodiscard]] std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& options);

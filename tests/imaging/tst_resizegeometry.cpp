@@ -18,6 +18,7 @@ private slots:
     void resizes_data();
     void resizes();
     void cropTakesPixelsFromTheMiddle();
+    void previewsAreOnlyMadeSmaller();
     void outputDirectories_data();
     void outputDirectories();
     void outputDirectoryIsMade();
@@ -121,6 +122,14 @@ void TestResizeGeometry::cropTakesPixelsFromTheMiddle() {
     ResizeOptions options{ResizeMode::AspectRatio};
     options.aspectRatio = 0.5;
     QCOMPARE(resizedImage(image, options), image.copy(0, 3, 4, 2));
+}
+
+void TestResizeGeometry::previewsAreOnlyMadeSmaller() {
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QCOMPARE(reducedToFit(image, {40, 30}).cacheKey(), image.cacheKey());
+    QCOMPARE(reducedToFit(image, {20, 100}).size(), QSize(20, 15));
+    QCOMPARE(reducedToFit(image, {100, 20}).size(), QSize(26, 20));
 }
 
 void TestResizeGeometry::outputDirectories_data() {

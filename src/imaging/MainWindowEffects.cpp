@@ -1,0 +1,270 @@
+#include "app/MainWindow.h"
+
+#include "app/WaitCursor.h"
+#include "imaging/BatchWriter.h"
+#include "imaging/ImageFilterWidgetBase.h"
+#include "imaging/ImageFilters.h"
+#include "imaging/OutputPath.h"
+#include "imaging/Profiles.h"
+#include "imaging/ProfilesWidget.h"
+#include "imaging/ResizeGeometry.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QMenu>
+
+#include <optional>
+
+namespace {
+
+constexpr QSize effectItemSize(24, 26);
+constexpr int effectNameRole = Qt::UserRole + 1;
+
+} // namespace
+
+void MainWindow::initEffectViews() {
+    ui->vLFilterEffect->insertWidget(0, Profiles::instance()->widget(ui->scrollAreaImgDSPContents, true));
+    QListWidget* list = ui->lWDspEffects;
+    list->setViewMode(QListView::ListMode);
+    list->setSpacing(8);
+    list->setUniformItemSizes(true);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setDragDropMode(QAbstractItemView::NoDragDrop);
+    list->setSortingEnabled(false);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+}
+
+void MainWindow::initImagingConnections() {
+    connect(ui->pBProcessResize, &QPushButton::clicked, this, &MainWindow::onProcessResize);
+    connect(ui->lWDspEffects, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onDspEffectsCustomContextMenu);
+    for (const QGroupBox* box : resizeGroupBoxes())
+        connect(box, &QGroupBox::toggled, this, [this, box](bool on) { onResizeGroupToggled(box, on); });
+    connect(ui->hSResizeImgWriteQuality, &QSlider::valueChanged, this,
+            [this](int value) { ui->label_Quality->setText(tr("Quality [%1]:").arg(value)); });
+    connect(ui->hSDspWriteQuality, &QSlider::valueChanged, this,
+            [this](int value) { ui->label_Quality_2->setText(tr("Quality [%1]:").arg(value)); });
+    connect(ui->pBDspApply, &QPushButton::clicked, this, &MainWindow::onFilterApply);
+    connect(ui->pBDspReset, &QPushButton::clicked, this, &MainWindow::onDspReset);
+    connect(ui->tBAddEffect, &QToolButton::clicked, this, &MainWindow::onAddDspEffect);
+    const Profiles* profiles = Profiles::instance();
+    connect(profiles, &Profiles::profilesNewRequested, this, &MainWindow::onFilterProfilesNewRequested);
+    connect(profiles, &Profiles::profilesEditRequested, this, &MainWindow::onFilterProfilesEditRequested);
+    connect(profiles, &Profiles::profilesRemoveRequested, this, &MainWindow::onFilterProfilesRemoveRequested);
+    connect(profiles, &Profiles::profilesCurrentAboutToChange, this,
+            &MainWindow::onFilterProfilesCurrentAboutToChange);
+    connect(profiles, &Profiles::profilesHasChanged, this, &MainWindow::onFilterProfilesHasChanged);
+    connect(profiles, &Profiles::profilesMoved, this, &MainWindow::onFilterProfilesMoved);
+}
+
+QString MainWindow::effectName(const QListWidgetItem* item) {
+    return item->data(effectNameRole).toString();
+}
+
+ImageFilterWidgetBase* MainWindow::effectRow(QListWidgetItem* item) const {
+    return qobject_cast<ImageFilterWidgetBase*>(ui->lWDspEffects->itemWidget(item));
+}
+
+// A row for the item, connected and attached.
+ImageFilterWidgetBase* MainWindow::attachEffectRow(QListWidgetItem* item) {
+    ImageFilterWidgetBase* row = _imageFilters->createFilterWidget(effectName(item));
+    row->setItem(item);
+    ui->lWDspEffects->setItemWidget(item, row);
+    return row;
+}
+
+void MainWindow::connectEffectRow(const ImageFilterWidgetBase* row) {
+    connect(row, &ImageFilterWidgetBase::itemDelete, this, &MainWindow::onFilterItemDelete);
+    connect(row, &ImageFilterWidgetBase::itemMoveUp, this, &MainWindow::onFilterItemMoveUp);
+    connect(row, &ImageFilterWidgetBase::itemMoveDown, this, &MainWindow::onFilterItemMoveDown);
+    connect(row, &ImageFilterWidgetBase::optionChanged, this, &MainWindow::onFilterApply);
+}
+
+void MainWindow::onAddDspEffect() {
+    onAddDspEffectItem(ui->cBDspEffectsList->currentText());
+    onFilterApply();
+}
+
+void MainWindow::onAddDspEffectItem(const QString& filterName) {
+    auto* item = new QListWidgetItem;
+    item->setSizeHint(effectItemSize);
+    item->setData(effectNameRole, filterName);
+    ui->lWDspEffects->insertItem(ui->lWDspEffects->count(), item);
+    connectEffectRow(attachEffectRow(item));
+}
+
+void MainWindow::onFilterItemDelete() {
+    qDebug() << "MainWindow::onFilterItemDelete" << sender();
+    const auto* row = qobject_cast<ImageFilterWidgetBase*>(sender());
+    if (!row) {
+        qDebug() << "Error, unable to cast filter widget to base...";
+        return;
+    }
+    delete ui->lWDspEffects->takeItem(ui->lWDspEffects->row(row->item()));
+    onFilterApply();
+}
+
+void MainWindow::onFilterItemMoveUp() {
+    qDebug() << "MainWindow::onFilterItemMoveUp" << sender();
+    moveSendingRow(true);
+}
+
+void MainWindow::onFilterItemMoveDown() {
+    qDebug() << "MainWindow::onFilterItemMoveDown" << sender();
+    moveSendingRow(false);
+}
+
+void MainWindow::moveSendingRow(bool up) {
+    const auto* row = qobject_cast<ImageFilterWidgetBase*>(sender());
+    if (!row) {
+        qDebug() << "Error, unable to cast filter widget to base...";
+        return;
+    }
+    onFilterItemMove(up, row->item());
+    onFilterApply();
+}
+
+void MainWindow::onFilterItemMove(bool up, QListWidgetItem* item) {
+    // Row widgets do not survive a move of their item, so the row is rebuilt from its options.
+    QListWidget* list = ui->lWDspEffects;
+    const int place = list->row(item);
+    if (up && place - 1 < 0)
+        return;
+    const ImageFilterWidgetBase* row = effectRow(item);
+    const QVariantHash options = row ? row->options() : QVariantHash();
+    list->removeItemWidget(item);
+    list->takeItem(place);
+    list->insertItem(up ? place - 1 : place + 1, item);
+    ImageFilterWidgetBase* rebuilt = attachEffectRow(item);
+    rebuilt->setOptions(options);
+    connectEffectRow(rebuilt);
+}
+
+void MainWindow::onDspEffectsCustomContextMenu() {
+    QListWidget* list = ui->lWDspEffects;
+    QMenu menu;
+    menu.addAction(tr("&Toggle bypass"), this, [this] {
+        forEachEffectRow([](ImageFilterWidgetBase* row) { row->setFilterEnabled(!row->isFilterEnabled(), true); });
+        onFilterApply();
+    });
+    menu.addAction(tr("&Bypass all"), this, [this] {
+        forEachEffectRow([](ImageFilterWidgetBase* row) { row->setFilterEnabled(false, true); });
+        onFilterApply();
+    });
+    menu.addSeparator();
+    menu.addAction(tr("&Remove selected"), this, [this, list] {
+        const QList<QListWidgetItem*> selected = list->selectedItems();
+        for (const QListWidgetItem* item : selected)
+            delete list->takeItem(list->row(item));
+        onFilterApply();
+    });
+    menu.addAction(tr("&Clear"), this, [this, list] {
+        list->setUpdatesEnabled(false);
+        list->clear();
+        list->setUpdatesEnabled(true);
+        onFilterApply();
+    });
+    menu.exec(QCursor::pos());
+}
+
+void MainWindow::forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) {
+    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
+        if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(place)))
+            visit(row);
+        else
+            qDebug() << "Error, unable to cast to base Image Filter.";
+    }
+}
+
+QString MainWindow::prepareOutputDirectory(const QString& outputText) {
+    const QString directory = resolveOutputDirectory(ui->lEWorkingPath->text(), outputText);
+    if (!ensureOutputDirectory(directory))
+        onShowMessage(tr("Error, unable to create out path %1 file will be not saved.").arg(directory));
+    return directory;
+}
+
+void MainWindow::onFilterApply() {
+    // One slot is the batch run and the live preview of every change; only the button asks for the batch.
+    const bool isBatch = sender() == ui->pBDspApply;
+    ui->dockWidget_ImgPreview->show();
+    QStringList paths = selectedFilePaths();
+    if (paths.isEmpty()) {
+        onShowMessage(tr("Select image/s."));
+        return;
+    }
+    if (!isBatch)
+        paths = {paths.last()};
+    const QString directory = prepareOutputDirectory(ui->lEDspDirOutput->text());
+    const std::optional<WaitCursor> waitCursor = isBatch ? std::optional<WaitCursor>(std::in_place) : std::nullopt;
+    BatchWriter writer(ui->hSDspWriteQuality->value());
+    for (const QString& path : std::as_const(paths)) {
+        if (path.isEmpty()) {
+            onShowMessage(tr("Error, image path is empty."));
+            return;
+        }
+        loadFilterImage(path, isBatch);
+        bool applied = false;
+        const QImage work = appliedEffects(_filterImage, applied);
+        if (!applied) {
+            qDebug() << "Image not processed" << path << "nothing to do.";
+            continue;
+        }
+        qDebug() << "Image processed:" << path;
+        if (!isBatch) {
+            ui->imgWidget->setImage(work, _filterImagePath);
+        } else if (writeBatchImage(writer, work, path, directory)) {
+            onShowMessage(
+                tr("Applied filter to %1 of total: %2").arg(writer.writtenCount()).arg(paths.size()));
+        }
+    }
+    onShowMessage(tr("Filters applied to: %1 files").arg(paths.size()));
+}
+
+void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
+    // A batch never takes the reduced copy that a preview left.
+    if (isBatch || _filterImage.isNull() || _filterImagePath != path) {
+        _filterImagePath = path;
+        _filterImage = QImage(path);
+        if (!isBatch)
+            _filterImage = reducedToFit(_filterImage, ui->imgWidget->size());
+    }
+    if (!isBatch)
+        ui->imgWidget->setImage(_filterImage, _filterImagePath);
+}
+
+QImage MainWindow::appliedEffects(const QImage& image, bool& applied) const {
+    QImage work = image;
+    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
+        QWidget* row = ui->lWDspEffects->itemWidget(ui->lWDspEffects->item(place));
+        work = _imageFilters->applyFilter(work, row, &applied);
+    }
+    return work;
+}
+
+bool MainWindow::writeBatchImage(BatchWriter& writer, const QImage& image, const QString& sourcePath,
+                                 const QString& directory) {
+    const QString path = outputFilePath(sourcePath, directory);
+    if (path != sourcePath)
+        qDebug() << "Output changed to:" << path;
+    if (writer.isWrittenAlready(path))
+        qDebug() << "Warning, another file of this run had the same name and is overwritten:" << path;
+    if (writer.write(image, path))
+        return true;
+    qDebug() << "Error, unable to write file:" << writer.errorString() << path;
+    onShowMessage(tr("Error, unable to write file: %1 error: %2").arg(path, writer.errorString()));
+    return false;
+}
+
+void MainWindow::onDspReset() {
+    const QStringList paths = selectedFilePaths();
+    if (paths.isEmpty() || paths.first().isEmpty()) {
+        onShowMessage(tr("Select image."));
+        return;
+    }
+    ui->imgWidget->setImageFilePath(paths.first());
+    _filterImagePath = paths.first();
+    _filterImage = QImage(_filterImagePath);
+}

@@ -1,0 +1,86 @@
+#include "app/MainWindow.h"
+
+#include "imaging/EffectList.h"
+#include "imaging/ImageFilterWidgetBase.h"
+#include "imaging/Profiles.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString effectListOption = u"effectList"_s;
+
+bool isProfileName(const QString& name) {
+    return std::ranges::any_of(Profiles::instance()->profiles(),
+                               [&](const Profile& profile) { return profile.name() == name; });
+}
+
+} // namespace
+
+void MainWindow::onFilterProfilesCurrentAboutToChange() {
+    if (Profiles::instance()->isEmpty()) {
+        qDebug() << "Info, no profiles for about to change.";
+        return;
+    }
+    EffectList effects;
+    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
+        QListWidgetItem* item = ui->lWDspEffects->item(place);
+        const ImageFilterWidgetBase* row = effectRow(item);
+        effects.emplaceBack(effectName(item), row ? row->options() : QVariantHash());
+    }
+    Profiles::instance()->currentProfile().setOption(effectListOption, effectListToVariant(effects));
+}
+
+void MainWindow::onFilterProfilesHasChanged() {
+    {
+        const QSignalBlocker blocker(ui->lWDspEffects);
+        ui->lWDspEffects->clear();
+        if (Profiles::instance()->isEmpty()) {
+            qDebug() << "Profiles are empty, nothing to do on profiles has changed";
+        } else {
+            const Profile& profile = Profiles::instance()->currentProfile();
+            profile.dump();
+            const EffectList effects = effectListFromVariant(profile.option(effectListOption));
+            for (const auto& [name, options] : effects) {
+                onAddDspEffectItem(name);
+                QListWidgetItem* item = ui->lWDspEffects->item(ui->lWDspEffects->count() - 1);
+                effectRow(item)->setOptions(options);
+            }
+        }
+    }
+    onFilterApply();
+}
+
+// A profile of the default name, or of that name with "_1" appended until it is new.
+void MainWindow::addDefaultProfile() {
+    QString name = tr("Default");
+    while (isProfileName(name))
+        name += "_1"_L1;
+    Profile profile;
+    profile.setName(name);
+    Profiles::instance()->addProfile(profile);
+    Profiles::instance()->setCurrentProfile(profile);
+}
+
+void MainWindow::onFilterProfilesNewRequested() {
+    addDefaultProfile();
+    Profiles::instance()->editCurrentProfile(this);
+}
+
+void MainWindow::onFilterProfilesEditRequested(int /*index*/) {
+    Profiles::instance()->editCurrentProfile(this);
+}
+
+void MainWindow::onFilterProfilesRemoveRequested(int index) {
+    Profiles::instance()->removeProfile(index);
+    if (Profiles::instance()->isEmpty())
+        addDefaultProfile();
+}
+
+void MainWindow::onFilterProfilesMoved() {}
