@@ -5,6 +5,10 @@
 #include "app/services/SettingsKeys.h"
 #include "app/services/Themes.h"
 #include "catalogue/MediaFormats.h"
+#include "imaging/EffectList.h"
+#include "imaging/ImageFilterWidgetBase.h"
+#include "imaging/ImageFilters.h"
+#include "imaging/Profiles.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -40,15 +44,18 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::MainWindow>())
     , _supportedFormats(supportedImageFormats() + supportedVideoFormats()) {
+    registerEffectListType();
     ui->setupUi(this);
     Settings::instance(this, settingsLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
     LogService::instance()->init({});
+    Profiles::instance(this)->setAllowedOptionsKeys({u"effectList"_s});
     initUi();
     initConnections();
     // The quality never survives a start, whatever was restored.
     ui->hSResizeImgWriteQuality->setValue(100);
     emit ui->gBResizeSpecificSize->toggled(true);
+    onFilterProfilesHasChanged();
     QTimer::singleShot(firstScanDelayMs, this, [this] { openWorkingDirectory(ui->lEWorkingPath->text()); });
 }
 
@@ -57,6 +64,7 @@ MainWindow::~MainWindow() {
     writeSettings();
     Settings::destroyInstance();
     Themes::destroyInstance();
+    Profiles::destroyInstance();
     ui.reset();
     LogService::destroy();
 }
@@ -82,6 +90,8 @@ void MainWindow::initUi() {
     initViews();
     initModels();
     ui->toolBar->addActions(actions());
+    _imageFilters = new ImageFilters(this);
+    ui->cBDspEffectsList->addItems(_imageFilters->filterNames());
     readSettings();
     initThemes();
 }
@@ -117,10 +127,18 @@ void MainWindow::updateThemeIcons(bool isDarkTheme) {
     themes->tintButtons(isDarkTheme, {ui->tBSrcSelectPath, ui->pBProcessResize, ui->tBRefreshOpenFilePath,
                                       ui->tBOllamaReconect, ui->tBSaveTagTxtFile, ui->tBSendOllamaPrompt,
                                       ui->pBOllamaGo, ui->tBAddEffect, ui->tBSaveTags, ui->tBExportTags});
+    themes->tintButtons(isDarkTheme, Profiles::instance()->toolButtons());
+    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
+        if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(place)))
+            row->updateIcons(isDarkTheme);
+        else
+            qDebug() << "Error, unable to cast filter widget to base...";
+    }
 }
 
 void MainWindow::initConnections() {
     connect(ui->actionExit, &QAction::triggered, this, &QWidget::close);
     initCatalogueConnections();
     initTagConnections();
+    initImagingConnections();
 }

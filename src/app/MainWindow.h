@@ -8,21 +8,29 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 
+class BatchWriter;
 class EditImageDialog;
 class IconIdentityProxyModel;
+class ImageFilterWidgetBase;
+class ImageFilters;
 class ImageLoaderThreaded;
 class MediaItem;
 class QAbstractItemView;
 class QFileSystemWatcher;
+class QGroupBox;
 class QHeaderView;
 class QListWidget;
+class QListWidgetItem;
 class QMenu;
 class QStandardItem;
 class MediaItemModel;
 class SortFilterProxyModel;
 class VideoWidget;
+enum class ResizeMode;
+struct ResizeOptions;
 
 namespace Ui {
 class MainWindow;
@@ -216,6 +224,62 @@ public slots:
 
 private:
     void openTextDialog(int operationType);
+
+    // --- Effects (imaging) -----------------------------------------------------------------------
+public slots:
+    void onAddDspEffect();
+    void onAddDspEffectItem(const QString& filterName);
+    void onFilterItemDelete();
+    void onFilterItemMoveUp();
+    void onFilterItemMoveDown();
+    void onFilterItemMove(bool up, QListWidgetItem* item);
+    void onFilterApply();
+    void onDspReset();
+    void onDspEffectsCustomContextMenu();
+
+private:
+    void initEffectViews();
+    void initImagingConnections();
+    [[nodiscard]] static QString effectName(const QListWidgetItem* item);
+    [[nodiscard]] ImageFilterWidgetBase* effectRow(QListWidgetItem* item) const;
+    ImageFilterWidgetBase* attachEffectRow(QListWidgetItem* item);
+    void connectEffectRow(const ImageFilterWidgetBase* row);
+    void moveSendingRow(bool up);
+    void forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit);
+    // The absolute directory, made if it is missing; a failure is shown.
+    QString prepareOutputDirectory(const QString& outputText);
+    void loadFilterImage(const QString& path, bool isBatch);
+    [[nodiscard]] QImage appliedEffects(const QImage& image, bool& applied) const;
+    bool writeBatchImage(BatchWriter& writer, const QImage& image, const QString& sourcePath,
+                         const QString& directory);
+
+    ImageFilters* _imageFilters = nullptr;
+    // The image last decoded for the filters; in a preview reduced to the size of the view.
+    QImage _filterImage;
+    QString _filterImagePath;
+
+    // --- Profiles (imaging) ----------------------------------------------------------------------
+public slots:
+    void onFilterProfilesNewRequested();
+    void onFilterProfilesEditRequested(int index);
+    void onFilterProfilesRemoveRequested(int index);
+    void onFilterProfilesCurrentAboutToChange();
+    void onFilterProfilesHasChanged();
+    void onFilterProfilesMoved();
+
+private:
+    void addDefaultProfile();
+
+    // --- Batch resize (imaging) ------------------------------------------------------------------
+public slots:
+    void onProcessResize();
+
+private:
+    [[nodiscard]] QList<QGroupBox*> resizeGroupBoxes() const;
+    [[nodiscard]] QGroupBox* resizeGroupBox(ResizeMode mode) const;
+    [[nodiscard]] ResizeMode resizeModeOf(const QGroupBox* box) const;
+    void onResizeGroupToggled(const QGroupBox* box, bool on);
+    [[nodiscard]] ResizeOptions resizeOptions() const;
 
     // --- Editor windows (editor) -----------------------------------------------------------------
 public slots:

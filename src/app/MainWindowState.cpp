@@ -2,6 +2,7 @@
 
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "imaging/Profiles.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -47,6 +48,10 @@ void MainWindow::readSettings() {
     ui->lETagsSplitTag->setText(settings->data(keys::ollamaTagsSplitTag, u","_s).toString());
     ui->imgWidget->setCutOutlineWidth(settings->data(keys::toolCutOutlineWidth, 8).toInt());
     ui->lEScaleDirOutput->setText(settings->data(keys::scaleDirOutput, u"./scaled"_s).toString());
+    Profiles* profiles = Profiles::instance();
+    profiles->restore(settings->data(keys::filterProfiles).toByteArray());
+    if (profiles->isEmpty())
+        profiles->addProfile(profiles->uniqueProfile(u"Default"_s));
     ui->stackedWidget->setCurrentIndex(settings->data(keys::viewIdx, 0).toInt());
     if (!ui->treeView->header()->restoreState(settings->data(keys::treeViewHeaderState).toByteArray()))
         qDebug() << "Error, unable to restore tree view header state";
@@ -57,6 +62,7 @@ void MainWindow::readSettings() {
 }
 
 void MainWindow::writeSettings() {
+    onFilterProfilesCurrentAboutToChange();
     Settings* settings = Settings::instance();
     settings->setData(keys::appGeometry, saveGeometry());
     settings->setData(keys::appState, saveState());
@@ -80,6 +86,7 @@ void MainWindow::writeSettings() {
     settings->setData(keys::ollamaTagsSplitTag, ui->lETagsSplitTag->text());
     settings->setData(keys::toolCutOutlineWidth, ui->imgWidget->cutOutlineWidth());
     settings->setData(keys::scaleDirOutput, ui->lEScaleDirOutput->text());
+    settings->setData(keys::filterProfiles, Profiles::instance()->save());
     settings->setData(keys::viewIdx, ui->stackedWidget->currentIndex());
     settings->setData(keys::treeViewHeaderState, ui->treeView->header()->saveState());
     settings->setData(keys::tableViewHorizontalHeaderState, ui->tableView->horizontalHeader()->saveState());

@@ -92,6 +92,7 @@ void MainWindow::initViews() {
     ui->imgWidget->setAutoCenter(true);
     ui->imgWidget->setAutoFit(true);
     initTagViews();
+    initEffectViews();
     ui->cBResizeSrcScaleAlignment->addItems({tr("Top left"), tr("Top center"), tr("Top right"),
                                              tr("Center left"), tr("Center center"), tr("Center right"),
                                              tr("Bottom left"), tr("Bottom center"), tr("Bottom right")});
@@ -215,6 +216,8 @@ void MainWindow::onItemSelectedChanged() {
     readTagFile(files.first());
     showMediaPreview(files.first());
     onShowMessage(tr("Selected: %1 items").arg(files.size()));
+    if (ui->tWTools->currentWidget() == ui->tabImgDSP)
+        onFilterApply();
     updateComments();
 }
 

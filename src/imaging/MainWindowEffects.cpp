@@ -147,7 +147,8 @@ void MainWindow::onDspEffectsCustomContextMenu() {
     QListWidget* list = ui->lWDspEffects;
     QMenu menu;
     menu.addAction(tr("&Toggle bypass"), this, [this] {
-        forEachEffectRow([](ImageFilterWidgetBase* row) { row->setFilterEnabled(!row->isFilterEnabled(), true); });
+        forEachEffectRow(
+            [](ImageFilterWidgetBase* row) { row->setFilterEnabled(!row->isFilterEnabled(), true); });
         onFilterApply();
     });
     menu.addAction(tr("&Bypass all"), this, [this] {
@@ -198,7 +199,8 @@ void MainWindow::onFilterApply() {
     if (!isBatch)
         paths = {paths.last()};
     const QString directory = prepareOutputDirectory(ui->lEDspDirOutput->text());
-    const std::optional<WaitCursor> waitCursor = isBatch ? std::optional<WaitCursor>(std::in_place) : std::nullopt;
+    const std::optional<WaitCursor> waitCursor =
+        isBatch ? std::optional<WaitCursor>(std::in_place) : std::nullopt;
     BatchWriter writer(ui->hSDspWriteQuality->value());
     for (const QString& path : std::as_const(paths)) {
         if (path.isEmpty()) {

@@ -81,7 +81,8 @@ ResizeOptions MainWindow::resizeOptions() const {
     options.specificSize = {ui->sBSpecificW->value(), ui->sBSpecificH->value()};
     options.scale = ui->dSPResizeScaleMulti->value();
     options.aspectRatio = ui->dSPResizeAspectRatio->value();
-    options.aspectRatioMode = static_cast<Qt::AspectRatioMode>(qMax(0, ui->cBResizeSrcAspectRatio->currentIndex()));
+    options.aspectRatioMode =
+        static_cast<Qt::AspectRatioMode>(qMax(0, ui->cBResizeSrcAspectRatio->currentIndex()));
     options.transformationMode =
         static_cast<Qt::TransformationMode>(qMax(0, ui->cBResizeSrcTransformationType->currentIndex()));
     return options;
