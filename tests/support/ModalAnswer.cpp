@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimerEvent>
@@ -93,10 +94,16 @@ ModalAnswer::DialogAnswer chooseFiles(const QStringList& paths) {
             dialog->reject();
             return;
         }
-        QStringList quoted;
-        for (const QString& path : paths)
-            quoted.append(paths.size() > 1 ? '"' + path + '"' : path);
-        edit->setText(quoted.join(' '));
+        if (fileDialog->fileMode() == QFileDialog::Directory ||
+            fileDialog->acceptMode() == QFileDialog::AcceptSave) {
+            edit->setText(paths.first());
+        } else {
+            fileDialog->setDirectory(QFileInfo(paths.first()).path());
+            QStringList quoted;
+            for (const QString& path : paths)
+                quoted.append('"' + QFileInfo(path).fileName() + '"');
+            edit->setText(quoted.join(' '));
+        }
         static_cast<QDialog*>(fileDialog)->accept();
     };
 }
