@@ -60,6 +60,7 @@ MainWindow::MainWindow(QWidget* parent)
 }
 
 MainWindow::~MainWindow() {
+    closeOptions();
     closeToolWindows();
     writeSettings();
     Settings::destroyInstance();
@@ -138,6 +139,7 @@ void MainWindow::updateThemeIcons(bool isDarkTheme) {
 
 void MainWindow::initConnections() {
     connect(ui->actionExit, &QAction::triggered, this, &QWidget::close);
+    connect(ui->action_Options, &QAction::triggered, this, &MainWindow::onOptions);
     initCatalogueConnections();
     initTagConnections();
     initImagingConnections();

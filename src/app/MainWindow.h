@@ -51,6 +51,8 @@ public slots:
     // Status bar text without time-out, and the same text to the log.
     void onShowMessage(const QString& msg);
     void updateThemeIcons(bool isDarkTheme);
+    void onOptions();
+    void onOptionsClosed();
 
 private:
     void initUi();
@@ -60,6 +62,7 @@ private:
     void initTagConnections();
     void initThemes();
     void closeToolWindows();
+    void closeOptions();
     void readSettings();
     void writeSettings();
 

@@ -13,8 +13,8 @@ class Themes : public QObject {
     Q_OBJECT
 
 public:
-    // The numbers are stored in the settings.
-    enum Theme {
+    // The numbers are stored in the settings, which may hold any other number as well.
+    enum Theme : int {
         NONE = 0,
         Windows11 = 1,
         LIGHT_Windows = 2,
@@ -41,20 +41,29 @@ public:
     static Themes* instance(QObject* parent = nullptr);
     static void destroyInstance();
 
-    // Makes the menu entries, owned by this object, and applies the current theme.
+    // Makes the menu entries, owned by this object, and applies the current theme without a signal. Each
+    // carries the properties "themeId" (int) and "isDarkTheme" (bool).
     QList<QAction*> themeActions(Theme current);
+    // Sets style and palette of the application. A number that is no theme is kept and changes neither.
     void setTheme(Theme theme);
+    // False for all themes but NONE until the entries are made.
     [[nodiscard]] bool isDarkTheme() const;
-    [[nodiscard]] QColor iconTint(bool isDarkTheme) const;
+    // The colour of icons under the current theme.
+    [[nodiscard]] static QColor iconTint(bool isDarkTheme);
+    // Repaint each icon in one flat colour that shows on the theme's background.
     void tintActions(bool isDarkTheme, const QList<QAction*>& actions) const;
     void tintButtons(bool isDarkTheme, const QList<QAbstractButton*>& buttons) const;
 
 signals:
+    // The user has chosen a theme, which is in place; the accent follows.
     void themeChanged(Themes::Theme theme);
     void themeAccentChanged(bool isDarkTheme);
 
 private:
     explicit Themes(QObject* parent);
+
+    QAction* makeAction(Theme theme, const QString& text, bool isDark);
+    void chooseTheme(const QAction* action);
 
     static Themes* _instance;
 

@@ -1,0 +1,44 @@
+#include "app/MainWindow.h"
+
+#include "app/OptionsDialog.h"
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "catalogue/ImageLoaderThreaded.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+
+namespace {
+
+constexpr QSize defaultOptionsClosedGridSize(240, 240);
+
+} // namespace
+
+void MainWindow::onOptions() {
+    auto* dialog = new OptionsDialog(this);
+    connect(dialog, &QObject::destroyed, this, &MainWindow::onOptionsClosed);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->exec();
+}
+
+void MainWindow::onOptionsClosed() {
+    qDebug() << "MainWindow::onOptionsClosed";
+    const Settings* settings = Settings::instance();
+    const QSize gridSize = settings->data(keys::gridSizeListView, defaultOptionsClosedGridSize).toSize();
+    if (gridSize != ui->listView->gridSize()) {
+        ui->listView->setGridSize(gridSize);
+        openWorkingDirectory(ui->lEWorkingPath->text());
+    }
+    if (_imageLoader)
+        _imageLoader->setImageThreadCount(settings->data(keys::imagePreviewThreadCount, 4).toInt());
+}
+
+// A dialog that still runs when the window goes must not start a scan any more.
+void MainWindow::closeOptions() {
+    const QList<OptionsDialog*> dialogs = findChildren<OptionsDialog*>(Qt::FindDirectChildrenOnly);
+    for (OptionsDialog* dialog : dialogs) {
+        disconnect(dialog, nullptr, this, nullptr);
+        dialog->close();
+        delete dialog;
+    }
+}
