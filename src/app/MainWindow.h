@@ -207,7 +207,7 @@ public slots:
 
 private:
     void initTagViews();
-    void refreshAllTags();
+    Q_INVOKABLE void refreshAllTags();
     void refreshSelectionTags(const QStringList& filePaths);
     void refreshImageTags(const QString& filePath);
     void deleteTagsEverywhere(const QStringList& tags);
