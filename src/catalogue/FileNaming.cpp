@@ -1,6 +1,5 @@
 #include "catalogue/FileNaming.h"
 
-#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -59,20 +58,4 @@ QString foldedPath(const QString& path) {
     for (char32_t& character : characters)
         character = QChar::toCaseFolded(character);
     return QString::fromStdU32String(characters);
-}
-
-QString grabbedFramePath(const QString& directory, const QString& videoFileName,
-                         const std::optional<QString>& lastOpenPath, const QDateTime& moment) {
-    const bool isClosed = directory.endsWith(u'\\') || directory.endsWith(u'/');
-    const QString closedDirectory = isClosed ? directory : directory + u'/';
-    QString name;
-    if (!videoFileName.isEmpty())
-        name = QFileInfo(videoFileName).completeBaseName();
-    else if (lastOpenPath)
-        name = QFileInfo(*lastOpenPath).completeBaseName() + u'_';
-    name += u'_' + moment.toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s);
-    QString path = u"%1%2.%3"_s.arg(closedDirectory, name, u"png"_s);
-    for (int number = 1; QFile::exists(path); ++number)
-        path = u"%1%2_%3.%4"_s.arg(closedDirectory, name, QString::number(number), u"png"_s);
-    return path;
 }

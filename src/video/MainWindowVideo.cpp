@@ -2,8 +2,8 @@
 
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
-#include "catalogue/FileNaming.h"
 #include "ui_MainWindow.h"
+#include "video/VideoTexts.h"
 #include "video/VideoWidget.h"
 
 #include <QDateTime>
@@ -52,9 +52,9 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
         return;
     }
     const auto* window = qobject_cast<VideoWidget*>(sender());
-    const QString path =
-        grabbedFramePath(directory, fileName, window ? std::optional(window->lastOpenPath()) : std::nullopt,
-                         QDateTime::currentDateTime());
+    const auto openedDirectory = window ? std::optional(window->lastOpenPath()) : std::nullopt;
+    const QString path = grabbedFrameFilePath(
+        directory, grabbedFrameBaseName(fileName, openedDirectory, QDateTime::currentDateTime()));
     if (!img.save(path, frameFormat, frameQuality)) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
