@@ -323,13 +323,6 @@ QColor shadeColor(const Shade& shade) {
     return color;
 }
 
-// The style's own hints are black and vanish on a dark theme.
-QColor hintColor(const Shade& text) {
-    QColor color = shadeColor(text);
-    color.setAlpha(128);
-    return color;
-}
-
 QPalette paletteOf(const ThemeColors& colors) {
     QPalette palette;
     for (const ThemeBrush& brush : themeBrushes) {
@@ -337,8 +330,6 @@ QPalette paletteOf(const ThemeColors& colors) {
         if (shade.isSet)
             palette.setBrush(brush.group, brush.role, QBrush(shadeColor(shade)));
     }
-    if (!colors.placeholderText.isSet)
-        palette.setBrush(QPalette::All, QPalette::PlaceholderText, QBrush(hintColor(colors.text)));
     return palette;
 }
 
