@@ -55,6 +55,7 @@ MainWindow::MainWindow(QWidget* parent)
     // The quality never survives a start, whatever was restored.
     ui->hSResizeImgWriteQuality->setValue(100);
     emit ui->gBResizeSpecificSize->toggled(true);
+    initOllama();
     onFilterProfilesHasChanged();
     QTimer::singleShot(firstScanDelayMs, this, [this] { openWorkingDirectory(ui->lEWorkingPath->text()); });
 }
@@ -142,5 +143,6 @@ void MainWindow::initConnections() {
     connect(ui->action_Options, &QAction::triggered, this, &MainWindow::onOptions);
     initCatalogueConnections();
     initTagConnections();
+    initOllamaConnections();
     initImagingConnections();
 }

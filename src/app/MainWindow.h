@@ -18,6 +18,7 @@ class ImageFilterWidgetBase;
 class ImageFilters;
 class ImageLoaderThreaded;
 class MediaItem;
+class OllamaApi;
 class QAbstractItemView;
 class QFileSystemWatcher;
 class QGroupBox;
@@ -227,6 +228,34 @@ public slots:
 
 private:
     void openTextDialog(int operationType);
+
+    // --- Ollama batches (ollama) -----------------------------------------------------------------
+public slots:
+    void checkOllamaServer();
+    void onOllamaIpChanged(const QString& txt);
+    void ollamaConnectionStatus(bool connected);
+    // Starts a batch over the selection, or aborts the one that runs.
+    void onOllamaSendPrompt();
+    void onOllamaResponse(const QString& text);
+    void onOllamaResponseImg(const QString& text, const QString& imgFilePath);
+    void onOllamaError(const QString& text, const QString& imgFilePath);
+
+private:
+    void initOllama();
+    void initOllamaConnections();
+    void ollamaSendPrompts();
+    // False for a file that is not sent. The window may be gone afterwards.
+    bool ollamaSendPrompt(const QString& imgFilePath);
+    void dropOllamaQueue();
+    void showOllamaProgress(int processed);
+    void logOllamaAnswer(const QStringList& lines);
+    [[nodiscard]] QImage scaleOllamaImage(const QImage& image) const;
+
+    OllamaApi* _ollamaApi = nullptr;
+    // The files of the running batch that have not been taken yet.
+    QStringList ollamaQueue;
+    int _ollamaTotal = 0;
+    bool _isOllamaSending = false;
 
     // --- Effects (imaging) -----------------------------------------------------------------------
 public slots:

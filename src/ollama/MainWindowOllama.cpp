@@ -1,0 +1,160 @@
+#include "app/MainWindow.h"
+
+#include "ollama/OllamaApi.h"
+#include "ollama/PromptImage.h"
+#include "tags/TagText.h"
+#include "ui_MainWindow.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QFile>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+void MainWindow::initOllamaConnections() {
+    connect(ui->lEOllamaIp, &QLineEdit::textChanged, this, &MainWindow::onOllamaIpChanged);
+    connect(ui->tBOllamaReconect, &QToolButton::clicked, this, &MainWindow::checkOllamaServer);
+    connect(ui->tBSendOllamaPrompt, &QToolButton::clicked, this, &MainWindow::onOllamaSendPrompt);
+}
+
+void MainWindow::initOllama() {
+    _ollamaApi = new OllamaApi(this);
+    _ollamaApi->setUrl(ui->lEOllamaIp->text());
+    connect(_ollamaApi, &OllamaApi::ollamaConnectionStatus, this, &MainWindow::ollamaConnectionStatus);
+    connect(_ollamaApi, &OllamaApi::ollamaResponse, this, &MainWindow::onOllamaResponse);
+    connect(_ollamaApi, &OllamaApi::ollamaResponseImg, this, &MainWindow::onOllamaResponseImg);
+    connect(_ollamaApi, &OllamaApi::ollamaError, this, &MainWindow::onOllamaError);
+    connect(ui->pBOllamaGo, &QPushButton::clicked, this, &MainWindow::onOllamaSendPrompt);
+    checkOllamaServer();
+}
+
+void MainWindow::checkOllamaServer() {
+    const QPointer<MainWindow> self(this);
+    const QString version = _ollamaApi->getVersion();
+    if (!self)
+        return;
+    qDebug() << "Ollama version:" << version;
+    const QStringList models = _ollamaApi->getModelList();
+    if (!self)
+        return;
+    ui->statusbar->showMessage(
+        tr("Ollama status is online: %1").arg(_ollamaApi->isOnline() ? "true"_L1 : "false"_L1));
+    ui->cBOllamaModels->clear();
+    ui->cBOllamaModels->insertItems(0, models);
+}
+
+void MainWindow::onOllamaIpChanged(const QString& txt) {
+    _ollamaApi->setUrl(txt);
+}
+
+void MainWindow::ollamaConnectionStatus(bool connected) {
+    ui->pBOllamaGo->setEnabled(connected);
+}
+
+void MainWindow::onOllamaSendPrompt() {
+    if (_isOllamaSending) {
+        // During the last request nothing waits any more, and a click changes nothing.
+        onShowMessage(tr("Ollama aborting for %1").arg(ollamaQueue.size()));
+        dropOllamaQueue();
+        return;
+    }
+    _ollamaApi->setModel(ui->cBOllamaModels->currentText());
+    ollamaQueue = selectedFilePaths();
+    _ollamaTotal = static_cast<int>(ollamaQueue.size());
+    ui->pBOllamaGo->setText(tr("Abort prompt"));
+    ollamaSendPrompts();
+}
+
+void MainWindow::dropOllamaQueue() {
+    _ollamaTotal -= static_cast<int>(ollamaQueue.size());
+    ollamaQueue.clear();
+}
+
+void MainWindow::ollamaSendPrompts() {
+    const QPointer<MainWindow> self(this);
+    _isOllamaSending = true;
+    int processed = 0;
+    showOllamaProgress(processed);
+    while (!ollamaQueue.isEmpty()) {
+        const QString imgFilePath = ollamaQueue.takeFirst();
+        qDebug() << "in for loop ollamaQueue size:" << ollamaQueue.size() << "imgFilePath:" << imgFilePath;
+        const bool isSent = ollamaSendPrompt(imgFilePath);
+        if (!self)
+            return;
+        if (isSent)
+            showOllamaProgress(++processed);
+    }
+    onShowMessage(tr("Ollama processing done for %1").arg(_ollamaTotal));
+    ui->pBOllamaGo->setText(tr("Send prompt"));
+    _isOllamaSending = false;
+}
+
+void MainWindow::showOllamaProgress(int processed) {
+    onShowMessage(tr("Ollama processing: %1 total %2").arg(processed).arg(_ollamaTotal));
+}
+
+bool MainWindow::ollamaSendPrompt(const QString& imgFilePath) {
+    QFile file(imgFilePath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qDebug() << "Error, unable to open file:" << file.errorString();
+        return false;
+    }
+    file.close();
+    const QImage image = scaleOllamaImage(QImage(imgFilePath));
+    if (image.isNull()) {
+        qDebug() << "Error, image is null for:" << imgFilePath;
+        onOllamaError(tr("Error, image is null."), imgFilePath);
+        return false;
+    }
+    const QPointer<MainWindow> self(this);
+    _ollamaApi->getPrompt(ui->pTEPromptUser->toPlainText(), pngBytes(image).toBase64(), imgFilePath);
+    if (!self)
+        return false;
+    // The program quits: what still waits is neither decoded nor sent.
+    if (_ollamaApi->isInterrupted())
+        dropOllamaQueue();
+    return !_ollamaApi->isInterrupted();
+}
+
+QImage MainWindow::scaleOllamaImage(const QImage& image) const {
+    const QSize size(ui->sBOllamaScaleResW->value(), ui->sBOllamaScaleResH->value());
+    return scaledPromptImage(image, size, ui->cBOllamaScaleKeepAspectRatio->isChecked());
+}
+
+void MainWindow::logOllamaAnswer(const QStringList& lines) {
+    ui->pTEResponse->appendPlainText(QDateTime::currentDateTime().toString(u"dd.MM.yyyy hh:mm:ss.z"_s));
+    for (const QString& line : lines)
+        ui->pTEResponse->appendPlainText(line);
+}
+
+void MainWindow::onOllamaResponse(const QString& text) {
+    logOllamaAnswer({text});
+}
+
+void MainWindow::onOllamaError(const QString& text, const QString& imgFilePath) {
+    logOllamaAnswer({tr("Error processing: %1").arg(imgFilePath), text});
+}
+
+void MainWindow::onOllamaResponseImg(const QString& text, const QString& imgFilePath) {
+    logOllamaAnswer({text});
+    if (!ui->cBOllamaAddTags->isChecked()) {
+        qDebug() << "Skipping adding tags, not enabled.";
+        return;
+    }
+    // The file may have left the catalogue while the server thought. Tags kept for it would write over the
+    // sidecar that a save no longer knows.
+    if (!_itemsByPath.contains(imgFilePath)) {
+        qDebug() << "Skipping adding tags, not in the catalogue:" << imgFilePath;
+        return;
+    }
+    const QString separator = ui->lETagsSplitTag->text();
+    if (separator.isEmpty())
+        qDebug() << "Split tag is empty.";
+    const QStringList tags = tagsFromAnswer(text, separator);
+    qDebug() << "ollamaTags:" << tags.size() << tags;
+    setImageTags(imgFilePath, imageTags(imgFilePath) + tags);
+    if (selectedFilePaths().contains(imgFilePath, Qt::CaseInsensitive))
+        refreshImageTags(imgFilePath);
+    refreshAllTags();
+}
