@@ -145,4 +145,5 @@ void MainWindow::initConnections() {
     initTagConnections();
     initOllamaConnections();
     initImagingConnections();
+    initSafetensorsConnections();
 }

@@ -337,4 +337,14 @@ public slots:
 
 private:
     void editVideo(const QString& filePath);
+
+    // --- Model files (safetensors) ---------------------------------------------------------------
+public slots:
+    void onInspectSafetensor();
+
+private:
+    void initSafetensorsConnections();
+    void openSafetensorsDialog(const QString& filePath, bool includeTensorInfo, bool includeMetaInfo);
+
+    QString _lastOpenPathSafetensors;
 };

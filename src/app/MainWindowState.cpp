@@ -44,6 +44,7 @@ void MainWindow::readSettings() {
     ui->splitterOllamaLower->restoreState(settings->data(keys::splitterOllamaLower).toByteArray());
     ui->lEOllamaIp->setText(
         QString::fromUtf8(settings->data(keys::ollamaIp, QString(defaultOllamaUrl)).toByteArray()));
+    _lastOpenPathSafetensors = settings->data(keys::lastOpenPathSafetensors).toString();
     ui->cBOllamaAddTags->setChecked(settings->data(keys::ollamaAddTags, true).toBool());
     ui->lETagsSplitTag->setText(settings->data(keys::ollamaTagsSplitTag, u","_s).toString());
     ui->imgWidget->setCutOutlineWidth(settings->data(keys::toolCutOutlineWidth, 8).toInt());
@@ -82,6 +83,7 @@ void MainWindow::writeSettings() {
     settings->setData(keys::splitterOllamaUpper, ui->splitterOllamaUpper->saveState());
     settings->setData(keys::splitterOllamaLower, ui->splitterOllamaLower->saveState());
     settings->setData(keys::ollamaIp, ui->lEOllamaIp->text());
+    settings->setData(keys::lastOpenPathSafetensors, _lastOpenPathSafetensors);
     settings->setData(keys::ollamaAddTags, ui->cBOllamaAddTags->isChecked());
     settings->setData(keys::ollamaTagsSplitTag, ui->lETagsSplitTag->text());
     settings->setData(keys::toolCutOutlineWidth, ui->imgWidget->cutOutlineWidth());

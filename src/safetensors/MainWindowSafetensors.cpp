@@ -1,0 +1,67 @@
+#include "app/MainWindow.h"
+
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "editor/EditImageWidget.h"
+#include "safetensors/SafetensorsDialog.h"
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace {
+
+void storeSafetensorsPlace(const SafetensorsDialog* dialog) {
+    Settings* settings = Settings::instance();
+    settings->setData(keys::safetensorDialogGeometry, dialog->saveGeometry());
+    settings->setData(keys::safetensorDialogSplitterState, dialog->saveSplitterState());
+}
+
+void restoreSafetensorsPlace(SafetensorsDialog* dialog) {
+    const Settings* settings = Settings::instance();
+    const QByteArray geometry = settings->data(keys::safetensorDialogGeometry).toByteArray();
+    if (!geometry.isEmpty())
+        dialog->restoreGeometry(geometry);
+    const QByteArray splitterState = settings->data(keys::safetensorDialogSplitterState).toByteArray();
+    if (!splitterState.isEmpty())
+        dialog->restoreSplitterState(splitterState);
+}
+
+} // namespace
+
+void MainWindow::initSafetensorsConnections() {
+    connect(ui->action_InspectSafetensor, &QAction::triggered, this, &MainWindow::onInspectSafetensor);
+}
+
+void MainWindow::onInspectSafetensor() {
+    if (_lastOpenPathSafetensors.isEmpty())
+        _lastOpenPathSafetensors = QCoreApplication::applicationDirPath();
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Open safetensors file"), _lastOpenPathSafetensors, tr("Safetensors (*.safetensors)"));
+    if (files.isEmpty()) {
+        qDebug() << "Error, safetensor filename is empty.";
+        return;
+    }
+    _lastOpenPathSafetensors = QFileInfo(files.first()).path();
+    const Settings* settings = Settings::instance();
+    const bool includeTensorInfo = settings->data(keys::includeTensorInfo, false).toBool();
+    const bool includeMetaInfo = settings->data(keys::includeMetaInfo, true).toBool();
+    for (const QString& file : files)
+        openSafetensorsDialog(file, includeTensorInfo, includeMetaInfo);
+}
+
+void MainWindow::openSafetensorsDialog(const QString& filePath, bool includeTensorInfo,
+                                       bool includeMetaInfo) {
+    onShowMessage(tr("Inspecting %1 safetensors").arg(filePath));
+    auto* dialog = new SafetensorsDialog(this);
+    dialog->setImageFormats(_supportedFormats);
+    dialog->setImageWidget(new EditImageWidget(dialog));
+    connect(dialog, &SafetensorsDialog::aboutToBeDestroyed, dialog,
+            [dialog] { storeSafetensorsPlace(dialog); });
+    restoreSafetensorsPlace(dialog);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setSafetensorFile(filePath, includeTensorInfo, includeMetaInfo);
+    dialog->show();
+}

@@ -1,0 +1,130 @@
+#include "safetensors/SafetensorsDialog.h"
+
+#include "app/services/Themes.h"
+#include "app/services/Utils.h"
+#include "editor/EditImageWidget.h"
+#include "safetensors/ModelFileNaming.h"
+#include "safetensors/SafetensorInspector.h"
+#include "ui_SafetensorsDialog.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void setCheckedQuietly(QCheckBox* box, bool checked) {
+    const QSignalBlocker blocker(box);
+    box->setChecked(checked);
+}
+
+QString inspectionText(const QMap<QString, QString>& entries) {
+    QString text;
+    for (const auto& [key, value] : entries.asKeyValueRange())
+        text += key.trimmed() + "\t:\t"_L1 + value.trimmed() + '\n'_L1;
+    return text;
+}
+
+} // namespace
+
+SafetensorsDialog::SafetensorsDialog(QWidget* parent)
+    : QDialog(parent), _ui(std::make_unique<Ui::SafetensorsDialog>()) {
+    _ui->setupUi(this);
+    connect(_ui->tBOpenSafetensorFile, &QToolButton::clicked, this, &SafetensorsDialog::onOpenSafetensorFile);
+    connect(_ui->tBShowInFileBrowser, &QToolButton::clicked, this, &SafetensorsDialog::onShowInFileBrowser);
+    connect(_ui->tBSafetensorPrev, &QToolButton::clicked, this, &SafetensorsDialog::onSafetensorNext);
+    connect(_ui->tBSafetensorNext, &QToolButton::clicked, this, &SafetensorsDialog::onSafetensorNext);
+    connect(_ui->cBMetainfo, &QCheckBox::toggled, this, &SafetensorsDialog::onSafetensorUpdate);
+    connect(_ui->cBTensor, &QCheckBox::toggled, this, &SafetensorsDialog::onSafetensorUpdate);
+    connect(Themes::instance(), &Themes::themeAccentChanged, this, &SafetensorsDialog::updateIcons);
+    updateIcons(Themes::instance()->isDarkTheme());
+}
+
+SafetensorsDialog::~SafetensorsDialog() {
+    emit aboutToBeDestroyed();
+}
+
+void SafetensorsDialog::setImageFormats(const QStringList& formats) {
+    _imageFormats = formats;
+}
+
+void SafetensorsDialog::setImageWidget(QWidget* widget) {
+    _imageWidget = widget;
+    _ui->vLImageWidget->addWidget(widget);
+}
+
+void SafetensorsDialog::setSafetensorFile(const QString& fileName, bool includeTensorInfo,
+                                          bool includeMetaInfo) {
+    setCheckedQuietly(_ui->cBTensor, includeTensorInfo);
+    setCheckedQuietly(_ui->cBMetainfo, includeMetaInfo);
+    _includeTensorInfo = includeTensorInfo;
+    _includeMetaInfo = includeMetaInfo;
+    SafetensorInspector inspector;
+    const QMap<QString, QString> entries =
+        inspector.insepctSafetensor(fileName, includeTensorInfo, includeMetaInfo);
+    _ui->pTEOutput->clear();
+    _ui->pTEOutput->appendPlainText(inspectionText(entries));
+    if (!inspector.messages().isEmpty())
+        _ui->pTEOutput->appendPlainText(inspector.messages());
+    _currentFile = fileName;
+    setWindowTitle(tr("File: %1").arg(QFileInfo(fileName).fileName()));
+    showPreview(fileName);
+}
+
+void SafetensorsDialog::showPreview(const QString& fileName) {
+    auto* view = qobject_cast<EditImageWidget*>(_imageWidget);
+    if (!view)
+        return;
+    view->setImageFilePath(previewImagePath(fileName, _imageFormats));
+    view->setAutoCenter(true);
+    view->setAutoFit(true);
+    view->update();
+}
+
+QByteArray SafetensorsDialog::saveSplitterState() const {
+    return _ui->splitter->saveState();
+}
+
+bool SafetensorsDialog::restoreSplitterState(const QByteArray& state) {
+    return _ui->splitter->restoreState(state);
+}
+
+void SafetensorsDialog::updateIcons(bool isDarkTheme) {
+    const Themes* themes = Themes::instance();
+    themes->tintActions(isDarkTheme, actions());
+    themes->tintButtons(isDarkTheme, {_ui->tBOpenSafetensorFile, _ui->tBSafetensorNext, _ui->tBSafetensorPrev,
+                                      _ui->tBShowInFileBrowser});
+}
+
+void SafetensorsDialog::onOpenSafetensorFile() {
+    if (_currentFile.isEmpty())
+        _currentFile = QCoreApplication::applicationDirPath();
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open safetensors file"), _currentFile,
+                                                          tr("Safetensors (*.safetensors)"));
+    if (fileName.isEmpty()) {
+        qDebug() << "Error, safetensor filename is empty.";
+        return;
+    }
+    _currentFile = QFileInfo(fileName).path();
+    setSafetensorFile(fileName, _ui->cBTensor->isChecked(), _ui->cBMetainfo->isChecked());
+}
+
+void SafetensorsDialog::onShowInFileBrowser() {
+    Utils::instance()->revealInFileBrowser(_currentFile, true, nullptr);
+}
+
+void SafetensorsDialog::onSafetensorNext() {
+    const bool isForward = sender() == _ui->tBSafetensorNext;
+    const QStringList files = modelFilesBeside(_currentFile);
+    if (files.isEmpty())
+        qDebug() << "No files found";
+    setSafetensorFile(steppedModelFile(files, _currentFile, isForward), _includeTensorInfo, _includeMetaInfo);
+}
+
+void SafetensorsDialog::onSafetensorUpdate() {
+    setSafetensorFile(_currentFile, _ui->cBTensor->isChecked(), _ui->cBMetainfo->isChecked());
+}
