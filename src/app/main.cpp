@@ -1,4 +1,5 @@
 #include "app/MainWindow.h"
+#include "app/QuitOnSignals.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -25,6 +26,7 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Tessarine"_s);
     QCoreApplication::setApplicationVersion(u"%1.%2"_s.arg(u"0.7.0"_s, u"94"_s));
+    const QuitOnSignals quitOnSignals;
     QTranslator translator;
     installTranslation(translator);
     MainWindow window;

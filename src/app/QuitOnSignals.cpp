@@ -1,0 +1,37 @@
+#include "app/QuitOnSignals.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#ifdef Q_OS_UNIX
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace {
+
+// Only async-signal-safe calls may stand in a handler, so it writes a byte that the event loop reads.
+int quitSockets[2] = {-1, -1};
+
+void onQuitSignal(int) {
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = write(quitSockets[0], &byte, 1);
+}
+
+} // namespace
+
+QuitOnSignals::QuitOnSignals(QObject* parent) : QObject(parent) {
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, quitSockets) != 0)
+        return;
+    const auto* notifier = new QSocketNotifier(quitSockets[1], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &QCoreApplication::quit);
+    struct sigaction action = {};
+    action.sa_handler = onQuitSignal;
+    action.sa_flags = SA_RESTART | SA_RESETHAND;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+}
+#else
+QuitOnSignals::QuitOnSignals(QObject* parent) : QObject(parent) {}
+#endif
