@@ -67,6 +67,10 @@ MainWindow::~MainWindow() {
     Settings::destroyInstance();
     Themes::destroyInstance();
     Profiles::destroyInstance();
+    // The widgets go with the base class: a path edit that loses its focus then must find nobody here.
+    const QList<QObject*> children = findChildren<QObject*>();
+    for (const QObject* child : children)
+        child->disconnect(this);
     ui.reset();
     LogService::destroy();
 }

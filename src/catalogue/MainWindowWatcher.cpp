@@ -111,6 +111,9 @@ void MainWindow::onSrcSelectPath() {
 }
 
 void MainWindow::onWorkingPathEdited() {
+    // A window that closes takes the focus from the edit, and asks nothing.
+    if (windowHandle() && isHidden())
+        return;
     const QString path = ui->lEWorkingPath->text();
     if (!_workingPath.isEmpty() &&
         !userSaysYes(this, tr("Change current working directory to %1?").arg(path))) {

@@ -211,6 +211,28 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), QString());
     }
 
+    void leavingWithAHalfTypedPath_data() {
+        QTest::addColumn<bool>("closesFirst");
+        QTest::newRow("the window is closed") << true;
+        QTest::newRow("the program ends with the window open") << false;
+    }
+
+    void leavingWithAHalfTypedPath() {
+        QFETCH(bool, closesFirst);
+        const MediaFolder folder;
+        WindowDriver driver(folder.path());
+        QVERIFY(QTest::qWaitForWindowActive(&driver.window()));
+        auto* path = driver.widget<QLineEdit>("lEWorkingPath");
+        path->setFocus();
+        QTest::keyClicks(path, "/half");
+        const ModalAnswer answer(QMessageBox::No);
+        if (closesFirst)
+            driver.window().close();
+        driver.close();
+        QCoreApplication::processEvents();
+        QVERIFY(!answer.isUsed());
+    }
+
     void changingTheDirectoryAsks() {
         const MediaFolder first;
         const MediaFolder second;
