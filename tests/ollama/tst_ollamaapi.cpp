@@ -181,7 +181,7 @@ private slots:
         OllamaApi api;
         api.setUrl(peer.url());
         const QSignalSpy errors(&api, &OllamaApi::ollamaError);
-        connect(&peer, &OllamaPeer::requested, qApp, &QCoreApplication::quit);
+        connect(&peer, &OllamaPeer::requested, QCoreApplication::instance(), &QCoreApplication::quit);
         QTimer::singleShot(0, this, [&] {
             if (isPost)
                 api.getPrompt("p", {}, "f.png");
