@@ -6,6 +6,8 @@
 #include <QEventLoop>
 #include <QTemporaryDir>
 
+#include <cmath>
+
 namespace {
 
 // A photograph's worth of detail: smooth shapes with a little noise.

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QSortFilterProxyModel>
 #include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -162,7 +163,7 @@ private:
         auto* catalogue = _window->findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
         for (const int column : {int(ColName), int(ColSize), int(ColLastModified), int(ColComment)}) {
             Ratio::report(
-                label("sort by ") + catalogue->headerData(column, Qt::Horizontal).toString(),
+                label(qPrintable("sort by " + catalogue->headerData(column, Qt::Horizontal).toString())),
                 [&] {
                     table->sortByColumn(column, Qt::AscendingOrder);
                     QCoreApplication::processEvents();
@@ -179,14 +180,13 @@ private:
                 });
         }
         auto* view = find<QListView>("listView");
+        const QStringList all = flattenedTags(_tags);
         Ratio::report(
             label("select all"), [&] { view->selectAll(); },
             [&] {
                 QListWidget bound;
-                for (int row = 0; row < _files; ++row) {
-                    for (const QString& tag : _tags.value(_window->allFilePaths().value(0)))
-                        bound.addItem(tag);
-                }
+                for (const QString& tag : all)
+                    bound.addItem(tag);
             },
             [&] { view->clearSelection(); });
         view->clearSelection();
@@ -215,6 +215,8 @@ private:
                 int hits = 0;
                 for (const QStringList& tags : std::as_const(_tags))
                     hits += tags.contains(list->item(0)->text(), Qt::CaseInsensitive) ? 1 : 0;
+                if (hits == 0)
+                    qFatal("the tag is nowhere");
             });
         list->clearSelection();
     }

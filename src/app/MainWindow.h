@@ -103,6 +103,9 @@ public slots:
 
 private:
     void queuePreview(const QString& filePath, const QSize& size);
+    // The same for many files, announced as one change.
+    void queuePreviews(const QStringList& filePaths);
+    MediaItem* enqueuePreview(const QString& filePath, const QSize& size);
     void setItemImage(const QString& filePath, const QSize& size, const QImage& image);
     [[nodiscard]] QSize previewSize() const;
 

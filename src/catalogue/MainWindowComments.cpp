@@ -30,6 +30,7 @@ void MainWindow::updateComments() {
     const UpdatesOff updatesOff({ui->tWComments});
     ui->tWComments->clear();
     QImageReader reader;
+    QList<QTreeWidgetItem*> tops;
     const QStringList files = selectedFilePaths();
     for (const QString& path : files) {
         auto* top = new QTreeWidgetItem({QFileInfo(path).fileName()});
@@ -45,10 +46,13 @@ void MainWindow::updateComments() {
             for (const QString& key : keys)
                 addCommentItem(top, key, reader.text(key));
         }
-        ui->tWComments->addTopLevelItem(top);
-        top->setFirstColumnSpanned(true);
+        tops.append(top);
     }
+    // Spanning lays the tree out if that is due, so all items come first.
+    ui->tWComments->addTopLevelItems(tops);
     ui->tWComments->expandAll();
+    for (QTreeWidgetItem* top : std::as_const(tops))
+        top->setFirstColumnSpanned(true);
 }
 
 QString MainWindow::firstSelectedComment() const {

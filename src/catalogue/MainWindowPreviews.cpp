@@ -22,6 +22,20 @@ QSize MainWindow::previewSize() const {
 }
 
 void MainWindow::queuePreview(const QString& filePath, const QSize& size) {
+    if (MediaItem* item = enqueuePreview(filePath, size))
+        item->notifyChanged();
+}
+
+void MainWindow::queuePreviews(const QStringList& filePaths) {
+    const QSize size = previewSize();
+    for (const QString& filePath : filePaths)
+        enqueuePreview(filePath, size);
+    if (const int rows = _itemModel->rowCount(); rows > 0)
+        emit _itemModel->dataChanged(_itemModel->index(0, ColName), _itemModel->index(rows - 1, ColName),
+                                     {Qt::DecorationRole});
+}
+
+MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size) {
     if (!_imageLoader) {
         _imageLoader = new ImageLoaderThreaded(this);
         connect(_imageLoader, &ImageLoaderThreaded::loadedImage, this, &MainWindow::onItemImageLoaded);
@@ -35,12 +49,12 @@ void MainWindow::queuePreview(const QString& filePath, const QSize& size) {
     _imageLoader->enqueue(filePath, false);
     // The row has its final size before its thumbnail is there. The tool tip follows with the thumbnail:
     // reading the header of every queued file here would double the time of a scan.
-    if (MediaItem* item = mediaItem(filePath)) {
+    MediaItem* item = mediaItem(filePath);
+    if (item)
         item->setThumbnail({}, size);
-        item->notifyChanged();
-    } else {
+    else
         qDebug() << "Error, unable to find model item for:" << filePath;
-    }
+    return item;
 }
 
 void MainWindow::setItemImage(const QString& filePath, const QSize& size, const QImage& image) {

@@ -122,8 +122,7 @@ void MainWindow::populateUiImage(const QStringList& files) {
     {
         const UpdatesOff updatesOff(mediaViews());
         timer.start();
-        for (const QString& file : files)
-            queuePreview(file, previewSize());
+        queuePreviews(files);
         readTagFiles(files);
         const qint64 elapsed = timer.elapsed();
         qDebug() << "Read in:" << elapsed << "ms" << static_cast<double>(elapsed) / 1000.0 << "s";

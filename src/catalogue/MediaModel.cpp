@@ -21,14 +21,6 @@ QStandardItem* mediaCell(const QVariant& display, const QVariant& value) {
     return item;
 }
 
-// All rows without a thumbnail share one canvas.
-QImage emptyCanvas(const QSize& size) {
-    static QImage canvas;
-    if (canvas.size() != size)
-        canvas = centredOnCanvas({}, size);
-    return canvas;
-}
-
 bool isFullyOpaque(const QImage& image) {
     if (!image.hasAlphaChannel())
         return true;
@@ -111,41 +103,6 @@ QImage compactThumbnail(const QImage& image) {
         return image;
     return image.convertToFormat(isFullyOpaque(image) ? QImage::Format_RGB888
                                                       : QImage::Format_ARGB32_Premultiplied);
-}
-
-QVariant MediaItem::data(int role) const {
-    switch (role) {
-    case Qt::DecorationRole:
-        if (!_canvasSize.isValid())
-            return {};
-        return _thumbnail.isNull() ? emptyCanvas(_canvasSize) : centredOnCanvas(_thumbnail, _canvasSize);
-    case RoleHidden:
-        return _hidden;
-    default:
-        return QStandardItem::data(role);
-    }
-}
-
-void MediaItem::setData(const QVariant& value, int role) {
-    switch (role) {
-    case Qt::DecorationRole: {
-        const auto image = value.value<QImage>();
-        setThumbnail(image, image.size());
-        emitDataChanged();
-        break;
-    }
-    case RoleHidden:
-        _hidden = value.toBool();
-        emitDataChanged();
-        break;
-    default:
-        QStandardItem::setData(value, role);
-    }
-}
-
-void MediaItem::setThumbnail(const QImage& image, const QSize& canvasSize) {
-    _thumbnail = compactThumbnail(image);
-    _canvasSize = canvasSize;
 }
 
 QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes, const QString& no) {

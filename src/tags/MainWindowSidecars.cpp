@@ -24,7 +24,11 @@ std::optional<QString> sidecarText(const QString& txtFileName) {
         qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
         return std::nullopt;
     }
-    return QString::fromUtf8(file.readAll());
+    const QByteArray bytes = file.readAll();
+    // What cannot be decoded is replaced by the next save, so the loss gets a name.
+    if (!QUtf8StringView(bytes).isValidUtf8())
+        qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
+    return QString::fromUtf8(bytes);
 }
 
 enum class Backup { Made, NoFreeName };
@@ -60,7 +64,7 @@ void MainWindow::removeImageTags(const QString& filePath) {
 }
 
 void MainWindow::checkMediaKey(const QString& filePath) const {
-    if (!_supportedFormats.contains(QFileInfo(filePath).suffix().toLower(), Qt::CaseInsensitive))
+    if (!_supportedFormats.contains(QFileInfo(filePath).suffix().toLower()))
         qDebug() << "Error, key is not image file:" << filePath;
 }
 
