@@ -48,6 +48,22 @@ QString freeImportName(const QString& directory, const QFileInfo& source) {
     }
 }
 
+// A file that fails is named and costs only itself. Without a directory nothing happens.
+template <typename Operation>
+void transferFiles(MainWindow& window, const QStringList& files, const QString& directory,
+                   Operation operation) {
+    if (directory.isEmpty())
+        return;
+    for (const QString& source : files) {
+        const QString target = destinationFilePath(source, directory);
+        QFile file(source);
+        if (!operation(file, target)) {
+            window.onShowMessage(MainWindow::tr("Error, unable to copy file: %1 to: %2 error: %3")
+                                     .arg(source, target, file.errorString()));
+        }
+    }
+}
+
 } // namespace
 
 QString MainWindow::selectDirectory() {
@@ -61,37 +77,18 @@ QString MainWindow::selectDirectory() {
 
 void MainWindow::copyFiles() {
     const QStringList files = selectedFilePaths();
-    if (files.isEmpty())
-        return;
-    const QString directory = selectDirectory();
-    if (directory.isEmpty())
-        return;
-    for (const QString& source : files) {
-        const QString target = destinationFilePath(source, directory);
-        QFile file(source);
-        if (!file.copy(target)) {
-            onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
-                              .arg(source, target, file.errorString()));
-        }
-    }
+    const QString directory = files.isEmpty() ? QString() : selectDirectory();
+    transferFiles(*this, files, directory,
+                  [](QFile& source, const QString& target) { return source.copy(target); });
 }
 
 void MainWindow::moveFiles() {
     const QStringList files = selectedFilePaths();
-    if (files.isEmpty())
-        return;
-    const QString directory = selectDirectory();
-    if (directory.isEmpty())
-        return;
-    for (const QString& source : files) {
-        ui->vidWidget->stop(source);
-        const QString target = destinationFilePath(source, directory);
-        QFile file(source);
-        if (!file.rename(target)) {
-            onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
-                              .arg(source, target, file.errorString()));
-        }
-    }
+    const QString directory = files.isEmpty() ? QString() : selectDirectory();
+    transferFiles(*this, files, directory, [this](QFile& source, const QString& target) {
+        ui->vidWidget->stop(source.fileName());
+        return source.rename(target);
+    });
 }
 
 void MainWindow::deleteFile() {
