@@ -1,7 +1,9 @@
 #include "app/MainWindow.h"
 
+#include "catalogue/FileNaming.h"
 #include "ollama/OllamaApi.h"
 #include "ollama/PromptImage.h"
+#include "tags/SidecarFile.h"
 #include "tags/TagText.h"
 #include "ui_MainWindow.h"
 
@@ -142,17 +144,16 @@ void MainWindow::onOllamaResponseImg(const QString& text, const QString& imgFile
         qDebug() << "Skipping adding tags, not enabled.";
         return;
     }
-    // The file may have left the catalogue while the server thought. Tags kept for it would write over the
-    // sidecar that a save no longer knows.
-    if (!_itemsByPath.contains(imgFilePath)) {
-        qDebug() << "Skipping adding tags, not in the catalogue:" << imgFilePath;
-        return;
-    }
     const QString separator = ui->lETagsSplitTag->text();
     if (separator.isEmpty())
         qDebug() << "Split tag is empty.";
     const QStringList tags = tagsFromAnswer(text, separator);
     qDebug() << "ollamaTags:" << tags.size() << tags;
+    // The file may have left the catalogue while the server thought. What its sidecar holds comes first then,
+    // or the next save would replace it by the answer alone.
+    if (!_imageTags.contains(imgFilePath))
+        setImageTags(imgFilePath,
+                     tagsFromText(sidecarText(imgFilePathToTxtFilePath(imgFilePath)).value_or(QString())));
     setImageTags(imgFilePath, imageTags(imgFilePath) + tags);
     if (selectedFilePaths().contains(imgFilePath, Qt::CaseInsensitive))
         refreshImageTags(imgFilePath);

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "catalogue/FileNaming.h"
+#include "tags/SidecarFile.h"
 #include "tags/TagText.h"
 #include "ui_MainWindow.h"
 
@@ -14,22 +15,6 @@ namespace {
 
 constexpr auto txtFileNameProperty = "txtFileName";
 constexpr auto imgFileNameProperty = "imgFileName";
-
-// The decoded text of a sidecar; nothing when it is missing or cannot be read, the latter with a log line.
-std::optional<QString> sidecarText(const QString& txtFileName) {
-    QFile file(txtFileName);
-    if (!file.exists())
-        return std::nullopt;
-    if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
-        return std::nullopt;
-    }
-    const QByteArray bytes = file.readAll();
-    // What cannot be decoded is replaced by the next save, so the loss gets a name.
-    if (!QUtf8StringView(bytes).isValidUtf8())
-        qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
-    return QString::fromUtf8(bytes);
-}
 
 enum class Backup { Made, NoFreeName };
 

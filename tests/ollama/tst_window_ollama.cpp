@@ -189,7 +189,7 @@ private slots:
         QCOMPARE(WindowDriver::logCount("Skipping adding tags, not enabled."), adds ? 0 : 2);
     }
 
-    void anAnswerForALeftDirectoryHarmsNoSidecar() {
+    void anAnswerForALeftDirectoryJoinsItsSidecar() {
         _folder->addImage("a.png");
         _folder->addTags("a.png", "mine");
         const MediaFolder other;
@@ -205,7 +205,7 @@ private slots:
         _driver->click("pBOllamaGo");
         QCOMPARE(responses(), QStringList({"<time>", "new"}));
         _driver->click("tBSaveTags");
-        QCOMPARE(_folder->content("a.txt"), QByteArray("mine"));
+        QCOMPARE(_folder->content("a.txt"), QByteArray("mine,new"));
     }
 
     void aServerThatIsGoneCostsEachFileAnEntry() {
