@@ -103,7 +103,7 @@ public slots:
 
 private:
     void queuePreview(const QString& filePath, const QSize& size);
-    // The same for many files, announced as one change.
+    // The same for all files of a scan, whose end announces the change.
     void queuePreviews(const QStringList& filePaths);
     MediaItem* enqueuePreview(const QString& filePath, const QSize& size);
     void setItemImage(const QString& filePath, const QSize& size, const QImage& image);

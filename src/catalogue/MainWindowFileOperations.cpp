@@ -27,13 +27,20 @@ bool endsInSlash(const QString& directory) {
     return directory.endsWith(u'/') || directory.endsWith(u'\\');
 }
 
-QStringList namesInDirectory(const QString& directory, const QStringList& nameFilters,
-                             QDir::Filters filters) {
-    QStringList names;
-    QDirIterator entries(directory, nameFilters, filters);
+struct DirectoryNames {
+    QStringList all;
+    QStringList txtFiles;
+};
+
+DirectoryNames namesInDirectory(const QString& directory) {
+    DirectoryNames names;
+    QDirIterator entries(directory, QDir::AllEntries);
     while (entries.hasNext()) {
         entries.next();
-        names.append(entries.fileName());
+        const QString name = entries.fileName();
+        names.all.append(name);
+        if (name.endsWith(".txt"_L1, Qt::CaseInsensitive) && entries.fileInfo().isFile())
+            names.txtFiles.append(name);
     }
     return names;
 }
@@ -124,9 +131,8 @@ void MainWindow::deleteStrayTxtFiles() {
         onShowMessage(tr("Working path dont exists."));
         return;
     }
-    const QStringList stray =
-        strayTxtFiles(namesInDirectory(directory, {u"*.txt"_s}, QDir::Files),
-                      namesInDirectory(directory, {}, QDir::AllEntries), _supportedFormats);
+    const DirectoryNames names = namesInDirectory(directory);
+    const QStringList stray = strayTxtFiles(names.txtFiles, names.all, _supportedFormats);
     for (const QString& name : stray) {
         const QString path = destinationFilePath(name, directory);
         if (!QFile::moveToTrash(path))

@@ -30,9 +30,6 @@ void MainWindow::queuePreviews(const QStringList& filePaths) {
     const QSize size = previewSize();
     for (const QString& filePath : filePaths)
         enqueuePreview(filePath, size);
-    if (const int rows = _itemModel->rowCount(); rows > 0)
-        emit _itemModel->dataChanged(_itemModel->index(0, ColName), _itemModel->index(rows - 1, ColName),
-                                     {Qt::DecorationRole});
 }
 
 MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size) {

@@ -48,7 +48,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         clearItemModel();
         addFileItems(files);
     }
-    // The rows are painted once before the slow half starts. A scan that comes before that half replaces it.
+    // A scan that comes before the slow half replaces it.
     QTimer::singleShot(0, this, [this, files, generation = ++_scanGeneration] {
         if (generation == _scanGeneration)
             populateUiImage(files);
@@ -57,11 +57,19 @@ void MainWindow::openWorkingDirectory(const QString& path) {
 
 QStringList MainWindow::scanDirectory(const QString& path, const QStringList& nameFilters,
                                       bool recursive) const {
+    // All filters are of the form "*.suffix". A set tells at once what a pattern for each of them tells
+    // slowly.
+    QSet<QString> suffixes;
+    for (const QString& filter : nameFilters)
+        suffixes.insert(filter.sliced(2));
     QStringList files;
-    QDirIterator entries(path, nameFilters, QDir::NoFilter,
+    QDirIterator entries(path, QDir::NoFilter,
                          recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
-    while (entries.hasNext())
-        files.append(entries.next());
+    while (entries.hasNext()) {
+        const QString entry = entries.next();
+        if (suffixes.contains(entry.sliced(entry.lastIndexOf(u'.') + 1).toCaseFolded()))
+            files.append(entry);
+    }
     return files;
 }
 
@@ -118,6 +126,8 @@ void MainWindow::removeFileItems(const QStringList& filePaths) {
 }
 
 void MainWindow::populateUiImage(const QStringList& files) {
+    // The rows show before the slow half: the call of it overtakes the paint that waits in the event queue.
+    currentMediaView()->viewport()->repaint();
     QElapsedTimer timer;
     {
         const UpdatesOff updatesOff(mediaViews());

@@ -9,6 +9,7 @@
 #include "catalogue/MediaModel.h"
 #include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
+#include "catalogue/ThumbnailDelegate.h"
 #include "catalogue/UpdatesOff.h"
 #include "ui_MainWindow.h"
 
@@ -110,6 +111,7 @@ void MainWindow::initListView() {
     ui->listView->setResizeMode(QListView::Adjust);
     ui->listView->setSpacing(8);
     ui->listView->setUniformItemSizes(false);
+    ui->listView->setItemDelegate(new ThumbnailDelegate(ui->listView));
 }
 
 void MainWindow::initTreeView() {

@@ -18,6 +18,8 @@ QVariant MediaItem::data(int role) const {
         if (!_canvasSize.isValid())
             return {};
         return _thumbnail.isNull() ? emptyCanvas(_canvasSize) : centredOnCanvas(_thumbnail, _canvasSize);
+    case RoleCanvasSize:
+        return _canvasSize.isValid() ? QVariant(_canvasSize) : QVariant();
     case RoleHidden:
         return _hidden;
     default:

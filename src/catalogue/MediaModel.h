@@ -30,10 +30,11 @@ enum MediaColumn {
 };
 
 enum MediaRole {
-    RoleValue = Qt::UserRole + 1,      // raw value of a cell; on ColName the file key
-    RoleHidden = Qt::UserRole + 3,     // on ColName
-    RoleComment = Qt::UserRole + 3,    // on ColComment
-    RoleVideoMeta = Qt::UserRole + 11, // on ColName
+    RoleValue = Qt::UserRole + 1,       // raw value of a cell; on ColName the file key
+    RoleHidden = Qt::UserRole + 3,      // on ColName
+    RoleComment = Qt::UserRole + 3,     // on ColComment
+    RoleVideoMeta = Qt::UserRole + 11,  // on ColName
+    RoleCanvasSize = Qt::UserRole + 64, // size of the decoration, on ColName
 };
 
 // What a scan learns of one file, from one header read and one look at its directory entry.

@@ -13,8 +13,11 @@
 #include <QListView>
 #include <QStackedWidget>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTreeView>
+
+#include <functional>
 
 // A directory becomes rows, is sorted, filtered and previewed in the real window.
 class TestWindowCatalogue : public QObject {
@@ -74,6 +77,54 @@ private slots:
         QCOMPARE(driver.cell("b.png", ColName, RoleValue), folder.filePath("sub/b.png"));
         QCOMPARE(driver.cell("b.png", ColPath), folder.filePath("sub"));
         driver.widget<QCheckBox>("cBWorkingDirScanRecursive")->setChecked(false);
+    }
+
+    void rowsShowBeforeTheirTags() {
+        const MediaFolder folder;
+        folder.addImage("a.png");
+        folder.addTags("a.png", "red");
+        WindowDriver driver;
+        struct Watcher : QObject {
+            std::function<void()> onPaint;
+            bool eventFilter(QObject*, QEvent* event) override {
+                if (event->type() == QEvent::Paint)
+                    onPaint();
+                return false;
+            }
+        } watcher;
+        auto* view = driver.widget<QListView>("listView");
+        QList<bool> tagged;
+        watcher.onPaint = [&] {
+            if (view->model()->rowCount() == 1)
+                tagged.append(!driver.window().imageTags(folder.filePath("a.png")).isEmpty());
+        };
+        view->viewport()->installEventFilter(&watcher);
+        driver.window().openWorkingDirectory(folder.path());
+        QVERIFY(driver.waitForLoad());
+        QTRY_VERIFY(tagged.contains(true));
+        QCOMPARE(tagged.first(), false);
+    }
+
+    void itemsAreSizedAsTheyAreDrawn() {
+        const MediaFolder folder;
+        folder.addImage("a.png");
+        folder.addImage("a name that is longer than the canvas of its thumbnail is wide.png");
+        WindowDriver driver(folder.path());
+        const auto* view = driver.widget<QListView>("listView");
+        const QStyledItemDelegate plain;
+        QStyleOptionViewItem option;
+        option.initFrom(view);
+        option.widget = view;
+        option.rect = QRect({0, 0}, view->gridSize());
+        for (const auto position : {QStyleOptionViewItem::Top, QStyleOptionViewItem::Left}) {
+            option.decorationPosition = position;
+            option.features.setFlag(QStyleOptionViewItem::WrapText, position == QStyleOptionViewItem::Top);
+            for (int row = 0; row < 2; ++row) {
+                const QModelIndex index = view->model()->index(row, 0);
+                QVERIFY(plain.sizeHint(option, index).height() >= 218);
+                QCOMPARE(view->itemDelegate()->sizeHint(option, index), plain.sizeHint(option, index));
+            }
+        }
     }
 
     void allViewsShareOneOrder() {
