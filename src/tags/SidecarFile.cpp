@@ -5,10 +5,9 @@
 
 std::optional<QString> sidecarText(const QString& txtFileName) {
     QFile file(txtFileName);
-    if (!file.exists())
-        return std::nullopt;
-    if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        if (file.exists())
+            qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
         return std::nullopt;
     }
     const QByteArray bytes = file.readAll();
