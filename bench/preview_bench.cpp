@@ -43,7 +43,7 @@ void loadWithCoordinator(const QStringList& files, const QSize& size, int thread
 
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    silenceLog();
     const QTemporaryDir directory;
     const int count = argc > 1 ? QString(argv[1]).toInt() : 60;
     QStringList files;

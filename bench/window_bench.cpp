@@ -1,6 +1,8 @@
+// The real window on catalogues of growing size.
+
+#include "BenchWindow.h"
+#include "LoopGap.h"
 #include "Ratio.h"
-#include "app/MainWindow.h"
-#include "catalogue/MediaFilter.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaModel.h"
 #include "reference/PlainCatalogue.h"
@@ -8,142 +10,140 @@
 #include "tags/TagsExport.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
 #include <QSortFilterProxyModel>
-#include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTreeView>
 
-#include <memory>
+#include <map>
 
 namespace {
 
-// 30 tags a file; a fifteenth of all tags is unique, and one file in ten ends with a tag of its own kind.
-QString sidecarOf(int number) {
-    QStringList tags;
-    for (int tag = 0; tag < 29; ++tag)
-        tags.append(QString("tag %1").arg((number * 29 + tag * 7919) % 20000));
-    tags.append(number % 10 == 0 ? "needle in hay" : "plain last tag");
-    return tags.join(", ");
-}
-
-void makeCatalogue(const QString& path, int files) {
-    QImage image(8, 6, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    image.setText("Comment", "made for measuring");
-    const QString first = path + "/image_00000.png";
-    image.save(first);
-    QFile source(first);
-    if (!source.open(QIODevice::ReadOnly))
-        qFatal("no source");
-    const QByteArray bytes = source.readAll();
-    for (int number = 0; number < files; ++number) {
-        const QString base = path + QString("/image_%1").arg(number, 5, 10, QChar('0'));
-        QFile picture(base + ".png");
-        QFile sidecar(base + ".txt");
-        if (!picture.open(QIODevice::WriteOnly) || !sidecar.open(QIODevice::WriteOnly))
-            qFatal("cannot write");
-        picture.write(bytes);
-        sidecar.write(sidecarOf(number).toUtf8());
-    }
-}
-
-long residentKilobytes() {
-    QFile status("/proc/self/status");
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QString text = QString::fromLatin1(status.readAll());
-    const qsizetype start = text.indexOf("VmRSS:") + 6;
-    return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLong();
-}
-
-class Bench {
+// Notes what the window knew when it painted rows for the first time.
+class FirstPaint : public QObject {
 public:
-    explicit Bench(int files) : _files(files) {
-        makeCatalogue(_directory.path(), files);
-        const long before = residentKilobytes();
-        _window = std::make_unique<MainWindow>();
-        _window->findChild<QLineEdit*>("lEWorkingPath")->setText(_directory.path());
-        _window->resize(1600, 1000);
-        _window->show();
-        open();
-        // Settled: no thumbnails are under way and nothing is selected.
-        std::printf("\n%d files, memory after opening %.1f kB a row\n\n", files,
-                    static_cast<double>(residentKilobytes() - before) / files);
-        Ratio::header();
+    FirstPaint(BenchWindow& bench, QAbstractItemView* view) : _bench(bench), _view(view) {
+        view->viewport()->installEventFilter(this);
+        _timer.start();
+    }
+    ~FirstPaint() override { _view->viewport()->removeEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        const QModelIndex first = _view->model()->index(0, 0);
+        if (event->type() == QEvent::Paint && _ms < 0 && first.isValid()) {
+            _ms = static_cast<double>(_timer.nsecsElapsed()) / 1e6;
+            _isEarly = _bench.window().imageTags(first.data(RoleValue).toString()).isEmpty() &&
+                       !first.data(Qt::DecorationRole).isValid();
+        }
+        return false;
     }
 
-    void run() {
-        opening();
-        filtering();
-        sorting();
-        tagPanel();
-        texts();
+    void print() const {
+        std::printf("First rows painted after %.0f ms, %s tags and thumbnails.\n", _ms,
+                    _isEarly ? "before" : "AFTER");
     }
 
 private:
-    template <typename T>
-    T* find(const char* name) {
-        return _window->findChild<T*>(QLatin1StringView(name));
-    }
-    QString label(const char* what) const { return QString("%1, %2 files").arg(what).arg(_files); }
+    BenchWindow& _bench;
+    QAbstractItemView* _view;
+    QElapsedTimer _timer;
+    double _ms = -1;
+    bool _isEarly = false;
+};
 
-    // Rows and tags, without the previews that follow.
-    void open() {
-        _window->openWorkingDirectory(_directory.path());
-        QCoreApplication::processEvents();
-        while (_window->imageTags(_window->allFilePaths().value(0)).isEmpty())
-            QCoreApplication::processEvents();
+class Bench {
+public:
+    explicit Bench(int files) : _bench(files), _files(files) {}
+
+    // All topics, or the one of that name.
+    void run(const QString& only) {
+        std::printf("\n### %d files\n\n", _files);
+        loading();
+        Ratio::header();
+        opening();
+        const std::pair<const char*, void (Bench::*)()> topics[] = {{"filter", &Bench::filtering},
+                                                                    {"sort", &Bench::sorting},
+                                                                    {"select", &Bench::selecting},
+                                                                    {"tags", &Bench::tagPanel},
+                                                                    {"texts", &Bench::texts}};
+        for (const auto& [name, measure] : topics) {
+            if (only.isEmpty() || only == name)
+                (this->*measure)();
+        }
+    }
+
+private:
+    [[nodiscard]] QString label(const QString& what) const {
+        return QString("%1, %2 files").arg(what).arg(_files);
+    }
+    [[nodiscard]] QStandardItemModel* model() const {
+        return _bench.window().findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
+    }
+
+    void loading() {
+        const long before = residentKilobytes();
+        {
+            const FirstPaint firstPaint(_bench, _bench.find<QListView>("listView"));
+            _bench.open();
+            firstPaint.print();
+        }
+        _bench.stopPreviews();
+        std::printf("Memory after the load, without thumbnails: %.1f kB a row.\n",
+                    static_cast<double>(residentKilobytes() - before) / _files);
+        _bench.open();
+        LoopGap gap;
+        const double spent = Ratio::milliseconds([&] { _bench.waitForPreviews(); });
+        std::printf("Thumbnails loaded in %.0f ms, longest turn of the event loop %.0f ms.\n\n", spent,
+                    gap.longestMs());
     }
 
     void opening() {
         reference::OpenedDirectory bound;
         Ratio::report(
-            label("open directory"), [&] { open(); },
-            [&] { bound = reference::openDirectory(_directory.path(), mediaNameFilters()); },
+            label("open directory"), [&] { _bench.open(); },
+            [&] { bound = reference::openDirectory(_bench.path(), mediaNameFilters()); },
             [&] {
                 bound = {};
-                _window->openWorkingDirectory(_empty.path());
-                QCoreApplication::processEvents();
+                _bench.openEmpty();
             });
-        open();
-        if (bound.model->rowCount() != _window->allFilePaths().size())
+        _bench.open();
+        _bench.waitForPreviews();
+        if (bound.model->rowCount() != model()->rowCount())
             qFatal("different rows");
         _tags = bound.tags;
     }
 
-    void filtering() {
-        auto* filter = find<QLineEdit>("leFilterImages");
-        auto* model = find<QListView>("listView")->model();
-        auto* catalogue = _window->findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
+    // What the file filter looks through.
+    [[nodiscard]] QList<QStringList> searchedStrings() const {
         QList<QStringList> strings;
-        for (int row = 0; row < catalogue->rowCount(); ++row) {
+        for (int row = 0; row < model()->rowCount(); ++row) {
             const auto text = [&](int column, int role) {
-                return catalogue->index(row, column).data(role).toString();
+                return model()->index(row, column).data(role).toString();
             };
-            QStringList parts{text(ColName, Qt::DisplayRole),
-                              text(ColName, Qt::ToolTipRole),
-                              text(ColName, RoleValue),
-                              text(ColPath, Qt::DisplayRole),
-                              text(ColSize, Qt::DisplayRole),
-                              text(ColResolution, Qt::DisplayRole),
-                              text(ColLastModified, Qt::DisplayRole)};
-            strings.append(parts + _tags.value(text(ColName, RoleValue)));
+            const QString key = text(ColName, RoleValue);
+            strings.append(QStringList{text(ColName, Qt::DisplayRole), text(ColName, Qt::ToolTipRole), key,
+                                       text(ColPath, Qt::DisplayRole), text(ColSize, Qt::DisplayRole),
+                                       text(ColResolution, Qt::DisplayRole),
+                                       text(ColLastModified, Qt::DisplayRole)} +
+                           _tags.value(key));
         }
+        return strings;
+    }
+
+    void filtering() {
+        auto* filter = _bench.find<QLineEdit>("leFilterImages");
+        const auto* shown = _bench.find<QListView>("listView")->model();
+        const QList<QStringList> strings = searchedStrings();
         int found = 0;
         Ratio::report(
             label("filter keystroke"),
             [&] {
                 filter->setText("needle");
                 QCoreApplication::processEvents();
-                found = model->rowCount();
+                found = shown->rowCount();
             },
             [&] {
                 if (reference::searchRows(strings, "needle") != _files / 10)
@@ -159,11 +159,11 @@ private:
     }
 
     void sorting() {
-        auto* table = find<QTableView>("tableView");
-        auto* catalogue = _window->findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
-        for (const int column : {int(ColName), int(ColSize), int(ColLastModified), int(ColComment)}) {
+        auto* table = _bench.find<QTableView>("tableView");
+        for (int column = 0; column < MediaColumnCount; ++column) {
+            const QString name = model()->headerData(column, Qt::Horizontal).toString();
             Ratio::report(
-                label(qPrintable("sort by " + catalogue->headerData(column, Qt::Horizontal).toString())),
+                label("sort by " + name),
                 [&] {
                     table->sortByColumn(column, Qt::AscendingOrder);
                     QCoreApplication::processEvents();
@@ -171,7 +171,7 @@ private:
                 [&] {
                     QSortFilterProxyModel bound;
                     bound.setSortRole(RoleValue);
-                    bound.setSourceModel(catalogue);
+                    bound.setSourceModel(model());
                     bound.sort(column, Qt::AscendingOrder);
                 },
                 [&] {
@@ -179,7 +179,10 @@ private:
                     QCoreApplication::processEvents();
                 });
         }
-        auto* view = find<QListView>("listView");
+    }
+
+    void selecting() {
+        auto* view = _bench.find<QListView>("listView");
         const QStringList all = flattenedTags(_tags);
         Ratio::report(
             label("select all"), [&] { view->selectAll(); },
@@ -190,10 +193,11 @@ private:
             },
             [&] { view->clearSelection(); });
         view->clearSelection();
+        QCoreApplication::processEvents();
     }
 
     void tagPanel() {
-        auto* list = find<QListWidget>("lwAllImagesTags");
+        auto* list = _bench.find<QListWidget>("lwAllImagesTags");
         QListWidget bound;
         bound.setViewMode(list->viewMode());
         bound.setMovement(list->movement());
@@ -203,14 +207,14 @@ private:
         bound.show();
         Ratio::report(
             label("tag refresh"),
-            [&] { QMetaObject::invokeMethod(_window.get(), "refreshAllTags", Qt::DirectConnection); },
+            [&] { QMetaObject::invokeMethod(&_bench.window(), "refreshAllTags", Qt::DirectConnection); },
             [&] {
                 if (reference::countAndList(_tags, bound) != list->count())
                     qFatal("different tags");
             });
         list->item(0)->setSelected(true);
         Ratio::report(
-            label("tag search"), [&] { _window->onAllImagesTagSelectedChanged(); },
+            label("tag search"), [&] { _bench.window().onAllImagesTagSelectedChanged(); },
             [&] {
                 int hits = 0;
                 for (const QStringList& tags : std::as_const(_tags))
@@ -233,7 +237,7 @@ private:
                 (void)bound.join('\n');
             });
         Ratio::report(
-            label("replace in all"), [&] { _window->replaceTagText("tag 1", "tag 1"); },
+            label("replace in all"), [&] { _bench.window().replaceTagText("tag 1", "tag 1"); },
             [&] {
                 auto tags = _tags;
                 for (QStringList& entry : tags)
@@ -242,7 +246,7 @@ private:
                 (void)reference::countAndList(tags, bound);
             });
         Ratio::report(
-            label("save all"), [&] { _window->onSaveTags(); },
+            label("save all"), [&] { _bench.window().onSaveTags(); },
             [&] {
                 for (const auto& [path, tags] : std::as_const(_tags).asKeyValueRange()) {
                     QFile file(path.chopped(4) + ".txt");
@@ -252,10 +256,8 @@ private:
             });
     }
 
+    mutable BenchWindow _bench;
     int _files;
-    QTemporaryDir _directory;
-    QTemporaryDir _empty;
-    std::unique_ptr<MainWindow> _window;
     QHash<QString, QStringList> _tags;
 };
 
@@ -264,15 +266,11 @@ private:
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
-    // The terminal is no part of what is measured.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
-        if (type == QtFatalMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    });
+    silenceLog();
+    const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
     for (const int files : {1000, 10000, 50000}) {
-        if (argc > 1 && QString(argv[1]).toInt() > 0 && QString(argv[1]).toInt() != files)
-            continue;
-        Bench(files).run();
+        if (wanted == 0 || wanted == files)
+            Bench(files).run(argc > 2 ? argv[2] : "");
     }
     return 0;
 }
