@@ -1,5 +1,6 @@
 #include "safetensors/SafetensorsDialog.h"
 
+#include "app/services/LongLines.h"
 #include "app/services/Themes.h"
 #include "app/services/Utils.h"
 #include "editor/EditImageWidget.h"
@@ -34,6 +35,7 @@ QString inspectionText(const QMap<QString, QString>& entries) {
 SafetensorsDialog::SafetensorsDialog(QWidget* parent)
     : QDialog(parent), _ui(std::make_unique<Ui::SafetensorsDialog>()) {
     _ui->setupUi(this);
+    keepLongLinesQuick(_ui->pTEOutput);
     connect(_ui->tBOpenSafetensorFile, &QToolButton::clicked, this, &SafetensorsDialog::onOpenSafetensorFile);
     connect(_ui->tBShowInFileBrowser, &QToolButton::clicked, this, &SafetensorsDialog::onShowInFileBrowser);
     connect(_ui->tBSafetensorPrev, &QToolButton::clicked, this, &SafetensorsDialog::onSafetensorNext);

@@ -1,9 +1,11 @@
 #include "tags/AddTagsDialog.h"
 
+#include "app/services/LongLines.h"
 #include "ui_AddTagsDialog.h"
 
 AddTagsDialog::AddTagsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_unique<Ui::AddTagsDialog>()) {
     _ui->setupUi(this);
+    keepLongLinesQuick(_ui->plainTextEdit);
     setWindowTitle(tr("Add tags, one per line or/and \",\" separated.."));
     connect(_ui->pBAdd, &QPushButton::clicked, this, &AddTagsDialog::onAccepted);
     connect(_ui->pBCancel, &QPushButton::clicked, this, &QWidget::close);

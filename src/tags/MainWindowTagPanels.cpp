@@ -1,7 +1,9 @@
 #include "app/MainWindow.h"
 
+#include "app/services/LongLines.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
 #include "tags/ReplaceTextDialog.h"
@@ -42,6 +44,7 @@ void setUpTagList(QListWidget* list) {
     list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     list->setContextMenuPolicy(Qt::CustomContextMenu);
+    list->setItemDelegate(new ShortTextDelegate(list));
 }
 
 void showTags(QListWidget* list, const QStringList& tags) {
@@ -86,6 +89,9 @@ void sortTagList(QListWidget* list, Qt::SortOrder& order) {
 void MainWindow::initTagViews() {
     setUpTagList(ui->lwImageTags);
     setUpTagList(ui->lwAllImagesTags);
+    for (QPlainTextEdit* edit :
+         {ui->pTETagsFromFile, ui->pTEPromptSystem, ui->pTEPromptUser, ui->pTEResponse})
+        keepLongLinesQuick(edit);
 }
 
 void MainWindow::refreshSelectionTags(const QStringList& filePaths) {

@@ -1,5 +1,6 @@
 #include "tags/TagsExportDialog.h"
 
+#include "app/services/LongLines.h"
 #include "tags/TagText.h"
 #include "tags/TagsExport.h"
 #include "ui_TagsExportDialog.h"
@@ -10,6 +11,7 @@
 TagsExportDialog::TagsExportDialog(QWidget* parent)
     : QDialog(parent), _ui(std::make_unique<Ui::TagsExportDialog>()) {
     _ui->setupUi(this);
+    keepLongLinesQuick(_ui->plainTextEdit);
     for (const QCheckBox* box : {_ui->cBRemoveDuplicates, _ui->cBNumOccurance, _ui->cBSortByNumOccurance})
         connect(box, &QCheckBox::checkStateChanged, this, &TagsExportDialog::updateText);
     connect(_ui->gBSort, &QGroupBox::toggled, this, &TagsExportDialog::updateText);

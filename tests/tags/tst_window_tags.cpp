@@ -71,6 +71,25 @@ private slots:
         QVERIFY(!folder.exists("a_backup_0.txt"));
     }
 
+    void aLongLineWithoutABlankStaysUsable() {
+        const MediaFolder folder;
+        const QByteArray line(1'000'000, 'x');
+        folder.addImage("a.png");
+        folder.addImage("b.png");
+        folder.addTags("a.png", line);
+        folder.addTags("b.png", "short");
+        WindowDriver driver(folder.path());
+        driver.select({"a.png"});
+        auto* edit = driver.widget<QPlainTextEdit>("pTETagsFromFile");
+        QCOMPARE(edit->toPlainText().toUtf8(), line);
+        QCOMPARE(edit->wordWrapMode(), QTextOption::WrapAnywhere);
+        QCOMPARE(driver.tagTexts("lwImageTags").join(','), edit->toPlainText());
+        driver.click("tBSaveTagTxtFile");
+        QCOMPARE(folder.content("a.txt"), line);
+        driver.select({"b.png"});
+        QCOMPARE(edit->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    }
+
     void aSidecarThatCannotBeWrittenCostsOnlyItself() {
         const MediaFolder folder;
         folder.addImage("a.png");
