@@ -81,7 +81,8 @@ void MainWindow::onExtractWorkflow() {
         qDebug() << "Error, unable to open file for writting:" << file.errorString();
         return;
     }
-    if (file.write(comment.toUtf8()) == -1) {
+    // A short text reaches the disk with the flush.
+    if (file.write(comment.toUtf8()) == -1 || !file.flush()) {
         qDebug() << "Error, unable to write content to the file:" << file.fileName()
                  << "error:" << file.errorString();
     }

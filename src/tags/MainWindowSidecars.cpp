@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <optional>
 
@@ -86,9 +87,13 @@ void MainWindow::readTagFiles(const QStringList& filePaths) {
 void MainWindow::onSaveTags() {
     const bool makesBackups = ui->cBBackupTxt->isChecked();
     const bool keepsDuplicates = ui->cBSaveTagsDuplicates->isChecked();
+    QSet<QString> written;
     for (const auto& [filePath, tags] : std::as_const(_imageTags).asKeyValueRange()) {
         const QString text = savedTagText(tags, keepsDuplicates);
         const QString txtFileName = imgFilePathToTxtFilePath(filePath);
+        if (written.contains(txtFileName))
+            qDebug() << "Warning, another file shares this sidecar, its tags are overwritten:" << txtFileName;
+        written.insert(txtFileName);
         if (makesBackups && QFile::exists(txtFileName) &&
             makeSidecarBackup(txtFileName) == Backup::NoFreeName)
             return;
@@ -122,12 +127,16 @@ void MainWindow::saveTagTxtFile(const QString& txtFileName, const QString& text)
         onShowMessage(tr("Failed to open txt file, error: %1").arg(file.errorString()));
         return;
     }
-    const qint64 written = file.write(text.toUtf8());
+    const QByteArray bytes = text.toUtf8();
+    const qint64 written = file.write(bytes);
     if (written == -1 || file.error() != QFileDevice::NoError) {
         qDebug() << "Failed to write data to txt file:" << file.errorString();
         onShowMessage(tr("Failed to write data to txt file, error: %1").arg(file.errorString()));
         return;
     }
+    // A disk that fills up takes the first part without an error.
+    if (written < bytes.size())
+        qDebug() << "Error, txt file is cut short:" << txtFileName << "data:" << bytes.size();
     qDebug() << "Tags written to:" << txtFileName << "written data:" << written;
     const QString imgFileName = ui->pTETagsFromFile->property(imgFileNameProperty).toString();
     if (imgFileName.isEmpty()) {

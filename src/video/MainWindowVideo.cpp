@@ -2,12 +2,14 @@
 
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "imaging/BatchWriter.h"
 #include "ui_MainWindow.h"
 #include "video/VideoTexts.h"
 #include "video/VideoWidget.h"
 
 #include <QDateTime>
 #include <QDebug>
+#include <QImageWriter>
 
 namespace {
 
@@ -55,7 +57,9 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
     const auto openedDirectory = window ? std::optional(window->lastOpenPath()) : std::nullopt;
     const QString path = grabbedFrameFilePath(
         directory, grabbedFrameBaseName(fileName, openedDirectory, QDateTime::currentDateTime()));
-    if (!img.save(path, frameFormat, frameQuality)) {
+    QImageWriter writer(path, frameFormat);
+    writer.setQuality(frameQuality);
+    if (!writeWholeImage(writer, img)) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
         return;
