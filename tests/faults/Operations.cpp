@@ -1,0 +1,169 @@
+#include "faults/Operations.h"
+
+#include "support/ModalAnswer.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace {
+
+// Chooses in file dialogs and says yes to everything else, until its end. A dialog that comes back is sent
+// away.
+class EverYes : public QObject {
+public:
+    explicit EverYes(const QString& path) : _path(path) { startTimer(2); }
+
+protected:
+    void timerEvent(QTimerEvent*) override {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        if (!dialog)
+            return;
+        if (++_answers > 5)
+            dialog->reject();
+        else if (qobject_cast<QFileDialog*>(dialog))
+            chooseFiles({_path})(dialog);
+        else if (box && box->button(QMessageBox::Yes))
+            box->button(QMessageBox::Yes)->click();
+        else if (box && box->button(QMessageBox::Ok))
+            box->button(QMessageBox::Ok)->click();
+        else
+            dialog->accept();
+    }
+
+private:
+    QString _path;
+    int _answers = 0;
+};
+
+std::function<void(WindowDriver&, const QString&)> slot(void (MainWindow::*operation)()) {
+    return [operation](WindowDriver& driver, const QString& target) {
+        const EverYes answer(target);
+        (driver.window().*operation)();
+    };
+}
+
+void resize(WindowDriver& driver, const QString&) {
+    for (const char* name : {"sBSpecificW", "sBSpecificH"})
+        driver.widget<QSpinBox>(name)->setValue(64);
+    driver.click("pBProcessResize");
+}
+
+void tag(WindowDriver& driver, const QString&) {
+    driver.window().onAddTagsAccepted("new, tag");
+    driver.window().replaceTagText("new", "old");
+    driver.window().splitTagText("l");
+    driver.widget<QListWidget>("lwAllImagesTags")->selectAll();
+    driver.widget<QListWidget>("lwAllImagesTags")->clearSelection();
+}
+
+void saveRaw(WindowDriver& driver, const QString&) {
+    driver.widget<QPlainTextEdit>("pTETagsFromFile")->setPlainText(QString(60'000, 'r'));
+    driver.window().onSaveTagTxtFile();
+}
+
+void applyEffects(WindowDriver& driver, const QString&) {
+    driver.widget<QListWidget>("lWDspEffects")->clear();
+    driver.window().onAddDspEffectItem("Brightness");
+    driver.click("pBDspApply");
+}
+
+void grabFrame(WindowDriver& driver, const QString&) {
+    QImage frame(16, 16, QImage::Format_RGB32);
+    frame.fill(Qt::blue);
+    driver.window().onVideoPicCaptured(frame, "clip.mp4");
+}
+
+void import(WindowDriver& driver, const QString& target) {
+    const EverYes answer(target + "/new.png");
+    driver.window().importFiles();
+}
+
+void look(WindowDriver& driver, const QString&) {
+    driver.window().onItemSelectedChanged();
+    for (const char* text : {"a", ":missingtxt", ""})
+        driver.window().onFilterImages(text);
+    driver.window().onImagesSortByFileName();
+    driver.window().onTagsExport();
+    driver.window().onCopyComment();
+    driver.window().onDspReset();
+}
+
+} // namespace
+
+const QList<Operation>& operations() {
+    static const QList<Operation> all{
+        {"look", look, {}},
+        {"tag", tag, {}},
+        {"save tags",
+         slot(&MainWindow::onSaveTags),
+         {{},
+          "Failed to open txt file:",
+          "Failed to open txt file:",
+          "Failed to open txt file:",
+          "Failed to write data to txt file:"}},
+        {"save raw text",
+         saveRaw,
+         {{},
+          "Failed to open txt file, error:",
+          "Failed to open txt file, error:",
+          "Failed to open txt file, error:",
+          "Failed to write data to txt file, error:"}},
+        {"resize",
+         resize,
+         {"Unable to read image, error:", "Unable to read image, error:", "Error, unable to write file:",
+          "Error, unable to create out path", "Error, unable to write file:"}},
+        {"apply effects",
+         applyEffects,
+         {"Image not processed", "Image not processed", "Error, unable to write file:",
+          "Error, unable to create out path", "Error, unable to write file:"}},
+        {"send a prompt",
+         slot(&MainWindow::onOllamaSendPrompt),
+         {"Error, unable to open file:", "Error, unable to open file:", {}, {}, {}}},
+        {"grab a frame",
+         grabFrame,
+         {{},
+          "Error, unable to save file to:",
+          {},
+          "Error, unable to save file to:",
+          "Error, unable to save file to:"}},
+        {"extract",
+         slot(&MainWindow::onExtractWorkflow),
+         {{},
+          {},
+          "Error, unable to open file for writting:",
+          "Error, unable to open file for writting:",
+          "Error, unable to write content to the file:"}},
+        {"import", import, {{}, {}, {}, "Unable to import file from", "Unable to import file from"}},
+        {"copy",
+         slot(&MainWindow::copyFiles),
+         {"Error, unable to copy file:", "Error, unable to copy file:", "Error, unable to copy file:",
+          "Error, unable to copy file:", "Error, unable to copy file:"}},
+        {"edit", [](WindowDriver& driver, const QString&) { driver.window().editImage(); }, {}},
+        {"clear stray texts",
+         slot(&MainWindow::deleteStrayTxtFiles),
+         {{}, "Working path dont exists.", {}, "Failed to trash file:", {}}},
+        {"move",
+         slot(&MainWindow::moveFiles),
+         {"Error, unable to copy file:",
+          "Error, unable to copy file:",
+          "Error, unable to copy file:",
+          "Error, unable to copy file:",
+          {}}},
+        {"delete",
+         slot(&MainWindow::deleteFile),
+         {"Error, unable to move file to trash",
+          "Error, unable to move file to trash",
+          {},
+          "Error, unable to move file to trash",
+          {}}},
+        {"refresh", slot(&MainWindow::onRefreshOpenFilePath), {{}, "Directory dont exists at:", {}, {}, {}}},
+    };
+    return all;
+}

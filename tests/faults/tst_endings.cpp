@@ -1,0 +1,201 @@
+#include "ollama/OllamaPeer.h"
+#include "support/Clips.h"
+#include "support/MediaFolder.h"
+#include "support/WindowDriver.h"
+#include "video/VideoWidget.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QMediaPlayer>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+// What is under way in a window that ends, in a process of its own.
+struct Scene {
+    const char* name;
+    std::function<void(MainWindow&)> begin;
+    std::function<bool(const MainWindow&)> isUnderWay;
+    // A modal window keeps the user from closing the main window; only the system ends the program then.
+    bool isModal = false;
+};
+
+bool isAlways(const MainWindow&) {
+    return true;
+}
+
+template <typename Window>
+bool hasModal(const MainWindow&) {
+    return qobject_cast<Window*>(QApplication::activeModalWidget());
+}
+
+void addEffect(MainWindow& window) {
+    window.onAddDspEffectItem("Blur");
+    window.findChild<QPushButton*>("pBDspApply")->click();
+}
+
+const QList<Scene>& scenes() {
+    static const QList<Scene> all{
+        {"a scan and its previews", nullptr, isAlways},
+        {"a second scan",
+         [](MainWindow& window) {
+             window.openWorkingDirectory(window.findChild<QLineEdit*>("lEWorkingPath")->text());
+         },
+         isAlways},
+        {"a file dialog", [](MainWindow& window) { window.importFiles(); }, hasModal<QFileDialog>, true},
+        {"a question", [](MainWindow& window) { window.deleteFile(); }, hasModal<QMessageBox>, true},
+        {"a context menu", [](MainWindow& window) { window.onImagesCustomContextMenu(); },
+         [](const MainWindow&) { return QApplication::activePopupWidget() != nullptr; }, true},
+        {"a request for the models",
+         [](MainWindow& window) { window.findChild<QToolButton*>("tBOllamaReconect")->click(); }, isAlways},
+        {"a batch of prompts", [](MainWindow& window) { window.onOllamaSendPrompt(); },
+         [](const MainWindow& window) {
+             return window.findChild<QPushButton*>("pBOllamaGo")->text() == "Abort prompt";
+         }},
+        {"a resize batch", [](MainWindow& window) { window.onProcessResize(); }, isAlways},
+        {"an effects batch", addEffect, isAlways},
+        {"an export", [](MainWindow& window) { window.onTagsExport(); }, isAlways},
+        {"an editor", [](MainWindow& window) { window.editImage(); }, isAlways},
+        {"a video window",
+         [](MainWindow& window) { window.showEditVideoWidget()->openFile(clipPath("h264.mp4")); },
+         [](const MainWindow& window) {
+             const auto* player = window.findChild<VideoWidget*>()->findChild<QMediaPlayer*>();
+             return player && player->mediaStatus() >= QMediaPlayer::LoadedMedia;
+         }},
+    };
+    return all;
+}
+
+QString imagePath(const QString& directory, int number) {
+    return QString("%1/%2.png").arg(directory).arg(number);
+}
+
+// The two texts that take turns in a sidecar.
+QString savedText(int number, bool isSecond) {
+    return QString(isSecond ? "second " : "first ").repeated(2000) + QString::number(number);
+}
+
+constexpr int savedFiles = 60;
+
+void saveForEver(MainWindow& window, const QString& directory) {
+    for (bool isSecond = false;; isSecond = !isSecond) {
+        for (int number = 0; number < savedFiles; ++number)
+            window.setImageTags(imagePath(directory, number), {savedText(number, isSecond)});
+        window.onSaveTags();
+    }
+}
+
+// The other process: opens the window on a directory, begins the scene and ends it in the middle.
+int play(const QString& name, const QString& directory, const QString& server) {
+    MainWindow window;
+    window.findChild<QLineEdit*>("lEWorkingPath")->setText(directory);
+    window.findChild<QLineEdit*>("lEOllamaIp")->setText(server);
+    window.show();
+    const auto* rows = window.findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto scene = std::ranges::find_if(scenes(), [&](const Scene& s) { return name == s.name; });
+    bool hasBegun = false;
+    bool isInside = false;
+    const auto begin = [&](MainWindow& ready) {
+        if (scene == scenes().end())
+            saveForEver(ready, directory);
+        isInside = true;
+        if (scene->begin)
+            scene->begin(ready);
+    };
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        if (!hasBegun && rows->rowCount() > 0) {
+            hasBegun = true;
+            window.findChild<QListView*>("listView")->selectAll();
+            // In a timer of its own: this one does not fire again before its slot ends.
+            QTimer::singleShot(0, &window, [&] { begin(window); });
+        } else if (isInside && scene->isUnderWay(window)) {
+            poll.stop();
+            if (scene->isModal)
+                QCoreApplication::quit();
+            else
+                window.close();
+        }
+    });
+    poll.start(1);
+    return QApplication::exec();
+}
+
+} // namespace
+
+// The program ends at a bad moment.
+class TestEndings : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { WindowDriver::forgetSettings(); }
+
+    void theWindowClosesDuring_data() {
+        QTest::addColumn<QString>("scene");
+        for (const Scene& scene : scenes())
+            QTest::newRow(scene.name) << QString(scene.name);
+    }
+
+    void theWindowClosesDuring() {
+        QFETCH(QString, scene);
+        const MediaFolder folder;
+        for (int number = 0; number < 20; ++number)
+            folder.addImage(QString("%1.png").arg(number), {400, 300});
+        QVERIFY(QFile::copy(clipPath("h264.mp4"), folder.filePath("clip.mp4")));
+        const QStringList before = folder.names();
+        OllamaPeer peer;
+        for (const char* path : {"/api/version", "/api/tags", "/api/generate"})
+            peer.setAnswers(path, {{{}, OllamaPeer::Silent}});
+        QProcess program;
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(QCoreApplication::applicationFilePath(), {"--play", scene, folder.path(), peer.url()});
+        QVERIFY(program.waitForFinished(120000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QVERIFY(QFileInfo(QCoreApplication::applicationDirPath() + "/settings.data").size() > 0);
+        QCOMPARE(folder.names(), before);
+    }
+
+    void aKilledSaveCutsOneSidecarAtMost() {
+        const MediaFolder folder;
+        for (int number = 0; number < savedFiles; ++number)
+            folder.addImage(QString("%1.png").arg(number), {4, 4});
+        for (int round = 0; round < 3; ++round) {
+            folder.addFile("0.txt", "before");
+            QProcess program;
+            program.start(QCoreApplication::applicationFilePath(),
+                          {"--play", "save for ever", folder.path(), "http://127.0.0.1:9/"});
+            QTRY_VERIFY_WITH_TIMEOUT(folder.content("0.txt").startsWith("second"), 120000);
+            program.kill();
+            QVERIFY(program.waitForFinished());
+            int cut = 0;
+            for (int number = 0; number < savedFiles; ++number) {
+                const QByteArray text = folder.content(QString("%1.txt").arg(number));
+                const QByteArray first = savedText(number, false).toUtf8();
+                const QByteArray second = savedText(number, true).toUtf8();
+                QVERIFY(first.startsWith(text) || second.startsWith(text));
+                cut += text == first || text == second ? 0 : 1;
+            }
+            QVERIFY2(cut <= 1, qPrintable(QString("%1 sidecars are cut").arg(cut)));
+        }
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--play")
+        return play(arguments.value(2), arguments.value(3), arguments.value(4));
+    TestEndings test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_endings.moc"
