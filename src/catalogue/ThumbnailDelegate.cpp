@@ -5,18 +5,39 @@
 #include <QApplication>
 #include <QStyle>
 
+namespace {
+
+// Some ten megabytes.
+constexpr qsizetype maxRememberedTexts = 200000;
+
+} // namespace
+
 QSize ThumbnailDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QVariant canvasSize = index.data(RoleCanvasSize);
-    if (!canvasSize.isValid())
+    const QString text = displayText(index.data(Qt::DisplayRole), option.locale);
+    if (!canvasSize.isValid() || text.isEmpty())
         return QStyledItemDelegate::sizeHint(option, index);
+    const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
+    const Shape shape{canvasSize.toSize(),
+                      option.rect.size(),
+                      option.font,
+                      option.features,
+                      option.decorationPosition,
+                      option.decorationAlignment,
+                      option.displayAlignment,
+                      option.textElideMode,
+                      option.direction,
+                      style};
+    if (shape != _shape || _sizes.size() >= maxRememberedTexts) {
+        _sizes.clear();
+        _shape = shape;
+    }
+    if (const auto known = _sizes.constFind(text); known != _sizes.cend())
+        return *known;
     QStyleOptionViewItem sized = option;
     sized.index = index;
-    sized.features |= QStyleOptionViewItem::HasDecoration;
-    sized.decorationSize = canvasSize.toSize();
-    if (const QVariant text = index.data(Qt::DisplayRole); !text.isNull()) {
-        sized.features |= QStyleOptionViewItem::HasDisplay;
-        sized.text = displayText(text, option.locale);
-    }
-    const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
-    return style->sizeFromContents(QStyle::CT_ItemViewItem, &sized, {}, option.widget);
+    sized.features |= QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasDisplay;
+    sized.decorationSize = shape.canvas;
+    sized.text = text;
+    return *_sizes.insert(text, style->sizeFromContents(QStyle::CT_ItemViewItem, &sized, {}, option.widget));
 }
