@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
+#include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "app/services/Utils.h"
@@ -61,6 +62,7 @@ void transferFiles(MainWindow& window, const QStringList& files, const QString& 
                    Operation operation) {
     if (directory.isEmpty())
         return;
+    const WaitCursor waitCursor;
     for (const QString& source : files) {
         const QString target = destinationFilePath(source, directory);
         QFile file(source);
@@ -107,6 +109,7 @@ void MainWindow::deleteFile() {
                 QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
     if (answer == QMessageBox::Cancel)
         return;
+    const WaitCursor waitCursor;
     for (const QString& path : files) {
         ui->vidWidget->stop(path);
         QFile file(path);
@@ -131,6 +134,7 @@ void MainWindow::deleteStrayTxtFiles() {
         onShowMessage(tr("Working path dont exists."));
         return;
     }
+    const WaitCursor waitCursor;
     const DirectoryNames names = namesInDirectory(directory);
     const QStringList stray = strayTxtFiles(names.txtFiles, names.all, _supportedFormats);
     for (const QString& name : stray) {
@@ -160,6 +164,7 @@ void MainWindow::importFiles() {
     _workingPath = QFileInfo(sources.first()).path();
     const bool deleteSource = Settings::instance()->data(keys::importFilesDeleteSrc, false).toBool();
     const bool autoRename = Settings::instance()->data(keys::importFilesAutoRename, false).toBool();
+    const WaitCursor waitCursor;
     for (const QString& source : sources)
         importFile(source, directory, autoRename, deleteSource);
 }

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
+#include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "catalogue/FileNaming.h"
@@ -37,6 +38,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         tellUser(this, message);
         return;
     }
+    const WaitCursor waitCursor;
     _imageTags.clear();
     _workingPath = path;
     onShowMessage(tr("Checking directory: %1").arg(path));
@@ -126,6 +128,7 @@ void MainWindow::removeFileItems(const QStringList& filePaths) {
 }
 
 void MainWindow::populateUiImage(const QStringList& files) {
+    const WaitCursor waitCursor;
     // The rows show before the slow half: the call of it overtakes the paint that waits in the event queue.
     currentMediaView()->viewport()->repaint();
     QElapsedTimer timer;

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "editor/EditImageWidget.h"
@@ -55,6 +56,7 @@ void MainWindow::onInspectSafetensor() {
 void MainWindow::openSafetensorsDialog(const QString& filePath, bool includeTensorInfo,
                                        bool includeMetaInfo) {
     onShowMessage(tr("Inspecting %1 safetensors").arg(filePath));
+    const WaitCursor waitCursor;
     auto* dialog = new SafetensorsDialog(this);
     dialog->setImageFormats(_supportedFormats);
     dialog->setImageWidget(new EditImageWidget(dialog));

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "catalogue/FileNaming.h"
 #include "tags/SidecarFile.h"
 #include "tags/TagText.h"
@@ -85,6 +86,7 @@ void MainWindow::readTagFiles(const QStringList& filePaths) {
 }
 
 void MainWindow::onSaveTags() {
+    const WaitCursor waitCursor;
     const bool makesBackups = ui->cBBackupTxt->isChecked();
     const bool keepsDuplicates = ui->cBSaveTagsDuplicates->isChecked();
     QSet<QString> written;

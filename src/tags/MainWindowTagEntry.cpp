@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "catalogue/FileNaming.h"
@@ -92,6 +93,7 @@ void MainWindow::replaceTagText(const QString& src, const QString& dst) {
             tr("Unable to replace text, source \"%1\" or replacement \"%2\" is empty").arg(src, dst));
         return;
     }
+    const WaitCursor waitCursor;
     ui->statusbar->showMessage(tr("Replacing text \"%1\" with \"%2\".").arg(src, dst));
     for (QStringList& tags : _imageTags)
         replaceInTags(tags, src, dst);
@@ -105,6 +107,7 @@ void MainWindow::splitTagText(const QString& src) {
         ui->statusbar->showMessage(tr("Source text is empty \"%1\"").arg(src));
         return;
     }
+    const WaitCursor waitCursor;
     ui->statusbar->showMessage(tr("Splitting text by \"%1\".").arg(src));
     for (QStringList& tags : _imageTags)
         splitTags(tags, src);
