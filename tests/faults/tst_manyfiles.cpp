@@ -12,7 +12,7 @@ class TestManyFiles : public QObject {
 private slots:
     void everyOperationTakesAll() {
         WindowDriver::forgetSettings();
-        const int count = qEnvironmentVariableIsSet("TESSARINE_THOROUGH") ? 10'000 : 500;
+        const int count = qEnvironmentVariableIsSet("TESSARINE_THOROUGH") ? 10'000 : 300;
         const MediaFolder folder;
         folder.addImage("work/0.png", {8, 8}, Qt::red, {{"Comment", "x"}});
         const QByteArray picture = folder.content("work/0.png");

@@ -1,0 +1,25 @@
+// Stands in for the fuzzer where the tests are built: runs a target over the files of a directory, once each.
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count);
+extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int* argc, char*** argv);
+
+int main(int argc, char** argv) {
+    if (LLVMFuzzerInitialize)
+        LLVMFuzzerInitialize(&argc, &argv);
+    int replayed = 0;
+    for (const auto& seed : std::filesystem::directory_iterator(argv[1])) {
+        std::ifstream stream(seed.path(), std::ios::binary);
+        const std::vector<char> input{std::istreambuf_iterator<char>(stream), {}};
+        std::printf("%s\n", seed.path().c_str());
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+        ++replayed;
+    }
+    return replayed > 0 ? 0 : 1;
+}
