@@ -8,7 +8,7 @@ IconIdentityProxyModel::IconIdentityProxyModel(const QSize& iconSize, QObject* p
 QVariant IconIdentityProxyModel::data(const QModelIndex& index, int role) const {
     if (index.column() == 0 && role == Qt::SizeHintRole)
         return _iconSize;
-    const QVariant value = QIdentityProxyModel::data(index, role);
+    QVariant value = QIdentityProxyModel::data(index, role);
     if (index.column() == 0 && role == Qt::DecorationRole) {
         if (const auto image = value.value<QImage>(); !image.isNull())
             return image.scaled(_iconSize, Qt::IgnoreAspectRatio, Qt::FastTransformation);

@@ -73,8 +73,8 @@ QString videoDialogFilter() {
 QString formatSize(qint64 bytes, int precision) {
     if (bytes < 1024)
         return u"%1 B"_s.arg(QString::number(static_cast<double>(bytes), 'f', 0));
-    if (bytes < 1024 * 1024)
-        return u"%1 KB"_s.arg(QString::number(static_cast<double>(bytes / 1024), 'f', 0));
+    if (const qint64 kilobytes = bytes / 1024; kilobytes < 1024)
+        return u"%1 KB"_s.arg(QString::number(kilobytes));
     constexpr std::array units{"MB", "GB", "TB", "PB", "EB", "ZB", "YB"};
     constexpr double oneStep = 0.0009765625;
     double value = static_cast<double>(bytes) * oneStep * oneStep;
