@@ -251,7 +251,7 @@ void Scenes::themes() {
     QImage all(size * 2, QImage::Format_RGB32);
     QPainter painter(&all);
     int place = 0;
-    for (const int theme : {5, 7, 13, 18}) {
+    for (const int theme : {5, 13, 16, 18}) {
         applyTheme(theme);
         painter.drawImage((place % 2) * size.width(), (place / 2) * size.height(), seen(window()));
         ++place;
