@@ -25,17 +25,17 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         _imageLoader->stop();
     if (path.isEmpty()) {
         const QString message = tr("Provide correct working directory path. Path is empty.");
-        qDebug() << "Path empty:" << path;
-        ui->statusbar->showMessage(message);
         tellUser(this, message);
+        ui->statusbar->showMessage(message);
+        qDebug() << "Path empty:" << path;
         return;
     }
     if (!QFile::exists(path)) {
         const QString message =
             tr("Provide correct working directory. Directory dont exists at: %1").arg(path);
-        qDebug() << "Path dont exists at:" << path;
-        onShowMessage(message);
         tellUser(this, message);
+        onShowMessage(message);
+        qDebug() << "Path dont exists at:" << path;
         return;
     }
     const WaitCursor waitCursor;
