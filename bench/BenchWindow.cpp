@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -70,6 +71,8 @@ BenchWindow::BenchWindow(int files) {
     QFile::remove(QCoreApplication::applicationDirPath() + "/settings.data");
     _window = std::make_unique<MainWindow>();
     find<QLineEdit>("lEWorkingPath")->setText(_empty.path());
+    // The tab whose lists follow most operations.
+    find<QTabWidget>("tWTools")->setCurrentWidget(find<QWidget>("tabTags"));
     _window->resize(1600, 1000);
     _window->show();
     // The window opens the path of the line edit by itself a quarter of a second after its start.

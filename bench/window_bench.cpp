@@ -35,8 +35,9 @@ public:
         const QModelIndex first = _view->model()->index(0, 0);
         if (event->type() == QEvent::Paint && _ms < 0 && first.isValid()) {
             _ms = static_cast<double>(_timer.nsecsElapsed()) / 1e6;
+            const auto canvas = first.data(Qt::DecorationRole).value<QImage>();
             _isEarly = _bench.window().imageTags(first.data(RoleValue).toString()).isEmpty() &&
-                       !first.data(Qt::DecorationRole).isValid();
+                       (canvas.isNull() || qAlpha(canvas.pixel(canvas.rect().center())) == 0);
         }
         return false;
     }

@@ -129,13 +129,14 @@ void MainWindow::removeFileItems(const QStringList& filePaths) {
 
 void MainWindow::populateUiImage(const QStringList& files) {
     const WaitCursor waitCursor;
-    // The rows show before the slow half: the call of it overtakes the paint that waits in the event queue.
-    currentMediaView()->viewport()->repaint();
     QElapsedTimer timer;
+    timer.start();
+    queuePreviews(files);
+    // The call of this slow half overtakes the paint that waits in the event queue, so the rows show here, in
+    // their final size and before their tags.
+    currentMediaView()->viewport()->repaint();
     {
         const UpdatesOff updatesOff(mediaViews());
-        timer.start();
-        queuePreviews(files);
         readTagFiles(files);
         const qint64 elapsed = timer.elapsed();
         qDebug() << "Read in:" << elapsed << "ms" << static_cast<double>(elapsed) / 1000.0 << "s";
