@@ -8,8 +8,8 @@
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
 #include "catalogue/ShortTextDelegate.h"
+#include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
-#include "catalogue/ThumbnailDelegate.h"
 #include "catalogue/UpdatesOff.h"
 #include "ui_MainWindow.h"
 
@@ -111,7 +111,7 @@ void MainWindow::initListView() {
     ui->listView->setResizeMode(QListView::Adjust);
     ui->listView->setSpacing(8);
     ui->listView->setUniformItemSizes(false);
-    ui->listView->setItemDelegate(new ThumbnailDelegate(ui->listView));
+    ui->listView->setItemDelegate(new SizeRememberingDelegate(ui->listView));
 }
 
 void MainWindow::initTreeView() {

@@ -4,6 +4,7 @@
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
 #include "catalogue/ShortTextDelegate.h"
+#include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
 #include "tags/ReplaceTextDialog.h"
@@ -39,6 +40,7 @@ void setUpTagList(QListWidget* list) {
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setUniformItemSizes(false);
+    list->setItemDelegate(new SizeRememberingDelegate(list));
     list->setSortingEnabled(false);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);

@@ -109,20 +109,24 @@ private slots:
         const MediaFolder folder;
         folder.addImage("a.png");
         folder.addImage("a name that is longer than the canvas of its thumbnail is wide.png");
+        folder.addTags("a.png", "tag,a tag that is longer than the canvas of a thumbnail is wide, ,");
         WindowDriver driver(folder.path());
-        const auto* view = driver.widget<QListView>("listView");
         const QStyledItemDelegate plain;
-        QStyleOptionViewItem option;
-        option.initFrom(view);
-        option.widget = view;
-        option.rect = QRect({0, 0}, view->gridSize());
-        for (const auto position : {QStyleOptionViewItem::Top, QStyleOptionViewItem::Left}) {
-            option.decorationPosition = position;
-            option.features.setFlag(QStyleOptionViewItem::WrapText, position == QStyleOptionViewItem::Top);
-            for (int row = 0; row < 2; ++row) {
-                const QModelIndex index = view->model()->index(row, 0);
-                QVERIFY(plain.sizeHint(option, index).height() >= 218);
-                QCOMPARE(view->itemDelegate()->sizeHint(option, index), plain.sizeHint(option, index));
+        for (const char* name : {"listView", "lwAllImagesTags"}) {
+            const auto* view = driver.widget<QListView>(name);
+            QStyleOptionViewItem option;
+            option.initFrom(view);
+            option.widget = view;
+            option.rect = QRect(0, 0, 240, 240);
+            for (const bool wraps : {true, false, true}) {
+                option.decorationPosition = wraps ? QStyleOptionViewItem::Top : QStyleOptionViewItem::Left;
+                option.features.setFlag(QStyleOptionViewItem::WrapText, wraps);
+                for (int row = 0; row < view->model()->rowCount(); ++row) {
+                    const QModelIndex index = view->model()->index(row, 0);
+                    const QSize drawn = plain.sizeHint(option, index);
+                    QCOMPARE(view->itemDelegate()->sizeHint(option, index), drawn);
+                    QCOMPARE(view->itemDelegate()->sizeHint(option, index), drawn);
+                }
             }
         }
     }

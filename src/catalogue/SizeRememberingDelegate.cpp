@@ -1,4 +1,4 @@
-#include "catalogue/ThumbnailDelegate.h"
+#include "catalogue/SizeRememberingDelegate.h"
 
 #include "catalogue/MediaModel.h"
 
@@ -12,13 +12,13 @@ constexpr qsizetype maxRememberedTexts = 200000;
 
 } // namespace
 
-QSize ThumbnailDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+QSize SizeRememberingDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QVariant canvasSize = index.data(RoleCanvasSize);
     const QString text = displayText(index.data(Qt::DisplayRole), option.locale);
-    if (!canvasSize.isValid() || text.isEmpty())
+    if (text.isEmpty())
         return QStyledItemDelegate::sizeHint(option, index);
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
-    const Shape shape{canvasSize.toSize(),
+    const Shape shape{canvasSize.isValid() ? canvasSize.toSize() : QSize(),
                       option.rect.size(),
                       option.font,
                       option.features,
@@ -36,8 +36,11 @@ QSize ThumbnailDelegate::sizeHint(const QStyleOptionViewItem& option, const QMod
         return *known;
     QStyleOptionViewItem sized = option;
     sized.index = index;
-    sized.features |= QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasDisplay;
-    sized.decorationSize = shape.canvas;
+    sized.features |= QStyleOptionViewItem::HasDisplay;
+    if (canvasSize.isValid()) {
+        sized.features |= QStyleOptionViewItem::HasDecoration;
+        sized.decorationSize = shape.canvas;
+    }
     sized.text = text;
     return *_sizes.insert(text, style->sizeFromContents(QStyle::CT_ItemViewItem, &sized, {}, option.widget));
 }

@@ -4,10 +4,11 @@
 #include <QHash>
 #include <QStyledItemDelegate>
 
-// Sizes the catalogue's items without composing their canvases: a layout asks for the size of every row, and
-// the canvas of a row costs more than all the rest of it. Texts that have been laid out once keep their size,
-// since each sort and each filter asks for all of them again.
-class ThumbnailDelegate : public QStyledItemDelegate {
+// Knows the size of an item whose text it has met before: a layout asks for the size of every item, each sort
+// and filter lays all rows out again, and many files have the same tags. Items are sized without composing
+// their canvases, which cost more than all the rest of a row. For items that have no font, alignment or check
+// box to themselves.
+class SizeRememberingDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
@@ -18,7 +19,7 @@ public:
 private:
     // All that the size of an item depends on besides its text.
     struct Shape {
-        QSize canvas;
+        QSize canvas; // of the decoration; invalid without one
         QSize room;
         QFont font;
         QStyleOptionViewItem::ViewItemFeatures features;
