@@ -16,7 +16,7 @@ QSize SizeRememberingDelegate::sizeHint(const QStyleOptionViewItem& option, cons
     const QVariant canvasSize = index.data(RoleCanvasSize);
     const QString text = displayText(index.data(Qt::DisplayRole), option.locale);
     if (text.isEmpty())
-        return QStyledItemDelegate::sizeHint(option, index);
+        return ShortTextDelegate::sizeHint(option, index);
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     const Shape shape{canvasSize.isValid() ? canvasSize.toSize() : QSize(),
                       option.rect.size(),

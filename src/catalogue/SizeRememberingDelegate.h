@@ -1,18 +1,19 @@
 #pragma once
 
+#include "catalogue/ShortTextDelegate.h"
+
 #include <QFont>
 #include <QHash>
-#include <QStyledItemDelegate>
 
 // Knows the size of an item whose text it has met before: a layout asks for the size of every item, each sort
 // and filter lays all rows out again, and many files have the same tags. Items are sized without composing
 // their canvases, which cost more than all the rest of a row. For items that have no font, alignment or check
 // box to themselves.
-class SizeRememberingDelegate : public QStyledItemDelegate {
+class SizeRememberingDelegate : public ShortTextDelegate {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using ShortTextDelegate::ShortTextDelegate;
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

@@ -3,7 +3,6 @@
 #include "app/services/LongLines.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
-#include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
@@ -46,7 +45,6 @@ void setUpTagList(QListWidget* list) {
     list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     list->setContextMenuPolicy(Qt::CustomContextMenu);
-    list->setItemDelegate(new ShortTextDelegate(list));
 }
 
 void showTags(QListWidget* list, const QStringList& tags) {
