@@ -199,6 +199,11 @@ void TestProfileStream::badBytesGiveTheirStatus_data() {
           QDataStream::ReadCorruptData);
     const QByteArray effects =
         "00010000 00 00000032" + QByteArray(QMetaType::fromType<EffectList>().name()).toHex() + "00";
+    const QByteArray list = "00000009 00 00000001 ";
+    value("a value as deep as may be", list.repeated(31) + "00000002 00 00000007", QDataStream::Ok);
+    value("a value too deep", list.repeated(32) + "00000002 00 00000007", QDataStream::ReadCorruptData);
+    value("effects as deep as may be", list.repeated(31) + effects + "00000000", QDataStream::Ok);
+    value("effects too deep", list.repeated(32) + effects + "00000000", QDataStream::ReadCorruptData);
     value("a huge effect list", effects + "7fffffff", QDataStream::ReadPastEnd);
     value("huge effect options", effects + "00000001 ffffffff 7fffffff", QDataStream::ReadPastEnd);
     value("an empty effect list", effects + "00000000", QDataStream::Ok);

@@ -55,6 +55,7 @@ void VideoStepsTest::keys() {
     QCOMPARE(speedModifierOfKey(Qt::Key_N), std::nullopt);
     QCOMPARE(positionOfKey(Qt::Key_0, 999), 0);
     QCOMPARE(positionOfKey(Qt::Key_5, 999), 495);
+    QCOMPARE(positionOfKey(Qt::Key_9, 999), 891);
     QCOMPARE(positionOfKey(Qt::Key_Z, 999), std::nullopt);
 }
 
