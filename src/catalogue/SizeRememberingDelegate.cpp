@@ -27,7 +27,8 @@ QSize SizeRememberingDelegate::sizeHint(const QStyleOptionViewItem& option, cons
                       option.displayAlignment,
                       option.textElideMode,
                       option.direction,
-                      style};
+                      style,
+                      style->metaObject()};
     if (shape != _shape || _sizes.size() >= maxRememberedTexts) {
         _sizes.clear();
         _shape = shape;

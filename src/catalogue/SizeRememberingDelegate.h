@@ -30,6 +30,7 @@ private:
         Qt::TextElideMode elideMode = Qt::ElideNone;
         Qt::LayoutDirection direction = Qt::LeftToRight;
         const QStyle* style = nullptr;
+        const QMetaObject* styleClass = nullptr; // another style may come to the same address
 
         bool operator==(const Shape&) const = default;
     };
