@@ -7,7 +7,7 @@
 // What a media player is given for a path or URL: the text itself as a URL where that means the file,
 // otherwise a URL of the local file, so that '#', '%' and '?' in its name stay part of the name.
 [[nodiscard]] inline QUrl mediaUrl(const QString& pathOrUrl) {
-    const QUrl url(pathOrUrl);
+    QUrl url(pathOrUrl);
     const bool meansThePath = url.scheme().isEmpty() && url.path() == pathOrUrl;
     if (meansThePath || !QFile::exists(pathOrUrl))
         return url;

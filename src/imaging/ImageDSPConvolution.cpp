@@ -124,9 +124,9 @@ Channels convolvePixel(const QImage& source, const FixedKernel& kernel, int x, i
     std::array<quint32, 4> sums{};
     for (int j = std::max(0, -top); j < lastRow; ++j) {
         const uchar* const row = bits + (top + j) * source.bytesPerLine();
+        const auto* const weights = kernel.weights.data() + qsizetype{j} * kernel.width;
         for (int i = std::max(0, -left); i < lastTap; ++i) {
-            const auto weight =
-                static_cast<quint32>(kernel.weights[static_cast<size_t>(j * kernel.width + i)]);
+            const auto weight = static_cast<quint32>(weights[i]);
             for (size_t c = 0; c < sums.size(); ++c)
                 sums[c] += row[qsizetype{4} * (left + i) + static_cast<qsizetype>(c)] * weight;
         }
@@ -155,11 +155,8 @@ struct ConvolutionArea {
 
 ConvolutionArea convolutionArea(const QRectF& region, const QPointF& position, const QRect& destination,
                                 int kernelWidth, int kernelHeight) {
-    const auto grown = [kernelWidth, kernelHeight](const QRectF& rect) {
-        return rect
-            .adjusted(-(kernelWidth / 2), -(kernelHeight / 2), (kernelWidth - 1) / 2, (kernelHeight - 1) / 2)
-            .toAlignedRect();
-    };
+    const QMargins reach(kernelWidth / 2, kernelHeight / 2, (kernelWidth - 1) / 2, (kernelHeight - 1) / 2);
+    const auto grown = [&reach](const QRectF& rect) { return rect.marginsAdded(reach).toAlignedRect(); };
     const QRect moved = grown(QRectF(position, region.size()));
     const QRect target = moved & destination;
     return {target, grown(region).topLeft() + (target.topLeft() - moved.topLeft())};

@@ -51,7 +51,7 @@ ModelsReply readModelsReply(const QByteArray& data) {
     const OllamaJson json = parseOllamaJson(data);
     ModelsReply reply{.models = {}, .parseError = json.parseError};
     const QJsonArray models = json.object.value("models"_L1).toArray();
-    for (const QJsonValue& model : models)
+    for (const auto& model : models)
         reply.models.append(model.toObject().value("model"_L1).toString());
     return reply;
 }
