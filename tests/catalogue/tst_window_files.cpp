@@ -56,14 +56,20 @@ private slots:
             folder.addImage(QString("steady%1.png").arg(number), {40, 30});
         WindowDriver driver(folder.path());
         driver.window().setImageTags(folder.filePath("steady3.png"), {"mine"});
-        // Another process creates, renames, rewrites and deletes as fast as it can.
+        // Another process creates, renames, rewrites and deletes as fast as it can, and a minute long on
+        // request.
+        const int seconds = qEnvironmentVariableIsSet("TESSARINE_THOROUGH") ? 60 : 0;
         QProcess storm;
         storm.setWorkingDirectory(folder.path());
-        storm.start("/bin/sh", {"-c", "for i in $(seq 1 400); do cp seed.png new$i.png; "
-                                      "[ $((i % 3)) = 0 ] && mv new$i.png moved$i.png; "
-                                      "[ $((i % 5)) = 0 ] && rm -f new$i.png moved$i.png; "
-                                      "[ $((i % 7)) = 0 ] && cp seed.png steady1.png; done; exit 0"});
-        QTRY_COMPARE_WITH_TIMEOUT(storm.state(), QProcess::NotRunning, 60000);
+        storm.start("/bin/sh", {"-c",
+                                "i=0; end=$(($(date +%s) + $1)); "
+                                "while [ $i -lt 400 ] || [ $(date +%s) -lt $end ]; do i=$((i + 1)); "
+                                "[ $i -lt 400 ] || sleep 0.02; cp seed.png new$i.png; "
+                                "[ $((i % 3)) = 0 ] && mv new$i.png moved$i.png; "
+                                "[ $((i % 5)) = 0 ] && rm -f new$i.png moved$i.png; "
+                                "[ $((i % 7)) = 0 ] && cp seed.png steady1.png; done; exit 0",
+                                "storm", QString::number(seconds)});
+        QTRY_COMPARE_WITH_TIMEOUT(storm.state(), QProcess::NotRunning, 150000);
         const auto onDisk = [&] { return QDir(folder.path()).entryList({"*.png"}, QDir::Files, QDir::Name); };
         const auto listed = [&] {
             QStringList names = driver.catalogueNames();
