@@ -12,7 +12,7 @@ void MainWindow::onImagesCustomContextMenu() {
     const QStringList files = selectedFilePaths();
     if (files.isEmpty())
         return;
-    const QString firstFile = files.first();
+    const QString& firstFile = files.first();
     QMenu menu;
     const QList<QAction*> windowActions = actions();
     for (QAction* action : windowActions) {

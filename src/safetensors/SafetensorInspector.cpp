@@ -18,7 +18,7 @@ QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fil
     std::string err;
     const bool isRead = readSafetensorsHeader(fileName.toStdString(), data, dataSize, warn, err);
     if (!warn.empty()) {
-        std::cout << "WARN: " << warn << std::endl;
+        std::cout << "WARN: " << warn << '\n' << std::flush;
         _messages += "Warning:"_L1 + QString::fromStdString(warn) + '\n'_L1;
     }
     if (!isRead) {

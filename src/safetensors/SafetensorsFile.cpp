@@ -1,13 +1,13 @@
 #include "safetensors/SafetensorsFileHeader.h"
 
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <limits>
 #include <new>
 
 #ifdef _WIN32
 #define NOMINMAX
-#include <filesystem>
 #include <windows.h>
 #endif
 
@@ -25,7 +25,7 @@ std::filesystem::path nativeModelPath(const std::string& path) {
     return wide;
 }
 #else
-const std::string& nativeModelPath(const std::string& path) {
+std::filesystem::path nativeModelPath(const std::string& path) {
     return path;
 }
 #endif
