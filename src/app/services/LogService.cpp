@@ -20,8 +20,9 @@ QString logLevelName(int level) {
         return u"Default"_s;
     case LogService::Verbose:
         return u"Verbose"_s;
+    default:
+        return u"Unknown log level"_s;
     }
-    return u"Unknown log level"_s;
 }
 
 } // namespace
