@@ -56,7 +56,7 @@ void ImageLoaderThreaded::processQueue() {
             finishLoad();
         return;
     }
-    const QString headSuffix = queueSuffix(_queue.first());
+    const QString headSuffix = queueSuffix(_queue.constFirst());
     if (_videoFormats.contains(headSuffix)) {
         dispatchVideos();
     } else if (_imageFormats.contains(headSuffix)) {

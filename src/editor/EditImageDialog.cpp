@@ -124,7 +124,7 @@ void EditImageDialog::initControlConnections() {
 
 void EditImageDialog::initViewConnections() {
     EditImageWidget* view = _ui->imgWidget;
-    const auto follow = [this, view](auto signal, QToolButton* button) {
+    const auto follow = [view](auto signal, QToolButton* button) {
         connect(view, signal, button, [button](bool on) {
             const QSignalBlocker blocker(button);
             button->setChecked(on);
