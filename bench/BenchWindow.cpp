@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTabWidget>
 
 #ifdef __GLIBC__
@@ -112,4 +113,14 @@ void BenchWindow::waitForPreviews() {
 void BenchWindow::stopPreviews() {
     if (auto* loader = _window->findChild<ImageLoaderThreaded*>())
         loader->stop();
+}
+
+void BenchWindow::lookLikeTagList(QListWidget& bound) const {
+    const auto* list = find<QListWidget>("lwAllImagesTags");
+    bound.setViewMode(list->viewMode());
+    bound.setMovement(list->movement());
+    bound.setResizeMode(list->resizeMode());
+    bound.setSpacing(list->spacing());
+    bound.resize(list->size());
+    bound.show();
 }

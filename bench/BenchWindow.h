@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class QListWidget;
+
 // Files of a made-up catalogue: small pictures with a text chunk and 30 tags each.
 namespace catalogue {
 
@@ -46,6 +48,9 @@ public:
     // Waits for the end of the preview load.
     void waitForPreviews();
     void stopPreviews();
+
+    // Shows a list of the size and the layout of that of all tags.
+    void lookLikeTagList(QListWidget& bound) const;
 
 private:
     QTemporaryDir _directory;

@@ -73,7 +73,10 @@ void requireEqualFiles(const QString& ours, const QString& bound) {
 
 class Bench {
 public:
-    Bench(int photos, QSize size) : _bench(0), _photos(photos) {
+    Bench(int photos, QSize size)
+        : _bench(0)
+        , _photos(
+              QString("%1 photos of %2 megapixels").arg(photos).arg(size.width() * size.height() / 1000000)) {
         for (int number = 0; number < photos; ++number)
             makePhoto(number, size).save(_bench.path() + QString("/photo%1.jpg").arg(number), nullptr, 92);
         _bench.openPath(_bench.path());
@@ -90,7 +93,7 @@ public:
         _bench.find<QSlider>("hSResizeImgWriteQuality")->setValue(quality);
         auto* button = _bench.find<QPushButton>("pBProcessResize");
         measure(
-            "resize of %1 photos", [&] { button->click(); },
+            "resize of %1", [&] { button->click(); },
             [](const QImage& image) {
                 return image.scaled(resizedTo, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             });
@@ -111,7 +114,7 @@ public:
         _bench.find<QSlider>("hSDspWriteQuality")->setValue(quality);
         auto* button = _bench.find<QPushButton>("pBDspApply");
         measure(
-            "six effects on %1 photos", [&] { button->click(); },
+            "six effects on %1", [&] { button->click(); },
             [](const QImage& image) {
                 QImage work = reference::mapped(image, [](int c) { return c + 20; });
                 work = reference::mapped(work, [](int c) { return static_cast<int>(c * (10.0 / 11) + 1); });
@@ -136,7 +139,7 @@ private:
 
     BenchWindow _bench;
     QTemporaryDir _output;
-    int _photos;
+    QString _photos; // what they are, in words
 };
 
 } // namespace
@@ -145,10 +148,11 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
     silenceLog();
-    Bench bench(6, {4000, 3000});
-    std::printf("Photographs of 12 megapixels.\n\n");
     Ratio::header();
-    bench.resize();
-    bench.effects();
+    for (const auto& [photos, size] : {std::pair(6, QSize(4000, 3000)), std::pair(2, QSize(6000, 4000))}) {
+        Bench bench(photos, size);
+        bench.resize();
+        bench.effects();
+    }
     return 0;
 }

@@ -1,28 +1,20 @@
-// Processor time of the image view: pan steps of a 24 megapixel picture, and stepping to the next photograph.
+// The image view: pan steps of a picture of 24 megapixels, and stepping to the next photograph.
 
+#include "Ratio.h"
 #include "editor/EditImageWidget.h"
+#include "reference/PlainView.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QCursor>
 #include <QImageReader>
-#include <QLoggingCategory>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
-#include <algorithm>
-#include <cstdio>
-#include <ctime>
-#include <vector>
-
 namespace {
 
-double processorMs() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
+constexpr QPoint panStep(-5, -3); // in pixels of the view
+constexpr int panSteps = 30;
 
 QImage photograph(int width, int height, QImage::Format format) {
     QImage image(width, height, format);
@@ -40,8 +32,11 @@ void sendMouse(QWidget& view, QEvent::Type type, QPointF position) {
     QApplication::sendEvent(&view, &event);
 }
 
-// Zooms by the wheel from 1 to about the wanted zoom.
-void zoomTo(EditImageWidget& view, double zoom) {
+// Zooms by the wheel from 1 to about the wanted zoom, and tells the one that came of it.
+double zoomTo(EditImageWidget& view, double zoom) {
+    double reached = 1;
+    const auto connection = QObject::connect(&view, &EditImageWidget::zoomChanged, &view,
+                                             [&](QPointF now) { reached = now.x(); });
     view.resetZoom();
     const int notches = qRound((zoom - 1.0) * 16);
     for (int i = 0; i < std::abs(notches); ++i) {
@@ -49,65 +44,81 @@ void zoomTo(EditImageWidget& view, double zoom) {
         QWheelEvent event({}, {}, {}, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&view, &event);
     }
+    QObject::disconnect(connection);
+    return reached;
 }
 
-double panStepMs(EditImageWidget& view, QImage& screen) {
-    constexpr int kSteps = 30;
-    sendMouse(view, QEvent::MouseButtonPress, {800, 500});
-    const double start = processorMs();
-    for (int i = 1; i <= kSteps; ++i) {
-        sendMouse(view, QEvent::MouseMove, QPointF(800 - i * 5, 500 - i * 3));
+void pan(EditImageWidget& view, QImage& screen) {
+    QPoint mouse(800, 500);
+    sendMouse(view, QEvent::MouseButtonPress, mouse);
+    for (int step = 0; step < panSteps; ++step) {
+        mouse += panStep;
+        sendMouse(view, QEvent::MouseMove, mouse);
         view.render(&screen);
     }
-    const double spent = processorMs() - start;
-    sendMouse(view, QEvent::MouseButtonRelease, {650, 410});
-    return spent / kSteps;
+    sendMouse(view, QEvent::MouseButtonRelease, mouse);
 }
 
-void measurePanning(const char* name, const QImage& picture, EditImageWidget::Tool tool) {
+void panning(const QString& what, const QImage& picture) {
     EditImageWidget view;
     view.resize(1600, 1000);
     view.setImage(picture, {});
-    view.setTool(tool);
-    view.onCutRectSet({100, 100, 5000, 3500});
+    view.setTool(EditImageWidget::ToolPan);
+    reference::PlainView bound(QPixmap::fromImage(picture));
+    bound.resize(view.size());
     QImage screen(view.size(), QImage::Format_ARGB32_Premultiplied);
+    QImage boundScreen = screen;
     for (const double zoom : {0.1, 0.25, 0.5, 1.0, 2.0, 5.0}) {
-        zoomTo(view, zoom);
-        std::printf("pan step, %s, zoom %.2f: %6.2f ms\n", name, zoom, panStepMs(view, screen));
+        const auto prepare = [&] { bound.zoomTo(zoomTo(view, zoom)); };
+        const auto ours = [&] { pan(view, screen); };
+        const auto other = [&] {
+            for (int step = 0; step < panSteps; ++step) {
+                bound.moveBy(panStep);
+                bound.render(&boundScreen);
+            }
+        };
+        Ratio::report(QString("%1 pan steps, %2, zoom %3").arg(panSteps).arg(what).arg(zoom), ours, other,
+                      prepare);
+        prepare();
+        ours();
+        other();
+        if (screen != boundScreen)
+            qFatal("different pictures");
     }
 }
 
-void measureStepping() {
+void stepping() {
     const QTemporaryDir directory;
     const QImage photo = photograph(4000, 3000, QImage::Format_RGB32);
-    std::vector<double> ratios;
     EditImageWidget view;
     view.setAutoFit(true);
-    for (int i = 0; i < 9; ++i) {
-        const QString path = directory.filePath(QStringLiteral("%1.jpg").arg(i));
-        photo.save(path, "jpg", 90);
-        QElapsedTimer timer;
-        timer.start();
-        const QImage decoded = QImageReader(path).read();
-        const qint64 decode = timer.nsecsElapsed();
-        timer.restart();
-        view.setImageFilePath(path);
-        ratios.push_back(static_cast<double>(timer.nsecsElapsed()) / static_cast<double>(decode));
-    }
-    std::ranges::sort(ratios);
-    std::printf("step to a 12 megapixel JPEG: %.2f of its decode\n", ratios[ratios.size() / 2]);
+    QString path;
+    int number = 0;
+    Ratio::report(
+        "step to a photograph of 12 megapixels", [&] { view.setImageFilePath(path); },
+        [&] {
+            if (QImageReader(path).read().isNull())
+                qFatal("no photograph");
+        },
+        [&] {
+            // Each side of a run gets the same file.
+            path = directory.filePath(QString("%1.jpg").arg(number++ / 2));
+            photo.save(path, "jpg", 90);
+        });
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    silenceLog();
+    QCursor::setPos(0, 0); // the view zooms around the cursor
     const QImage opaque = photograph(6000, 4000, QImage::Format_RGB32);
-    measurePanning("opaque", opaque, EditImageWidget::ToolPan);
-    measurePanning("opaque with cut rectangle", opaque, EditImageWidget::ToolCut);
     QImage translucent = opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     translucent.setPixel(0, 0, 0);
-    measurePanning("translucent", translucent, EditImageWidget::ToolPan);
-    measureStepping();
+    Ratio::header();
+    panning("opaque", opaque);
+    panning("translucent", translucent);
+    stepping();
+    return 0;
 }

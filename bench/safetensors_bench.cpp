@@ -1,3 +1,6 @@
+// Headers of model files against nlohmann-json, which parses them to a tree only.
+
+#include "Ratio.h"
 #include "safetensors/JsonParser.h"
 #include "safetensors/SafetensorsFile.h"
 
@@ -69,29 +72,6 @@ void jsonTree(benchmark::State& state) {
 // The last size is just below the limit of 100 MiB: time per byte is to stay.
 BENCHMARK(jsonTree)->Arg(5000)->Arg(50000)->Arg(600000)->Unit(benchmark::kMillisecond);
 
-void modelHeaderWhole(benchmark::State& state) {
-    const std::string text = modelHeader(static_cast<std::size_t>(state.range(0)));
-    const std::vector<std::uint8_t> bytes = fileStart(text);
-    for (auto _ : state) {
-        SafetensorsData data;
-        std::string warn;
-        std::string err;
-        if (!parseSafetensorsHeader(bytes.data(), bytes.size(), data, warn, err))
-            state.SkipWithError(err.c_str());
-        benchmark::DoNotOptimize(data);
-    }
-    setBytes(state, text);
-}
-BENCHMARK(modelHeaderWhole)->Arg(5000)->Arg(50000)->Arg(600000)->Unit(benchmark::kMillisecond);
-
-void nlohmannTree(benchmark::State& state) {
-    const std::string text = modelHeader(static_cast<std::size_t>(state.range(0)));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(nlohmann::json::parse(text));
-    setBytes(state, text);
-}
-BENCHMARK(nlohmannTree)->Arg(5000)->Arg(50000)->Arg(600000)->Unit(benchmark::kMillisecond);
-
 void sparseFileOf100GB(benchmark::State& state) {
     const auto path = std::filesystem::temp_directory_path() / "tessarine_sparse_bench.safetensors";
     const std::vector<std::uint8_t> start = fileStart(modelHeader(5000));
@@ -112,4 +92,44 @@ void sparseFileOf100GB(benchmark::State& state) {
 }
 BENCHMARK(sparseFileOf100GB)->Unit(benchmark::kMillisecond);
 
+void requireEqual(const SafetensorsData& ours, const nlohmann::json& other) {
+    if (ours.tensors.size() + 1 != other.size())
+        qFatal("different tensors");
+    for (std::size_t i = 0; i < ours.tensors.size(); ++i) {
+        const TensorInfo& tensor = *ours.tensors.at(i);
+        const nlohmann::json& entry = other.at(ours.tensors.keys()[i]);
+        if (tensor.dtype != DType::Float16 || entry.at("dtype") != "F16" ||
+            entry.at("shape") != nlohmann::json(tensor.shape) ||
+            entry.at("data_offsets") != nlohmann::json{tensor.dataOffsets.begin, tensor.dataOffsets.end})
+            qFatal("different tensors");
+    }
+}
+
+void header(std::size_t tensors) {
+    const std::string text = modelHeader(tensors);
+    const std::vector<std::uint8_t> bytes = fileStart(text);
+    const auto ours = [&] {
+        SafetensorsData data;
+        std::string warn;
+        std::string err;
+        if (!parseSafetensorsHeader(bytes.data(), bytes.size(), data, warn, err))
+            qFatal("%s", err.c_str());
+        return data;
+    };
+    const auto bound = [&] { return nlohmann::json::parse(text); };
+    Ratio::report(
+        QString("header of %1 tensors").arg(tensors), [&] { (void)ours(); }, [&] { (void)bound(); });
+    requireEqual(ours(), bound());
+}
+
 } // namespace
+
+int main(int argc, char* argv[]) {
+    Ratio::header();
+    for (const std::size_t tensors : {5000, 50000, 600000})
+        header(tensors);
+    std::printf("\n");
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,4 +1,4 @@
-// Following the disk: stray text files, single new files and a burst of them in a directory of ten thousand.
+// Following the disk: stray text files, single new files and a burst of them in directories of growing size.
 
 #include "BenchWindow.h"
 #include "LoopGap.h"
@@ -57,7 +57,7 @@ public:
     // Both sides list, look whether each row's file is still there, and count and list all tags.
     void oneNewFile() {
         QListWidget bound;
-        copyTagList(bound);
+        _bench.lookLikeTagList(bound);
         Ratio::report(
             label("watcher, one new file"),
             [&] {
@@ -78,7 +78,7 @@ public:
     void burst() {
         std::vector<double> gaps;
         QListWidget bound;
-        copyTagList(bound);
+        _bench.lookLikeTagList(bound);
         const QTemporaryDir other;
         Ratio::report(
             label(QString("burst of %1 files").arg(burstSize)),
@@ -123,16 +123,6 @@ private:
         return _bench.window().imageTags(_bench.path() + '/' + catalogue::pictureName(number)).isEmpty();
     }
 
-    void copyTagList(QListWidget& bound) const {
-        const auto* list = _bench.find<QListWidget>("lwAllImagesTags");
-        bound.setViewMode(list->viewMode());
-        bound.setMovement(list->movement());
-        bound.setResizeMode(list->resizeMode());
-        bound.setSpacing(8);
-        bound.resize(list->size());
-        bound.show();
-    }
-
     void requireEveryFileOnce() {
         QStringList rows = _bench.window().allFilePaths();
         QStringList files = listing(_bench.path(), mediaNameFilters());
@@ -163,11 +153,17 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
     silenceLog();
-    Bench bench(argc > 1 ? QString(argv[1]).toInt() : 10000);
-    Ratio::header();
-    bench.strayTexts();
-    bench.nothingNew();
-    bench.oneNewFile();
-    bench.burst();
+    const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
+    for (const int files : {1000, 10000, 50000}) {
+        if (wanted != 0 && wanted != files)
+            continue;
+        std::printf("\n### %d files\n\n", files);
+        Bench bench(files);
+        Ratio::header();
+        bench.strayTexts();
+        bench.nothingNew();
+        bench.oneNewFile();
+        bench.burst();
+    }
     return 0;
 }

@@ -220,12 +220,7 @@ private:
     void tagPanel() {
         auto* list = _bench.find<QListWidget>("lwAllImagesTags");
         QListWidget bound;
-        bound.setViewMode(list->viewMode());
-        bound.setMovement(list->movement());
-        bound.setResizeMode(list->resizeMode());
-        bound.setSpacing(8);
-        bound.resize(list->size());
-        bound.show();
+        _bench.lookLikeTagList(bound);
         Ratio::report(
             label("tag refresh"),
             [&] { QMetaObject::invokeMethod(&_bench.window(), "refreshAllTags", Qt::DirectConnection); },
