@@ -50,6 +50,7 @@ function(tessarine_test name)
     file(CHMOD "${place}/runtime" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${place}" UNITY_BUILD OFF)
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test tessarine_options)
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${place}")
     # Image plugins ask for absurd sizes on broken files and live with a refusal, as malloc gives it.

@@ -1,28 +1,21 @@
 #include "safetensors/ModelFileNaming.h"
 #include "support/MediaFolder.h"
-
-#include <QTest>
+#include "support/Rows.h"
 
 class TestModelFileNaming : public QObject {
     Q_OBJECT
 
 private slots:
     void previews_data() {
-        QTest::addColumn<QStringList>("beside");
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<QString>("preview");
-        const auto row = [](const char* name, const QStringList& beside, const QString& model,
-                            const QString& preview) { QTest::newRow(name) << beside << model << preview; };
-        row("an image of the name", {"m.png", "other.jpg"}, "m.safetensors", "m.png");
-        row("the first suffix wins", {"m.png", "m.jpg"}, "m.safetensors", "m.jpg");
-        row("a name with both suffixes goes further", {"m.jpg", "m.jpg.png"}, "m.safetensors", "m.jpg.png");
-        row("dots stay in the base name", {"a.png", "a.b.png"}, "a.b.safetensors", "a.b.png");
-        row("no image", {"m.txt"}, "m.safetensors", "m");
+        addRows<QStringList, QString, QString>({
+            {"the first suffix wins", {"m.png", "m.jpg"}, "m.safetensors", "m.jpg"},
+            {"a name with both goes further", {"m.jpg", "m.jpg.png"}, "m.safetensors", "m.jpg.png"},
+            {"dots stay in the base name", {"a.png", "a.b.png"}, "a.b.safetensors", "a.b.png"},
+            {"no image", {"m.txt"}, "m.safetensors", "m"},
+        });
     }
     void previews() {
-        QFETCH(const QStringList, beside);
-        QFETCH(const QString, model);
-        QFETCH(const QString, preview);
+        const auto& [beside, model, preview] = row<QStringList, QString, QString>();
         const MediaFolder folder;
         for (const QString& name : beside)
             folder.addFile(name);
@@ -39,24 +32,18 @@ private slots:
     }
 
     void steps_data() {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("current");
-        QTest::addColumn<QString>("next");
-        QTest::addColumn<QString>("previous");
-        const QStringList files{"b", "a", "c"};
-        QTest::newRow("in the middle") << files << "a" << "c" << "b";
-        QTest::newRow("round the end") << files << "c" << "b" << "a";
-        QTest::newRow("round the start") << files << "b" << "a" << "c";
-        QTest::newRow("gone") << files << "x" << "b" << "c";
-        QTest::newRow("case matters") << files << "A" << "b" << "c";
-        QTest::newRow("alone") << QStringList("a") << "a" << "a" << "a";
-        QTest::newRow("none") << QStringList() << "a" << QString() << QString();
+        addRows<QStringList, QString, QString, QString>({
+            {"in the middle", {"b", "a", "c"}, "a", "c", "b"},
+            {"round the end", {"b", "a", "c"}, "c", "b", "a"},
+            {"round the start", {"b", "a", "c"}, "b", "a", "c"},
+            {"gone, as case matters", {"b", "a", "c"}, "A", "b", "c"},
+            {"none", {}, "a", {}, {}},
+        });
     }
     void steps() {
-        QFETCH(const QStringList, files);
-        QFETCH(const QString, current);
-        QTEST(steppedModelFile(files, current, true), "next");
-        QTEST(steppedModelFile(files, current, false), "previous");
+        const auto& [files, current, next, previous] = row<QStringList, QString, QString, QString>();
+        QCOMPARE(steppedModelFile(files, current, true), next);
+        QCOMPARE(steppedModelFile(files, current, false), previous);
     }
 };
 
