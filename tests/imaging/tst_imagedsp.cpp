@@ -10,32 +10,12 @@
 
 using Kernel = QList<double>;
 
-class TestImageDSP : public QObject {
-    Q_OBJECT
+namespace {
 
-private slots:
-    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
-    void everyRoutineNamesItselfInTheLog();
-    void pointRoutinesMatchTheirArithmetic_data();
-    void pointRoutinesMatchTheirArithmetic();
-    void pointRoutinesKeepWhatACopyKeeps();
-    void pointRoutinesTakePaddedRows();
-    void blurMatchesTheWalks_data();
-    void blurMatchesTheWalks();
-    void blurOfRectangles_data();
-    void blurOfRectangles();
-    void blurStepsToLetter();
-    void convolutionMatchesTheTaps_data();
-    void convolutionMatchesTheTaps();
-    void convolutionAtPositions_data();
-    void convolutionAtPositions();
-    void convolutionLeavesSharedImagesAlone();
-};
+const QList<QSize> sizes{{1, 1},  {1, 2},  {2, 1},  {1, 37},  {41, 1}, {2, 2},   {3, 3},
+                         {7, 16}, {17, 9}, {64, 8}, {33, 35}, {5, 24}, {129, 67}};
 
-static const QList<QSize> sizes{{1, 1},  {1, 2},  {2, 1},  {1, 37},  {41, 1}, {2, 2},   {3, 3},
-                                {7, 16}, {17, 9}, {64, 8}, {33, 35}, {5, 24}, {129, 67}};
-
-static QImage randomImage(QSize size, QImage::Format format, quint32 seed = 1) {
+QImage randomImage(QSize size, QImage::Format format, quint32 seed = 1) {
     QRandomGenerator random(seed);
     QImage image(size, format);
     auto* const words = reinterpret_cast<quint32*>(image.bits());
@@ -43,7 +23,7 @@ static QImage randomImage(QSize size, QImage::Format format, quint32 seed = 1) {
     return image;
 }
 
-static void addImageRows() {
+void addImageRows() {
     QTest::addColumn<QImage>("image");
     for (const QSize& size : sizes) {
         for (const auto format :
@@ -54,7 +34,7 @@ static void addImageRows() {
 }
 
 // Words, not colours: a comparison of QImage would pass over the alpha of RGB32.
-static bool sameWords(const QImage& a, const QImage& b) {
+bool sameWords(const QImage& a, const QImage& b) {
     if (a.size() != b.size() || a.format() != b.format())
         return false;
     for (int y = 0; y < a.height(); ++y) {
@@ -64,7 +44,7 @@ static bool sameWords(const QImage& a, const QImage& b) {
     return true;
 }
 
-static QImage mapped(const QImage& image, const std::function<int(int)>& channel) {
+QImage mapped(const QImage& image, const std::function<int(int)>& channel) {
     QImage result = image.copy();
     for (int y = 0; y < image.height(); ++y) {
         auto* const row = reinterpret_cast<QRgb*>(result.scanLine(y));
@@ -74,89 +54,13 @@ static QImage mapped(const QImage& image, const std::function<int(int)>& channel
     return result;
 }
 
-static int bright(int c, double factor, int offset) {
-    double x = c * factor + offset;
-    if (x > 255.0)
-        x = 255.0;
-    return std::max(0, int(x));
-}
-
-void TestImageDSP::everyRoutineNamesItselfInTheLog() {
-    QLoggingCategory::setFilterRules({});
-    const QImage image = randomImage({2, 2}, QImage::Format_RGB32);
-    for (const char* name : {"brightness", "whitePointed", "blackPointed", "blurred", "convolute"})
-        QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("ImageDSP::%1").arg(name)));
-    QCOMPARE(ImageDSP::brightness(image, 1, 0).format(), QImage::Format_RGB32);
-    QCOMPARE(ImageDSP::whitePointed(image, 255).format(), QImage::Format_RGB32);
-    QCOMPARE(ImageDSP::blackPointed(image, 0).format(), QImage::Format_RGB32);
-    QCOMPARE(ImageDSP::blurred(image, {}, 1, false).format(), QImage::Format_ARGB32_Premultiplied);
-    QImage destination = image;
-    ImageDSP::convolute(destination, {}, image, {}, QPainter::CompositionMode_Source, Kernel{1.0}, 1, 1);
-    QLoggingCategory::setFilterRules("default.debug=false");
-}
-
-void TestImageDSP::pointRoutinesMatchTheirArithmetic_data() {
-    addImageRows();
-    QImage all(256, 256, QImage::Format_ARGB32);
-    for (int y = 0; y < 256; ++y)
-        for (int x = 0; x < 256; ++x)
-            all.setPixel(x, y, qRgba(x, y, 255 - x, y));
-    QTest::newRow("every channel value and alpha") << all;
-}
-
-void TestImageDSP::pointRoutinesMatchTheirArithmetic() {
-    QFETCH(QImage, image);
-    QThreadPool* const pool = QThreadPool::globalInstance();
-    const int before = pool->maxThreadCount();
-    for (const int threads : {1, 2, 16}) {
-        pool->setMaxThreadCount(threads);
-        for (const double factor : {1.0, 0.5, 10.0 / 11, 10.0 / 30, 0.0, -0.9, 2.7, 1e300, -1e300}) {
-            for (const int offset : {0, 1, -1, 10, -10, 255, -255, 300, -300, 70000, -70000})
-                QVERIFY2(sameWords(ImageDSP::brightness(image, factor, offset),
-                                   mapped(image,
-                                          [&](int c) {
-                                              return factor < -1e9 ? (c ? 0 : std::clamp(offset, 0, 255))
-                                                                   : bright(c, factor, offset);
-                                          })),
-                         qPrintable(QString("factor %1 offset %2").arg(factor).arg(offset)));
-        }
-        for (const int point : {-70000, -1, 0, 1, 40, 127, 128, 200, 254, 255, 256, 70000}) {
-            QVERIFY(sameWords(ImageDSP::whitePointed(image, point),
-                              mapped(image, [=](int c) { return c > point ? 255 : c; })));
-            QVERIFY(sameWords(ImageDSP::blackPointed(image, point),
-                              mapped(image, [=](int c) { return c < point ? 0 : c; })));
-        }
-    }
-    pool->setMaxThreadCount(before);
-}
-
-void TestImageDSP::pointRoutinesKeepWhatACopyKeeps() {
-    QImage image = randomImage({4, 3}, QImage::Format_RGB32);
-    image.setDotsPerMeterX(3000);
-    image.setDevicePixelRatio(2.0);
-    image.setText("Title", "A lake");
-    image.setColorSpace(QColorSpace::AdobeRgb);
-    image.setOffset({3, 4});
-    const QImage before = image.copy();
-    const QImage result = ImageDSP::whitePointed(image, 100);
-    QCOMPARE(result.dotsPerMeterX(), 3000);
-    QCOMPARE(result.devicePixelRatio(), 2.0);
-    QCOMPARE(result.text("Title"), QString("A lake"));
-    QCOMPARE(result.colorSpace(), QColorSpace(QColorSpace::AdobeRgb));
-    QCOMPARE(result.offset(), QPoint(3, 4));
-    QVERIFY(sameWords(image, before));
-}
-
-void TestImageDSP::pointRoutinesTakePaddedRows() {
-    QImage wide = randomImage({16, 5}, QImage::Format_ARGB32);
-    const QImage padded(wide.constBits(), 9, 5, wide.bytesPerLine(), QImage::Format_ARGB32);
-    const auto shifted = [](int c) { return bright(c, 1.0, 20); };
-    QVERIFY(sameWords(ImageDSP::brightness(padded, 1.0, 20), mapped(padded, shifted)));
+int bright(int c, double factor, int offset) {
+    return int(std::clamp(c * factor + offset, 0.0, 255.0));
 }
 
 // --- blur ----------------------------------------------------------------------------------------
 
-static void walk(QImage& image, QPoint at, QPoint step, QPoint last, int alpha, int firstByte) {
+void walk(QImage& image, QPoint at, QPoint step, QPoint last, int alpha, int firstByte) {
     const auto value = [&](int byte) -> uchar& { return image.scanLine(at.y())[4 * at.x() + byte]; };
     int state[4] = {};
     for (int byte = firstByte; byte < 4; ++byte)
@@ -173,7 +77,7 @@ static void walk(QImage& image, QPoint at, QPoint step, QPoint last, int alpha, 
     }
 }
 
-static QImage slowBlur(const QImage& image, const QRect& r, int radius, bool alphaOnly) {
+QImage slowBlur(const QImage& image, const QRect& r, int radius, bool alphaOnly) {
     static const int table[] = {14, 10, 8, 6, 5, 5, 4, 3, 3, 3, 3, 2, 2, 2, 2, 2, 2};
     const int alpha = radius < 1 ? 16 : radius > 17 ? 1 : table[radius - 1];
     const int first = alphaOnly ? 3 : 0;
@@ -189,51 +93,6 @@ static QImage slowBlur(const QImage& image, const QRect& r, int radius, bool alp
     return result;
 }
 
-void TestImageDSP::blurMatchesTheWalks_data() {
-    addImageRows();
-}
-
-void TestImageDSP::blurMatchesTheWalks() {
-    QFETCH(QImage, image);
-    const QImage before = image.copy();
-    for (int radius = -1; radius <= 20; ++radius) {
-        for (const bool alphaOnly : {false, true})
-            QVERIFY2(sameWords(ImageDSP::blurred(image, image.rect(), radius, alphaOnly),
-                               slowBlur(image, image.rect(), radius, alphaOnly)),
-                     qPrintable(QString("radius %1 alpha only %2").arg(radius).arg(alphaOnly)));
-    }
-    QVERIFY(sameWords(image, before));
-}
-
-void TestImageDSP::blurOfRectangles_data() {
-    QTest::addColumn<QRect>("rect");
-    QTest::newRow("inside") << QRect(3, 2, 11, 17);
-    QTest::newRow("one row") << QRect(3, 2, 11, 1);
-    QTest::newRow("one column") << QRect(3, 2, 1, 11);
-    QTest::newRow("one pixel") << QRect(3, 2, 1, 1);
-    QTest::newRow("the last pixels") << QRect(20, 25, 13, 10);
-}
-
-void TestImageDSP::blurOfRectangles() {
-    QFETCH(QRect, rect);
-    const QImage image = randomImage({33, 35}, QImage::Format_ARGB32_Premultiplied);
-    QVERIFY(sameWords(ImageDSP::blurred(image, rect, 4, false), slowBlur(image, rect, 4, false)));
-    QVERIFY(sameWords(ImageDSP::blurred(image, rect, 4, true), slowBlur(image, rect, 4, true)));
-    const QRect reaching = rect.translated(20, 20);
-    QVERIFY(sameWords(ImageDSP::blurred(image, reaching, 4, false),
-                      slowBlur(image, reaching & image.rect(), 4, false)));
-}
-
-void TestImageDSP::blurStepsToLetter() {
-    QImage image(1, 2, QImage::Format_RGB32);
-    image.setPixel(0, 0, qRgb(100, 200, 0));
-    image.setPixel(0, 1, qRgb(200, 100, 0));
-    // Down: 100 meets 200 and gives 187, 200 meets 100 and gives 112; up again the upper pixels follow.
-    const QImage result = ImageDSP::blurred(image, image.rect(), 1, false);
-    QCOMPARE(result.pixel(0, 1), qRgb(187, 112, 0));
-    QCOMPARE(result.pixel(0, 0), qRgb(110, 189, 0));
-}
-
 // --- convolution ---------------------------------------------------------------------------------
 
 struct ConvolutionCall {
@@ -245,7 +104,7 @@ struct ConvolutionCall {
     QPainter::CompositionMode mode = QPainter::CompositionMode_Source;
 };
 
-static QRgb convolvedWord(const QImage& process, const ConvolutionCall& call, QPoint at, QRgb under) {
+QRgb convolvedWord(const QImage& process, const ConvolutionCall& call, QPoint at, QRgb under) {
     int channels[4];
     for (int byte = 0; byte < 4; ++byte) {
         qint64 sum = 0;
@@ -269,7 +128,7 @@ static QRgb convolvedWord(const QImage& process, const ConvolutionCall& call, QP
     return word;
 }
 
-static QImage slowConvolution(const QImage& destination, const QImage& source, const ConvolutionCall& call) {
+QImage slowConvolution(const QImage& destination, const QImage& source, const ConvolutionCall& call) {
     const QImage process = source.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QRectF region = call.sourceRect.isNull() ? QRectF(process.rect()) : call.sourceRect;
     const auto grown = [&](QRectF rect) {
@@ -291,13 +150,13 @@ static QImage slowConvolution(const QImage& destination, const QImage& source, c
     return result;
 }
 
-static QImage convolution(QImage destination, const QImage& source, const ConvolutionCall& call) {
+QImage convolution(QImage destination, const QImage& source, const ConvolutionCall& call) {
     ImageDSP::convolute(destination, call.position, source, call.sourceRect, call.mode, call.kernel,
                         call.width, call.height);
     return destination;
 }
 
-static Kernel randomKernel(int entries, double reach) {
+Kernel randomKernel(int entries, double reach) {
     QRandomGenerator random(99);
     Kernel kernel;
     for (int i = 0; i < entries; ++i)
@@ -305,71 +164,154 @@ static Kernel randomKernel(int entries, double reach) {
     return kernel;
 }
 
-void TestImageDSP::convolutionMatchesTheTaps_data() {
-    addImageRows();
-}
+} // namespace
 
-void TestImageDSP::convolutionMatchesTheTaps() {
-    QFETCH(QImage, image);
-    const ConvolutionCall calls[] = {
-        {{}, {}, {-1, -1, -1, -1, 9, -1, -1, -1, -1}},
-        {{}, {}, {0, 0, 0, 0, 1, 0, 0, 0, 0}},
-        {{}, {}, Kernel(9, 0.0)},
-        {{}, {}, Kernel(9, 1.0 / 9)},
-        {{}, {}, {0, 0.1, 0, 0.2, 0.3, 0.1, 0, 0.2, 0}},
-        {{}, {}, randomKernel(9, 2)},
-        {{}, {}, randomKernel(9, 30000)},
-        {{}, {}, {32767.75, 0, 0, 0, 0, 0, 0, 0, -32768}},
-        {{}, {}, {1.5}, 1, 1},
-        {{}, {}, randomKernel(4, 1), 2, 2},
-        {{}, {}, randomKernel(20, 0.4), 4, 5},
-        {{}, {}, randomKernel(7, 0.4), 7, 1},
-        {{}, {}, randomKernel(9, 0.5), 3, 3, QPainter::CompositionMode_SourceOver},
-    };
-    for (const ConvolutionCall& call : calls) {
-        const QImage result = convolution(image, image, call);
-        QVERIFY2(
-            sameWords(result, slowConvolution(image, image, call)),
-            qPrintable(
-                QString("kernel %1 by %2 from %3").arg(call.width).arg(call.height).arg(call.kernel[0])));
+// Each routine against the plain arithmetic, over images of all shapes.
+class TestImageDSP : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
+
+    void everyRoutineNamesItselfInTheLog() {
+        QLoggingCategory::setFilterRules({});
+        const QImage image = randomImage({2, 2}, QImage::Format_RGB32);
+        for (const char* name : {"brightness", "whitePointed", "blackPointed", "blurred", "convolute"})
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("ImageDSP::%1").arg(name)));
+        QCOMPARE(ImageDSP::brightness(image, 1, 0).format(), QImage::Format_RGB32);
+        QCOMPARE(ImageDSP::whitePointed(image, 255).format(), QImage::Format_RGB32);
+        QCOMPARE(ImageDSP::blackPointed(image, 0).format(), QImage::Format_RGB32);
+        QCOMPARE(ImageDSP::blurred(image, {}, 1, false).format(), QImage::Format_ARGB32_Premultiplied);
+        convolution(image, image, {{}, {}, {1.0}, 1, 1});
+        QLoggingCategory::setFilterRules("default.debug=false");
     }
-}
 
-void TestImageDSP::convolutionAtPositions_data() {
-    QTest::addColumn<QPointF>("position");
-    QTest::addColumn<QRectF>("sourceRect");
-    QTest::newRow("the whole source, moved") << QPointF(5, 3) << QRectF();
-    QTest::newRow("beyond the upper left corner") << QPointF(-6, -4) << QRectF();
-    QTest::newRow("beyond the lower right corner") << QPointF(30, 20) << QRectF();
-    QTest::newRow("a part") << QPointF(2, 2) << QRectF(4, 5, 9, 7);
-    QTest::newRow("fractions") << QPointF(2.4, 1.7) << QRectF(4.5, 5.2, 9.1, 7.9);
-    QTest::newRow("a part reaching beyond the source") << QPointF(1, 1) << QRectF(15, 10, 30, 20);
-    QTest::newRow("nowhere") << QPointF(500, 500) << QRectF();
-}
+    void pointRoutinesMatchTheirArithmetic_data() {
+        addImageRows();
+        QImage all(256, 256, QImage::Format_ARGB32);
+        for (int y = 0; y < 256; ++y)
+            for (int x = 0; x < 256; ++x)
+                all.setPixel(x, y, qRgba(x, y, 255 - x, y));
+        QTest::newRow("every channel value and alpha") << all;
+        QTest::newRow("padded rows") << QImage(all.constBits(), 9, 5, all.bytesPerLine(),
+                                               QImage::Format_ARGB32);
+    }
+    void pointRoutinesMatchTheirArithmetic() {
+        QFETCH(QImage, image);
+        QThreadPool* const pool = QThreadPool::globalInstance();
+        const int before = pool->maxThreadCount();
+        for (const int threads : {1, 2, 16}) {
+            pool->setMaxThreadCount(threads);
+            for (const double factor : {1.0, 0.5, 10.0 / 11, 10.0 / 30, 0.0, -0.9, 2.7, 1e300, -1e300}) {
+                for (const int offset : {0, 1, -1, 10, -10, 255, -255, 300, -300, 70000, -70000})
+                    QVERIFY2(sameWords(ImageDSP::brightness(image, factor, offset),
+                                       mapped(image, [&](int c) { return bright(c, factor, offset); })),
+                             qPrintable(QString("factor %1 offset %2").arg(factor).arg(offset)));
+            }
+            for (const int point : {-70000, -1, 0, 1, 40, 127, 128, 200, 254, 255, 256, 70000}) {
+                QVERIFY(sameWords(ImageDSP::whitePointed(image, point),
+                                  mapped(image, [=](int c) { return c > point ? 255 : c; })));
+                QVERIFY(sameWords(ImageDSP::blackPointed(image, point),
+                                  mapped(image, [=](int c) { return c < point ? 0 : c; })));
+            }
+        }
+        pool->setMaxThreadCount(before);
+    }
 
-void TestImageDSP::convolutionAtPositions() {
-    QFETCH(QPointF, position);
-    QFETCH(QRectF, sourceRect);
-    const QImage source = randomImage({23, 19}, QImage::Format_ARGB32);
-    const QImage destination = randomImage({37, 29}, QImage::Format_RGB32, 5);
-    for (const auto mode : {QPainter::CompositionMode_Source, QPainter::CompositionMode_SourceOver}) {
-        for (const int side : {3, 4}) {
-            const ConvolutionCall call{position, sourceRect, randomKernel(side * side, 1), side, side, mode};
-            QVERIFY(sameWords(convolution(destination, source, call),
-                              slowConvolution(destination, source, call)));
+    void pointRoutinesKeepWhatACopyKeeps() {
+        QImage image = randomImage({4, 3}, QImage::Format_RGB32);
+        image.setDevicePixelRatio(2.0);
+        image.setText("Title", "A lake");
+        image.setColorSpace(QColorSpace::AdobeRgb);
+        const QImage before = image.copy();
+        const QImage result = ImageDSP::whitePointed(image, 100);
+        QCOMPARE(result.devicePixelRatio(), 2.0);
+        QCOMPARE(result.text("Title"), QString("A lake"));
+        QCOMPARE(result.colorSpace(), QColorSpace(QColorSpace::AdobeRgb));
+        QVERIFY(sameWords(image, before));
+    }
+
+    void blurMatchesTheWalks_data() { addImageRows(); }
+    void blurMatchesTheWalks() {
+        QFETCH(QImage, image);
+        const QImage before = image.copy();
+        for (int radius = -1; radius <= 20; ++radius) {
+            for (const bool alphaOnly : {false, true})
+                QVERIFY2(sameWords(ImageDSP::blurred(image, image.rect(), radius, alphaOnly),
+                                   slowBlur(image, image.rect(), radius, alphaOnly)),
+                         qPrintable(QString("radius %1 alpha only %2").arg(radius).arg(alphaOnly)));
+        }
+        QVERIFY(sameWords(image, before));
+    }
+
+    void blurOfRectangles() {
+        const QImage image = randomImage({33, 35}, QImage::Format_ARGB32_Premultiplied);
+        for (const QRect& rect : {QRect(3, 2, 11, 17), QRect(3, 2, 11, 1), QRect(3, 2, 1, 11),
+                                  QRect(3, 2, 1, 1), QRect(20, 25, 13, 10), QRect(23, 22, 11, 17)}) {
+            for (const bool alphaOnly : {false, true})
+                QVERIFY(sameWords(ImageDSP::blurred(image, rect, 4, alphaOnly),
+                                  slowBlur(image, rect & image.rect(), 4, alphaOnly)));
         }
     }
-}
 
-void TestImageDSP::convolutionLeavesSharedImagesAlone() {
-    QImage image = randomImage({20, 20}, QImage::Format_ARGB32_Premultiplied);
-    const QImage shared = image;
-    const QImage before = image.copy();
-    const ConvolutionCall call{{}, {}, {-1, -1, -1, -1, 9, -1, -1, -1, -1}};
-    ImageDSP::convolute(image, {}, image, {}, call.mode, call.kernel, 3, 3);
-    QVERIFY(sameWords(shared, before));
-    QVERIFY(sameWords(image, slowConvolution(before, before, call)));
-}
+    void convolutionMatchesTheTaps_data() { addImageRows(); }
+    void convolutionMatchesTheTaps() {
+        QFETCH(QImage, image);
+        const ConvolutionCall calls[] = {
+            {{}, {}, {-1, -1, -1, -1, 9, -1, -1, -1, -1}},
+            {{}, {}, {0, 0, 0, 0, 1, 0, 0, 0, 0}},
+            {{}, {}, Kernel(9, 0.0)},
+            {{}, {}, Kernel(9, 1.0 / 9)},
+            {{}, {}, {0, 0.1, 0, 0.2, 0.3, 0.1, 0, 0.2, 0}},
+            {{}, {}, randomKernel(9, 2)},
+            {{}, {}, randomKernel(9, 30000)},
+            {{}, {}, {32767.75, 0, 0, 0, 0, 0, 0, 0, -32768}},
+            {{}, {}, {1.5}, 1, 1},
+            {{}, {}, randomKernel(4, 1), 2, 2},
+            {{}, {}, randomKernel(20, 0.4), 4, 5},
+            {{}, {}, randomKernel(7, 0.4), 7, 1},
+            {{}, {}, randomKernel(9, 0.5), 3, 3, QPainter::CompositionMode_SourceOver},
+        };
+        for (const ConvolutionCall& call : calls)
+            QVERIFY2(
+                sameWords(convolution(image, image, call), slowConvolution(image, image, call)),
+                qPrintable(QString("%1 by %2 from %3").arg(call.width).arg(call.height).arg(call.kernel[0])));
+    }
+
+    void convolutionAtPositions() {
+        const QImage source = randomImage({23, 19}, QImage::Format_ARGB32);
+        const QImage destination = randomImage({37, 29}, QImage::Format_RGB32, 5);
+        const std::pair<QPointF, QRectF> places[] = {
+            {{5, 3}, {}},
+            {{-6, -4}, {}},
+            {{30, 20}, {}},
+            {{2, 2}, {4, 5, 9, 7}},
+            {{2.4, 1.7}, {4.5, 5.2, 9.1, 7.9}},
+            {{1, 1}, {15, 10, 30, 20}},
+            {{500, 500}, {}},
+        };
+        for (const auto& [position, sourceRect] : places) {
+            for (const auto mode : {QPainter::CompositionMode_Source, QPainter::CompositionMode_SourceOver}) {
+                for (const int side : {3, 4}) {
+                    const Kernel kernel = randomKernel(side * side, 1);
+                    const ConvolutionCall call{position, sourceRect, kernel, side, side, mode};
+                    QVERIFY(sameWords(convolution(destination, source, call),
+                                      slowConvolution(destination, source, call)));
+                }
+            }
+        }
+    }
+
+    void convolutionLeavesSharedImagesAlone() {
+        QImage image = randomImage({20, 20}, QImage::Format_ARGB32_Premultiplied);
+        const QImage shared = image;
+        const QImage before = image.copy();
+        const Kernel kernel{-1, -1, -1, -1, 9, -1, -1, -1, -1};
+        ImageDSP::convolute(image, {}, image, {}, QPainter::CompositionMode_Source, kernel, 3, 3);
+        QVERIFY(sameWords(shared, before));
+        QVERIFY(sameWords(image, slowConvolution(before, before, {{}, {}, kernel})));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestImageDSP)
 #include "tst_imagedsp.moc"
