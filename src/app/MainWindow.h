@@ -65,6 +65,7 @@ private:
     void closeToolWindows();
     void closeOptions();
     void readSettings();
+    void makeRoomForTools();
     void writeSettings();
 
     std::unique_ptr<Ui::MainWindow> ui;

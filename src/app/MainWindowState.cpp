@@ -6,6 +6,11 @@
 #include "ui_MainWindow.h"
 
 #include <QDebug>
+#include <QScreen>
+#include <QStyleOption>
+#include <QTabBar>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +29,8 @@ void restorePrompt(QPlainTextEdit* edit, const QString& prompt) {
 void MainWindow::readSettings() {
     const Settings* settings = Settings::instance();
     restoreGeometry(settings->data(keys::appGeometry).toByteArray());
-    restoreState(settings->data(keys::appState).toByteArray());
+    if (!restoreState(settings->data(keys::appState).toByteArray()))
+        makeRoomForTools();
     ui->sBOllamaScaleResW->setValue(settings->data(keys::ollamaScaleResW, -1).toInt());
     ui->sBOllamaScaleResH->setValue(settings->data(keys::ollamaScaleResH, -1).toInt());
     ui->cBOllamaScaleKeepAspectRatio->setChecked(
@@ -60,6 +66,21 @@ void MainWindow::readSettings() {
         settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
     const int viewMode = settings->data(keys::listViewViewMode, int(QListView::IconMode)).toInt();
     ui->listView->setViewMode(viewMode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
+}
+
+// A first start shows all tabs and the largest page whole, as far as the screen has room. Tab widget and
+// scroll area ask for less than they hold.
+void MainWindow::makeRoomForTools() {
+    const QWidget* page = ui->scrollAreaResizeContents;
+    page->layout()->activate();
+    const QSize tabs = ui->tWTools->tabBar()->sizeHint();
+    const QSize pages = page->sizeHint();
+    const QStyleOptionTabWidgetFrame frame;
+    const QSize tools = style()->sizeFromContents(
+        QStyle::CT_TabWidget, &frame,
+        QSize(std::max(tabs.width(), pages.width()), tabs.height() + pages.height()), ui->tWTools);
+    resize((sizeHint() + tools - ui->tWTools->sizeHint()).boundedTo(screen()->availableSize()));
+    resizeDocks({ui->dockWidget_Tools}, {tools.width()}, Qt::Horizontal);
 }
 
 void MainWindow::writeSettings() {

@@ -16,11 +16,17 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QDockWidget>
+#include <QFile>
 #include <QGroupBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include <functional>
@@ -80,10 +86,48 @@ void eachTab(QWidget* window, const std::function<void()>& look) {
 class MannersTest : public QObject {
     Q_OBJECT
 
+public:
+    // The offscreen platform's own screen is smaller than any desktop.
+    static void initMain() {
+        const QByteArray name = "screen.json";
+        const QJsonObject screen{{"name", "small"},
+                                 {"width", smallScreen.width()},
+                                 {"height", smallScreen.height()},
+                                 {"logicalDpi", 96},
+                                 {"dpr", 1}};
+        QFile file(QString::fromLatin1(name));
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write %s", name.data());
+        file.write(QJsonDocument(QJsonObject{{"screens", QJsonArray{screen}}}).toJson());
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + name);
+    }
+
 private slots:
     void initTestCase() {
         WindowDriver::forgetSettings();
         _driver.emplace();
+    }
+
+    void aFirstStartClipsNothing() {
+        QVERIFY(smallScreen.width() >= _driver->window().frameGeometry().width());
+        QVERIFY(smallScreen.height() >= _driver->window().frameGeometry().height());
+        const auto* tabs = _driver->widget<QTabWidget>("tWTools")->tabBar();
+        QVERIFY2(tabs->width() >= tabs->sizeHint().width(), qPrintable(QString::number(tabs->width())));
+        for (const char* name :
+             {"cBResizeSrcAspectRatio", "cBResizeSrcTransformationType", "pBProcessResize"}) {
+            const auto* widget = _driver->widget<QWidget>(name);
+            QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
+            QVERIFY2(widget->visibleRegion().boundingRect() == widget->rect(), name);
+        }
+    }
+
+    void aStoredLayoutIsKept() {
+        constexpr int narrow = 260;
+        _driver->window().resizeDocks({_driver->widget<QDockWidget>("dockWidget_Tools")}, {narrow},
+                                      Qt::Horizontal);
+        _driver.reset();
+        _driver.emplace();
+        QCOMPARE(_driver->widget<QDockWidget>("dockWidget_Tools")->width(), narrow);
     }
 
     void windowsKeepTheRules_data() {
