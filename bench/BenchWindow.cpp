@@ -1,5 +1,6 @@
 #include "BenchWindow.h"
 
+#include "Ratio.h"
 #include "catalogue/ImageLoaderThreaded.h"
 
 #include <QCoreApplication>
@@ -68,6 +69,8 @@ long residentKilobytes() {
 }
 
 BenchWindow::BenchWindow(int files) {
+    // Again for each window, since one that goes gives the log back to the terminal.
+    silenceLog();
     catalogue::makeFiles(_directory.path(), 0, files);
     QFile::remove(QCoreApplication::applicationDirPath() + "/settings.data");
     _window = std::make_unique<MainWindow>();

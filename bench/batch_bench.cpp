@@ -147,7 +147,6 @@ private:
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
-    silenceLog();
     Ratio::header();
     for (const auto& [photos, size] : {std::pair(6, QSize(4000, 3000)), std::pair(2, QSize(6000, 4000))}) {
         Bench bench(photos, size);

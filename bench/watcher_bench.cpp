@@ -152,7 +152,6 @@ private:
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
-    silenceLog();
     const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
     for (const int files : {1000, 10000, 50000}) {
         if (wanted != 0 && wanted != files)

@@ -2,8 +2,59 @@
 
 #include "catalogue/MediaModel.h"
 
+#include <QDateTime>
+#include <QScopeGuard>
+
+namespace {
+
+template <typename T>
+bool isLess(const QVariant& left, const QVariant& right) {
+    return *get_if<T>(&left) < *get_if<T>(&right);
+}
+
+} // namespace
+
+void SortFilterProxyModel::sort(int column, Qt::SortOrder order) {
+    const auto forget = qScopeGuard([this] { _sortValues.clear(); });
+    const QAbstractItemModel* source = sourceModel();
+    if (source && column >= 0 && column < source->columnCount()) {
+        const int rows = source->rowCount();
+        _sortValues.reserve(static_cast<size_t>(rows));
+        for (int row = 0; row < rows; ++row)
+            _sortValues.push_back(source->index(row, column).data(sortRole()));
+    }
+    QSortFilterProxyModel::sort(column, order);
+}
+
 bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const {
     if (sourceModel()->index(sourceRow, ColName, sourceParent).data(RoleHidden).toBool())
         return false;
     return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+}
+
+bool SortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+    if (_sortValues.empty())
+        return QSortFilterProxyModel::lessThan(left, right);
+    const QVariant& leftValue = _sortValues[static_cast<size_t>(left.row())];
+    const QVariant& rightValue = _sortValues[static_cast<size_t>(right.row())];
+    // Cells without a value come last.
+    if (!leftValue.isValid() || !rightValue.isValid())
+        return leftValue.isValid();
+    if (leftValue.metaType() == rightValue.metaType()) {
+        switch (leftValue.typeId()) {
+        case QMetaType::QString:
+            return isLess<QString>(leftValue, rightValue);
+        case QMetaType::Int:
+            return isLess<int>(leftValue, rightValue);
+        case QMetaType::LongLong:
+            return isLess<qlonglong>(leftValue, rightValue);
+        case QMetaType::Bool:
+            return isLess<bool>(leftValue, rightValue);
+        case QMetaType::QDateTime:
+            return isLess<QDateTime>(leftValue, rightValue);
+        default:
+            break;
+        }
+    }
+    return QSortFilterProxyModel::lessThan(left, right);
 }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QSortFilterProxyModel>
+#include <QVariant>
+
+#include <vector>
 
 // Sorts the catalogue by raw values and leaves out the rows that are flagged as hidden.
 class SortFilterProxyModel : public QSortFilterProxyModel {
@@ -9,6 +12,13 @@ class SortFilterProxyModel : public QSortFilterProxyModel {
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
+    // The order of the base class, from values that are fetched once a row instead of for each comparison.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+    [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    std::vector<QVariant> _sortValues; // by source row; empty outside of sort()
 };

@@ -29,6 +29,7 @@ private slots:
         QCOMPARE(editor->windowTitle(), "Edit image: " + first + " [400x300] [1 - 3]");
         for (int number = 0; number < 3; ++number) {
             const QString path = view->imageFilePath();
+            QCOMPARE(QFileInfo(path).fileName(), driver.catalogue()->index(number, 0).data().toString());
             QTest::keyClick(editor, Qt::Key_W);
             editor->findChild<QDoubleSpinBox*>("dSBCutWidth")->setValue(200 - number * 10);
             editor->findChild<QDoubleSpinBox*>("dSBCutHeight")->setValue(100);
