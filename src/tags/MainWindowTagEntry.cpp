@@ -54,6 +54,7 @@ void MainWindow::onAddTagsAccepted(const QString& text) {
     const QStringList files = selectedFilePaths();
     if (files.isEmpty())
         qDebug() << "Error, selection is empty...";
+    const WaitCursor waitCursor;
     const QStringList added = tagsFromEntry(text);
     for (const QString& file : files)
         setImageTags(file, imageTags(file) + added);

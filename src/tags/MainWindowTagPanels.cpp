@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/services/LongLines.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
@@ -159,6 +160,7 @@ void MainWindow::onTagDelete() {
         qDebug() << "Tag sel empty";
         return;
     }
+    const WaitCursor waitCursor;
     for (const QString& file : files) {
         QStringList kept = imageTags(file);
         removeTags(kept, tags);
@@ -181,6 +183,7 @@ void MainWindow::deleteTagsEverywhere(const QStringList& tags) {
         qDebug() << "Tag sel empty";
         return;
     }
+    const WaitCursor waitCursor;
     for (QStringList& entry : _imageTags)
         removeTags(entry, tags);
     refreshAllTags();
