@@ -245,18 +245,18 @@ void Scenes::applyTheme(int theme) {
 
 // Four themes in one picture, each a quarter of it.
 void Scenes::themes() {
-    const QSize size(900, 600);
+    const QSize size(1100, 640);
     window()->resize(size);
     select({"midnight.png"});
     QImage all(size * 2, QImage::Format_RGB32);
     QPainter painter(&all);
     int place = 0;
-    for (const int theme : {5, 13, 16, 18}) {
+    for (const int theme : {5, 13, 7, 18}) {
         applyTheme(theme);
         painter.drawImage((place % 2) * size.width(), (place / 2) * size.height(), seen(window()));
         ++place;
     }
     painter.end();
-    if (!all.scaledToWidth(1200, Qt::SmoothTransformation).save(_pictures + "/themes.png"))
+    if (!all.scaledToWidth(1600, Qt::SmoothTransformation).save(_pictures + "/themes.png"))
         qFatal("cannot write the themes");
 }
