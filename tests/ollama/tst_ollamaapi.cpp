@@ -1,13 +1,11 @@
 #include "ollama/OllamaApi.h"
+#include "ollama/OllamaMessages.h"
 #include "ollama/OllamaPeer.h"
+#include "support/Rows.h"
 
 #include <QElapsedTimer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSignalSpy>
 #include <QTcpServer>
-#include <QTest>
 #include <QTimer>
 
 #include <memory>
@@ -30,184 +28,142 @@ class TestOllamaApi : public QObject {
     Q_OBJECT
 
 private slots:
-    void requestsAreExact() {
-        OllamaPeer peer;
-        peer.setAnswers("/api/version", {{R"({"version":"0.5.1"})"}});
-        peer.setAnswers("/api/tags", {{R"({"models":[{"model":"llava:7b"},{}]})"}});
-        peer.setAnswers("/api/generate", {{R"({"response":"a, b","thinking":"hm"})"}});
-        OllamaApi api;
-        const QSignalSpy status(&api, &OllamaApi::ollamaConnectionStatus);
-        const QSignalSpy responses(&api, &OllamaApi::ollamaResponseImg);
-        api.setUrl(peer.url());
-        api.setModel("x/\"y\"");
-        QCOMPARE(api.getVersion(), QString("0.5.1"));
-        QCOMPARE(status.value(0), QVariantList({true}));
-        QCOMPARE(api.getModelList(), QStringList({"llava:7b", ""}));
-        const QString prompt(100'000, QChar('p'));
-        api.getPrompt(prompt, "QUJD", "/some/file.png");
-        QCOMPARE(responses.value(0), QVariantList({"a, bThinking:hm", "/some/file.png"}));
+    void init() {
+        _peer = std::make_unique<OllamaPeer>();
+        _api = std::make_unique<OllamaApi>();
+        _api->setUrl(_peer->url());
+        _responses = std::make_unique<QSignalSpy>(_api.get(), &OllamaApi::ollamaResponseImg);
+        _errors = std::make_unique<QSignalSpy>(_api.get(), &OllamaApi::ollamaError);
+    }
+    void cleanup() {
+        _api.reset();
+        _peer.reset();
+    }
 
-        QCOMPARE(peer.requests("/api/version").value(0).line, QByteArray("GET /api/version HTTP/1.1"));
-        QCOMPARE(peer.requests("/api/tags").value(0).line, QByteArray("GET /api/tags HTTP/1.1"));
-        const PeerRequest request = peer.requests("/api/generate").value(0);
+    void requestsAreExact() {
+        _peer->setAnswers("/api/version", {{R"({"version":"0.5.1"})"}});
+        _peer->setAnswers("/api/tags", {{R"({"models":[{"model":"llava:7b"},{}]})"}});
+        _peer->setAnswers("/api/generate", {{R"({"response":"a, b","thinking":"hm"})"}});
+        _api->setModel("x/\"y\"");
+        QCOMPARE(_api->getVersion(), QString("0.5.1"));
+        QCOMPARE(_api->getModelList(), QStringList({"llava:7b", ""}));
+        const QString prompt(100'000, QChar('p'));
+        _api->getPrompt(prompt, "QUJD", "/some/file.png");
+        QCOMPARE(_responses->value(0), QVariantList({"a, bThinking:hm", "/some/file.png"}));
+
+        QCOMPARE(_peer->requests("/api/version").value(0).line, QByteArray("GET /api/version HTTP/1.1"));
+        QCOMPARE(_peer->requests("/api/tags").value(0).line, QByteArray("GET /api/tags HTTP/1.1"));
+        const PeerRequest request = _peer->requests("/api/generate").value(0);
         QCOMPARE(request.line, QByteArray("POST /api/generate HTTP/1.1"));
         QCOMPARE(request.headers.value("content-type"), QByteArray("application/x-www-form-urlencoded"));
-        const QJsonObject body{{"model", "x/\"y\""},
-                               {"prompt", prompt},
-                               {"stream", false},
-                               {"options", QJsonObject{{"num_predict", 500}}},
-                               {"images", QJsonArray{"QUJD"}}};
-        QCOMPARE(request.body, QJsonDocument(body).toJson(QJsonDocument::Indented));
+        QCOMPARE(request.body, generateRequest("x/\"y\"", prompt, "QUJD"));
     }
 
     void versions_data() {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<bool>("online");
-        const auto row = [](const char* name, const Answer& answer, const QString& version, bool online) {
-            QTest::newRow(name) << answer << version << online;
-        };
-        row("no such field", {"{}"}, "", true);
-        row("another type", {R"({"version":5})"}, "", true);
-        row("no JSON", {"hello"}, "", true);
-        row("nothing in it", {""}, "", true);
-        row("byte by byte, slower than the timeout in all", {"  {} ", OllamaPeer::Dripping}, "", true);
-        row("an error status", {R"({"version":"1"})", OllamaPeer::Whole, "500 Oops"}, "1", false);
-        row("half a reply", {R"({"version":"1"})", OllamaPeer::Half}, "", false);
-        row("hanging up", {{}, OllamaPeer::Closing}, "", false);
-        row("no answer", {{}, OllamaPeer::Silent}, "", false);
+        addRows<Answer, QString, bool>({
+            {"no such field", {"{}"}, "", true},
+            {"no JSON", {"hello"}, "", true},
+            {"byte by byte, slower than the timeout in all", {"  {} ", OllamaPeer::Dripping}, "", true},
+            {"an error status", {R"({"version":"1"})", OllamaPeer::Whole, "500 Oops"}, "1", false},
+            {"half a reply", {R"({"version":"1"})", OllamaPeer::Half}, "", false},
+            {"no answer", {{}, OllamaPeer::Silent}, "", false},
+        });
     }
     void versions() {
-        QFETCH(const Answer, answer);
-        QFETCH(const bool, online);
-        OllamaPeer peer;
-        peer.setAnswers("/api/version", {answer});
-        peer.setAnswers("/api/tags", {{R"({"models":[{"model":"m"}]})"}});
-        OllamaApi api;
-        api.setUrl(peer.url());
-        const QSignalSpy status(&api, &OllamaApi::ollamaConnectionStatus);
-        QTEST(api.getVersion(), "version");
-        QCOMPARE(api.isOnline(), online);
+        const auto& [answer, version, online] = row<Answer, QString, bool>();
+        _peer->setAnswers("/api/version", {answer, {R"({"version":"2"})"}});
+        _peer->setAnswers("/api/tags", {{R"({"models":[{"model":"m"}]})"}});
+        const QSignalSpy status(_api.get(), &OllamaApi::ollamaConnectionStatus);
+        QCOMPARE(_api->getVersion(), version);
+        QCOMPARE(_api->isOnline(), online);
         QCOMPARE(status.value(0), QVariantList({online}));
         // Offline, nothing is asked until the next version request.
-        QCOMPARE(api.getModelList(), online ? QStringList("m") : QStringList());
-        QCOMPARE(peer.requests("/api/tags").size(), online ? 1 : 0);
-        peer.setAnswers("/api/version", {{R"({"version":"2"})"}});
-        QCOMPARE(api.getVersion(), QString("2"));
-        QCOMPARE(api.getModelList(), QStringList("m"));
+        QCOMPARE(_api->getModelList(), online ? QStringList("m") : QStringList());
+        QCOMPARE(_peer->requests("/api/tags").size(), online ? 1 : 0);
+        QCOMPARE(_api->getVersion(), QString("2"));
+        QCOMPARE(_api->getModelList(), QStringList("m"));
     }
 
-    void addressesWithoutAServer_data() {
-        QTest::addColumn<QString>("url");
-        QTest::newRow("refused") << refusingUrl();
-        QTest::newRow("nothing") << "";
-        QTest::newRow("no address") << "what is this?";
-        QTest::newRow("another scheme") << "ftp://127.0.0.1/";
-    }
     void addressesWithoutAServer() {
-        QFETCH(const QString, url);
-        OllamaApi api;
-        api.setUrl(url);
-        const QSignalSpy errors(&api, &OllamaApi::ollamaError);
-        QCOMPARE(api.getVersion(), QString());
-        QVERIFY(!api.isOnline());
-        api.getPrompt("p", {}, "f.png");
-        QCOMPARE(errors.value(0), QVariantList({"illegal value - ", "f.png"}));
+        for (const QString& url :
+             {refusingUrl(), QString(), QString("what is this?"), QString("ftp://127.0.0.1/")}) {
+            _api->setUrl(url);
+            QCOMPARE(_api->getVersion(), QString());
+            QVERIFY(!_api->isOnline());
+            _api->getPrompt("p", {}, "f.png");
+            QCOMPARE(_errors->takeFirst(), QVariantList({"illegal value - ", "f.png"}));
+        }
     }
 
     void badAnswers_data() {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, const Answer& answer, const QString& text) {
-            QTest::newRow(name) << answer << text;
-        };
-        row("a refusal with its status", {R"({"error":"no model"})", OllamaPeer::Whole, "404 Not Found"},
-            R"(no error occurred - {"error":"no model"})");
-        row("a marker in the text", {R"({"response":"%1 error %2"})"},
-            R"(no error occurred - {"response":"%1 error %2"})");
-        row("no JSON", {"<html>"}, "illegal number - <html>");
-        row("half a reply", {R"({"response":"abcdef"})", OllamaPeer::Half},
-            "unterminated string - {\"response");
-        row("hanging up", {{}, OllamaPeer::Closing}, "illegal value - ");
+        addRows<Answer, QString>({
+            {"a refusal with its status",
+             {R"({"error":"no model"})", OllamaPeer::Whole, "404 Not Found"},
+             R"(no error occurred - {"error":"no model"})"},
+            {"a marker in the text",
+             {R"({"response":"%1 error %2"})"},
+             R"(no error occurred - {"response":"%1 error %2"})"},
+            {"no JSON", {"<html>"}, "illegal number - <html>"},
+            {"half a reply",
+             {R"({"response":"abcdef"})", OllamaPeer::Half},
+             "unterminated string - {\"response"},
+        });
     }
     void badAnswers() {
-        QFETCH(const Answer, answer);
-        OllamaPeer peer;
-        peer.setAnswers("/api/generate", {answer});
-        OllamaApi api;
-        api.setUrl(peer.url());
-        const QSignalSpy errors(&api, &OllamaApi::ollamaError);
-        const QSignalSpy responses(&api, &OllamaApi::ollamaResponseImg);
-        api.getPrompt("p", "QUJD", "f.png");
-        QCOMPARE(errors.size(), 1);
-        QTEST(errors.first().first().toString(), "text");
-        QVERIFY(responses.isEmpty());
-        QVERIFY(api.isOnline());
+        const auto& [answer, text] = row<Answer, QString>();
+        _peer->setAnswers("/api/generate", {answer});
+        _api->getPrompt("p", "QUJD", "f.png");
+        QCOMPARE(_errors->size(), 1);
+        QCOMPARE(_errors->first().first().toString(), text);
+        QVERIFY(_responses->isEmpty() && _api->isOnline());
     }
 
-    void aLargeAnswerArrivesWhole() {
-        OllamaPeer peer;
+    void aLateAndLargeAnswerArrivesWhole() {
         const QByteArray text(5'000'000, 'x');
-        peer.setAnswers("/api/generate", {{"{\"response\":\"" + text + "\"}"}});
-        OllamaApi api;
-        api.setUrl(peer.url());
-        const QSignalSpy responses(&api, &OllamaApi::ollamaResponseImg);
-        api.getPrompt("p", {}, "f.png");
-        QVERIFY(responses.value(0).value(0).toByteArray() == text);
+        _peer->setAnswers("/api/generate", {{"{\"response\":\"" + text + "\"}", OllamaPeer::Held}});
+        // Later than a GET would wait.
+        connect(_peer.get(), &OllamaPeer::requested, this,
+                [this] { QTimer::singleShot(700, _peer.get(), &OllamaPeer::release); });
+        _api->getPrompt("p", {}, "f.png");
+        QVERIFY(_responses->value(0).value(0).toByteArray() == text);
     }
 
-    void aPromptWaitsLongerThanAGetWould() {
-        OllamaPeer peer;
-        peer.setAnswers("/api/generate", {{R"({"response":"late"})", OllamaPeer::Held}});
-        OllamaApi api;
-        api.setUrl(peer.url());
-        const QSignalSpy responses(&api, &OllamaApi::ollamaResponseImg);
-        connect(&peer, &OllamaPeer::requested, this,
-                [&] { QTimer::singleShot(700, &peer, &OllamaPeer::release); });
-        api.getPrompt("p", {}, "f.png");
-        QCOMPARE(responses.value(0), QVariantList({"late", "f.png"}));
+    void aRequestIsCutShort_data() {
+        addRows<bool, bool>({
+            {"a quit during a POST", true, true},
+            {"a quit during a GET that drips", true, false},
+            {"the client goes during a POST", false, true},
+            {"the client goes during a GET that drips", false, false},
+        });
     }
-
-    void aQuitEndsARequest_data() {
-        QTest::addColumn<bool>("isPost");
-        QTest::newRow("POST") << true;
-        QTest::newRow("GET that drips") << false;
-    }
-    void aQuitEndsARequest() {
-        QFETCH(const bool, isPost);
-        OllamaPeer peer;
-        peer.setAnswers("/api/generate", {{{}, OllamaPeer::Silent}});
-        peer.setAnswers("/api/version", {{QByteArray(1000, ' '), OllamaPeer::Dripping}});
-        OllamaApi api;
-        api.setUrl(peer.url());
-        const QSignalSpy errors(&api, &OllamaApi::ollamaError);
-        connect(&peer, &OllamaPeer::requested, QCoreApplication::instance(), &QCoreApplication::quit);
-        QTimer::singleShot(0, this, [&] {
-            if (isPost)
-                api.getPrompt("p", {}, "f.png");
+    void aRequestIsCutShort() {
+        const auto& [isQuit, isPost] = row<bool, bool>();
+        _peer->setAnswers("/api/generate", {{{}, OllamaPeer::Silent}});
+        _peer->setAnswers("/api/version", {{QByteArray(1000, ' '), OllamaPeer::Dripping}});
+        connect(_peer.get(), &OllamaPeer::requested, this, [this, isQuit = isQuit] {
+            if (isQuit)
+                QCoreApplication::quit();
             else
-                api.getVersion();
+                _api.reset();
+        });
+        QTimer::singleShot(0, this, [this, isPost = isPost] {
+            if (isPost)
+                _api->getPrompt("p", {}, "f.png");
+            else
+                _api->getVersion();
+            QCoreApplication::quit();
         });
         QCoreApplication::exec();
-        QVERIFY(api.isInterrupted());
-        QVERIFY(errors.isEmpty());
+        QCOMPARE(_api != nullptr, isQuit);
+        QVERIFY(!_api || _api->isInterrupted());
+        QVERIFY(_errors->isEmpty());
     }
 
-    void theClientMayGoWhileItWaits_data() { aQuitEndsARequest_data(); }
-    void theClientMayGoWhileItWaits() {
-        QFETCH(const bool, isPost);
-        OllamaPeer peer;
-        peer.setAnswers("/api/generate", {{{}, OllamaPeer::Silent}});
-        peer.setAnswers("/api/version", {{QByteArray(1000, ' '), OllamaPeer::Dripping}});
-        auto api = std::make_unique<OllamaApi>();
-        api->setUrl(peer.url());
-        connect(&peer, &OllamaPeer::requested, this, [&] { api.reset(); });
-        if (isPost)
-            api->getPrompt("p", {}, "f.png");
-        else
-            QCOMPARE(api->getVersion(), QString());
-        QVERIFY(!api);
-    }
+private:
+    std::unique_ptr<OllamaPeer> _peer;
+    std::unique_ptr<OllamaApi> _api;
+    std::unique_ptr<QSignalSpy> _responses;
+    std::unique_ptr<QSignalSpy> _errors;
 };
 
 QTEST_GUILESS_MAIN(TestOllamaApi)

@@ -1,24 +1,16 @@
 #include "ollama/OllamaMessages.h"
 #include "ollama/PromptImage.h"
-
-#include <QTest>
+#include "support/Rows.h"
 
 class TestOllamaMessages : public QObject {
     Q_OBJECT
 
 private slots:
-    void urls_data() {
-        QTest::addColumn<QString>("base");
-        QTest::addColumn<QString>("url");
-        QTest::newRow("without a closing slash") << "http://h:1" << "http://h:1/api/tags";
-        QTest::newRow("with one") << "http://h:1/" << "http://h:1/api/tags";
-        QTest::newRow("of two one stays") << "http://h:1//" << "http://h:1//api/tags";
-        QTest::newRow("a backslash is one too") << "http://h:1\\" << "http://h:1/api/tags";
-        QTest::newRow("nothing at all") << "" << "/api/tags";
-    }
-    void urls() {
-        QFETCH(const QString, base);
-        QTEST(ollamaUrl(base, "/api/tags"), "url");
+    void urlsLoseOneSlash() {
+        for (const char* base : {"http://h:1", "http://h:1/", "http://h:1\\"})
+            QCOMPARE(ollamaUrl(base, "/api/tags"), QString("http://h:1/api/tags"));
+        QCOMPARE(ollamaUrl("http://h:1//", "/api/tags"), QString("http://h:1//api/tags"));
+        QCOMPARE(ollamaUrl("", "/api/tags"), QString("/api/tags"));
     }
 
     void theGenerateRequestIsExact() {
@@ -38,65 +30,56 @@ private slots:
     }
 
     void modelReplies_data() {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QStringList>("models");
-        QTest::addColumn<bool>("isJson");
-        const auto row = [](const char* name, const QByteArray& data, const QStringList& models,
-                            bool isJson = true) { QTest::newRow(name) << data << models << isJson; };
-        row("reply order, other fields ignored", R"({"models":[{"model":"b","name":"x"},{"model":"a"}]})",
-            {"b", "a"});
-        row("a missing or odd name is empty", R"({"models":[{"name":"x"},{"model":7},5]})", {"", "", ""});
-        row("no list", R"({"model":"a"})", {});
-        row("a list of another kind", R"({"models":"a"})", {});
-        row("an array", R"([{"model":"a"}])", {});
-        row("no JSON", "models", {}, false);
-        row("nothing", "", {}, false);
+        addRows<QByteArray, QStringList, bool>({
+            {"reply order, other fields ignored",
+             R"({"models":[{"model":"b","name":"x"},{"model":"a"}]})",
+             {"b", "a"},
+             true},
+            {"a missing or odd name is empty",
+             R"({"models":[{"name":"x"},{"model":7},5]})",
+             {"", "", ""},
+             true},
+            {"a list of another kind", R"({"models":"a"})", {}, true},
+            {"an array", R"([{"model":"a"}])", {}, true},
+            {"nothing", "", {}, false},
+        });
     }
     void modelReplies() {
-        QFETCH(const QByteArray, data);
-        const ModelsReply reply = readModelsReply(data);
-        QTEST(reply.models, "models");
-        QTEST(reply.parseError.isEmpty(), "isJson");
+        const auto& [data, models, isJson] = row<QByteArray, QStringList, bool>();
+        QCOMPARE(readModelsReply(data).models, models);
+        QCOMPARE(readModelsReply(data).parseError.isEmpty(), isJson);
     }
 
     void generateReplies_data() {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<GenerateReply>("reply");
-        const auto row = [](const char* name, const QByteArray& data, const GenerateReply& reply) {
-            QTest::newRow(name) << data << reply;
-        };
         const QString fine = "no error occurred";
-        row("an answer", R"({"response":" a, b\n"})", {true, " a, b\n", "", fine});
-        row("with thinking", R"({"thinking":"hm","response":"a"})", {true, "a", "hm", fine});
-        row("the word in the text", R"({"response":"an error"})", {false, "an error", "", fine});
-        row("a refusal", R"({"error":"no model"})", {false, "", "", fine});
-        row("other kinds", R"({"response":5,"thinking":[]})", {true, "", "", fine});
-        row("an array", "[]", {true, "", "", fine});
-        row("invalid UTF-8", "{\"response\":\"\xff\xfe\"}", {false, "", "", "invalid UTF8 string"});
-        row("half a reply", "{\"response\":\"a", {false, "", "", "unterminated string"});
-        row("nothing", "", {false, "", "", "illegal value"});
+        addRows<QByteArray, GenerateReply>({
+            {"an answer", R"({"response":" a, b\n"})", {true, " a, b\n", "", fine}},
+            {"with thinking", R"({"thinking":"hm","response":"a"})", {true, "a", "hm", fine}},
+            {"the word in the text", R"({"response":"an error"})", {false, "an error", "", fine}},
+            {"other kinds", R"({"response":5,"thinking":[]})", {true, "", "", fine}},
+            {"an array", "[]", {true, "", "", fine}},
+            {"invalid UTF-8", "{\"response\":\"\xff\xfe\"}", {false, "", "", "invalid UTF8 string"}},
+            {"nothing", "", {false, "", "", "illegal value"}},
+        });
     }
     void generateReplies() {
-        QFETCH(const QByteArray, data);
-        QTEST(readGenerateReply(data), "reply");
+        const auto& [data, reply] = row<QByteArray, GenerateReply>();
+        QCOMPARE(readGenerateReply(data), reply);
     }
 
     void scaling_data() {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("keep");
-        QTest::addColumn<QSize>("scaled");
-        QTest::newRow("as it is") << QSize(-1, -1) << true << QSize(64, 32);
-        QTest::newRow("the height follows") << QSize(320, -1) << false << QSize(320, 160);
-        QTest::newRow("the width follows") << QSize(-1, 16) << false << QSize(32, 16);
-        QTest::newRow("fitted inside") << QSize(32, 32) << true << QSize(32, 16);
-        QTest::newRow("stretched") << QSize(10, 20) << false << QSize(10, 20);
-        QTest::newRow("no width") << QSize(0, -1) << true << QSize(0, 0);
+        addRows<QSize, bool, QSize>({
+            {"as it is", {-1, -1}, true, {64, 32}},
+            {"the height follows", {320, -1}, false, {320, 160}},
+            {"the width follows", {-1, 16}, false, {32, 16}},
+            {"fitted inside", {32, 32}, true, {32, 16}},
+            {"stretched", {10, 20}, false, {10, 20}},
+            {"no width", {0, -1}, true, {0, 0}},
+        });
     }
     void scaling() {
-        QFETCH(const QSize, size);
-        QFETCH(const bool, keep);
-        const QImage image(64, 32, QImage::Format_RGB32);
-        QTEST(scaledPromptImage(image, size, keep).size(), "scaled");
+        const auto& [size, keep, scaled] = row<QSize, bool, QSize>();
+        QCOMPARE(scaledPromptImage(QImage(64, 32, QImage::Format_RGB32), size, keep).size(), scaled);
         QVERIFY(scaledPromptImage({}, size, keep).isNull());
     }
 };
