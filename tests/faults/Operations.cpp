@@ -98,72 +98,43 @@ void look(WindowDriver& driver, const QString&) {
 } // namespace
 
 const QList<Operation>& operations() {
+    const QByteArray noTxt = "Failed to open txt file:";
+    const QByteArray noRawTxt = "Failed to open txt file, error:";
+    const QByteArray noImage = "Unable to read image, error:";
+    const QByteArray noWrite = "Error, unable to write file:";
+    const QByteArray noOutPath = "Error, unable to create out path";
+    const QByteArray unprocessed = "Image not processed";
+    const QByteArray noPrompt = "Error, unable to open file:";
+    const QByteArray noFrame = "Error, unable to save file to:";
+    const QByteArray noJson = "Error, unable to open file for writting:";
+    const QByteArray noImport = "Unable to import file from";
+    const QByteArray noCopy = "Error, unable to copy file:";
+    const QByteArray noTrash = "Error, unable to move file to trash";
     static const QList<Operation> all{
         {"look", look, {}},
         {"tag", tag, {}},
         {"save tags",
          slot(&MainWindow::onSaveTags),
-         {{},
-          "Failed to open txt file:",
-          "Failed to open txt file:",
-          "Failed to open txt file:",
-          "Failed to write data to txt file:"}},
+         {"", noTxt, noTxt, noTxt, "Failed to write data to txt file:"}},
         {"save raw text",
          saveRaw,
-         {{},
-          "Failed to open txt file, error:",
-          "Failed to open txt file, error:",
-          "Failed to open txt file, error:",
-          "Failed to write data to txt file, error:"}},
-        {"resize",
-         resize,
-         {"Unable to read image, error:", "Unable to read image, error:", "Error, unable to write file:",
-          "Error, unable to create out path", "Error, unable to write file:"}},
-        {"apply effects",
-         applyEffects,
-         {"Image not processed", "Image not processed", "Error, unable to write file:",
-          "Error, unable to create out path", "Error, unable to write file:"}},
-        {"send a prompt",
-         slot(&MainWindow::onOllamaSendPrompt),
-         {"Error, unable to open file:", "Error, unable to open file:", {}, {}, {}}},
-        {"grab a frame",
-         grabFrame,
-         {{},
-          "Error, unable to save file to:",
-          {},
-          "Error, unable to save file to:",
-          "Error, unable to save file to:"}},
+         {"", noRawTxt, noRawTxt, noRawTxt, "Failed to write data to txt file, error:"}},
+        {"resize", resize, {noImage, noImage, noWrite, noOutPath, noWrite}},
+        {"apply effects", applyEffects, {unprocessed, unprocessed, noWrite, noOutPath, noWrite}},
+        {"send a prompt", slot(&MainWindow::onOllamaSendPrompt), {noPrompt, noPrompt, "", "", ""}},
+        {"grab a frame", grabFrame, {"", noFrame, "", noFrame, noFrame}},
         {"extract",
          slot(&MainWindow::onExtractWorkflow),
-         {{},
-          {},
-          "Error, unable to open file for writting:",
-          "Error, unable to open file for writting:",
-          "Error, unable to write content to the file:"}},
-        {"import", import, {{}, {}, {}, "Unable to import file from", "Unable to import file from"}},
-        {"copy",
-         slot(&MainWindow::copyFiles),
-         {"Error, unable to copy file:", "Error, unable to copy file:", "Error, unable to copy file:",
-          "Error, unable to copy file:", "Error, unable to copy file:"}},
+         {"", "", noJson, noJson, "Error, unable to write content to the file:"}},
+        {"import", import, {"", "", "", noImport, noImport}},
+        {"copy", slot(&MainWindow::copyFiles), {noCopy, noCopy, noCopy, noCopy, noCopy}},
         {"edit", [](WindowDriver& driver, const QString&) { driver.window().editImage(); }, {}},
         {"clear stray texts",
          slot(&MainWindow::deleteStrayTxtFiles),
-         {{}, "Working path dont exists.", {}, "Failed to trash file:", {}}},
-        {"move",
-         slot(&MainWindow::moveFiles),
-         {"Error, unable to copy file:",
-          "Error, unable to copy file:",
-          "Error, unable to copy file:",
-          "Error, unable to copy file:",
-          {}}},
-        {"delete",
-         slot(&MainWindow::deleteFile),
-         {"Error, unable to move file to trash",
-          "Error, unable to move file to trash",
-          {},
-          "Error, unable to move file to trash",
-          {}}},
-        {"refresh", slot(&MainWindow::onRefreshOpenFilePath), {{}, "Directory dont exists at:", {}, {}, {}}},
+         {"", "Working path dont exists.", "", "Failed to trash file:", ""}},
+        {"move", slot(&MainWindow::moveFiles), {noCopy, noCopy, noCopy, noCopy, ""}},
+        {"delete", slot(&MainWindow::deleteFile), {noTrash, noTrash, "", noTrash, ""}},
+        {"refresh", slot(&MainWindow::onRefreshOpenFilePath), {"", "Directory dont exists at:", "", "", ""}},
     };
     return all;
 }

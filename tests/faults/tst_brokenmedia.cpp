@@ -5,30 +5,13 @@
 #include "support/WindowDriver.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QImageWriter>
 #include <QListView>
 #include <QSpinBox>
-#include <QtEndian>
 
 namespace {
 
 constexpr int places = 32;
-
-quint32 crc32(const QByteArray& bytes) {
-    quint32 crc = ~0u;
-    for (const char byte : bytes) {
-        crc ^= static_cast<uchar>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = crc & 1 ? crc >> 1 ^ 0xedb88320u : crc >> 1;
-    }
-    return ~crc;
-}
-
-template <typename Number>
-QByteArray bytesOf(Number number) {
-    return QByteArray(reinterpret_cast<const char*>(&number), sizeof(Number));
-}
 
 QImage picture() {
     QImage image(24, 16, QImage::Format_RGB32);
@@ -40,44 +23,33 @@ QImage picture() {
     return image;
 }
 
-QByteArray chunk(const QByteArray& typeAndData) {
-    return bytesOf(qToBigEndian(quint32(typeAndData.size() - 4))) + typeAndData +
-           bytesOf(qToBigEndian(crc32(typeAndData)));
-}
-
-QByteArray gzipped(const QByteArray& bytes) {
-    const QByteArray zlib = qCompress(bytes).sliced(4);
-    return QByteArray::fromHex("1f8b0800000000000003") + zlib.sliced(2).chopped(4) +
-           bytesOf(qToLittleEndian(crc32(bytes))) + bytesOf(qToLittleEndian(quint32(bytes.size())));
-}
-
-// A sound file of a format, by its writer or by hand.
+// A sound file of a format, by its writer or, where there is none, as it stands here.
 QByteArray soundFile(const QString& format) {
-    static const QByteArray svg = R"(<svg xmlns="http://www.w3.org/2000/svg" width="24" height="16">)"
-                                  R"(<rect width="9" height="9" fill="red"/></svg>)";
-    if (format == "svg")
-        return svg;
-    if (format == "svgz")
-        return gzipped(svg);
-    if (format == "gif")
-        return QByteArray::fromHex(
-            "47494638396110001000800000ff00000000ff21f90401000000002c00000000100010000002"
-            "0e848fa9cbed0fa39cb4da8bb3de05003b");
-    if (format == "tga")
-        return QByteArray::fromHex("000002000000000000000000180010001800") + QByteArray(24 * 16 * 3, 'p') +
-               QByteArray(8, '\0') + QByteArray("TRUEVISION-XFILE.", 18);
+    static const QHash<QString, QByteArray> unwritable{
+        {"svg", R"(<svg xmlns="http://www.w3.org/2000/svg"><rect width="9" height="9" fill="red"/></svg>)"},
+        {"svgz",
+         QByteArray::fromHex(
+             "1f8b0800000000000203458c5b0a80201000af227b80d62c8242bd4c9a0af64097b6e3571fd1dfc00ca3eb19c4"
+             "b5e6ad1a8844c784c8cc0d77cd5e022a29253e05084e8ea201d583883e854806da01ac2e7ea64f8ebf7b704939"
+             "1b28de015afd4eec0d413ae3766c000000")},
+        {"gif",
+         QByteArray::fromHex("47494638396110001000800000ff00000000ff21f90401000000002c00000000100010000002"
+                             "0e848fa9cbed0fa39cb4da8bb3de05003b")},
+        {"mng",
+         QByteArray::fromHex(
+             "8a4d4e470d0a1a0a0000001c4d4844520000000800000008000000010000000000000000000000000000000151"
+             "60a1700000000d4948445200000008000000080800000000e164e157000000234944415478da63608001052860"
+             "70800286042860688002860550c070000a181e40010076661c01ae1dc11b0000000049454e44ae426082000000"
+             "004d454e442120f7d5")},
+        {"tga", QByteArray::fromHex("000002000000000000000000180010001800") + QByteArray(24 * 16 * 3, 'p') +
+                    QByteArray(8, '\0') + QByteArray("TRUEVISION-XFILE.", 18)},
+    };
+    if (unwritable.contains(format))
+        return unwritable[format];
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    const bool isMng = format == "mng";
-    QImageWriter writer(&buffer, isMng ? "png" : format == "jfif" ? "jpeg" : format.toLatin1());
-    if (!writer.write(picture()))
-        return {};
-    if (!isMng)
-        return buffer.data();
-    QByteArray header("MHDR");
-    for (const quint32 number : {24, 16, 1, 0, 0, 0, 1})
-        header += bytesOf(qToBigEndian(number));
-    return QByteArray::fromHex("8a4d4e470d0a1a0a") + chunk(header) + buffer.data().sliced(8) + chunk("MEND");
+    QImageWriter writer(&buffer, format == "jfif" ? "jpeg" : format.toLatin1());
+    return writer.write(picture()) ? buffer.data() : QByteArray();
 }
 
 QByteArray contentOf(const QString& path) {
