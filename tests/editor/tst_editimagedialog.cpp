@@ -55,26 +55,15 @@ private slots:
         QVERIFY(!child<QStackedWidget>("stackedWidget")->isVisible());
     }
 
-    void actionsReportCurrentFile() {
+    void titleNamesTheFile() {
         QCOMPARE(_dialog->windowTitle(), "Edit image");
         const QString path = _folder.addImage("odd %1 %2 name.png", {30, 20});
         for (const QString& file : {path, _folder.filePath("gone.png")})
             _dialog->setImageFile(file, "[2 - 7]");
         QCOMPARE(_dialog->windowTitle(), "Edit image: odd %1 %2 name.png [30x20] [2 - 7]");
-        QStringList told;
-        const auto tell = [&told](const QString& what) {
-            return [&told, what](const QString& file) { told << what + ' ' + file; };
-        };
-        connect(_dialog.get(), &EditImageDialog::requestImgNext, this, tell("next"));
-        connect(_dialog.get(), &EditImageDialog::requestImgPrev, this, tell("previous"));
-        connect(_dialog.get(), &EditImageDialog::requestDeleteImage, this, tell("delete"));
-        connect(_dialog.get(), &EditImageDialog::savedFile, this, tell("saved"));
+        const QSignalSpy next(_dialog.get(), &EditImageDialog::requestImgNext);
         emit _view->requestImage(true);
-        for (const auto key : {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Delete})
-            QTest::keyClick(_dialog.get(), key);
-        QTest::keyClick(_view, Qt::Key_S, Qt::ControlModifier);
-        QCOMPARE(told, QStringList({"next " + path, "next " + path, "previous " + path, "delete " + path,
-                                    "saved " + path}));
+        QCOMPARE(next.value(0), QVariantList{path});
     }
 
     void buttonsAndViewAgree() {

@@ -1,11 +1,8 @@
 #include "editor/EditImageWidget.h"
 #include "support/MediaFolder.h"
-#include "support/ModalAnswer.h"
 #include "support/Rows.h"
 
 #include <QApplication>
-#include <QFileDialog>
-#include <QImageReader>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -221,23 +218,6 @@ private slots:
         QCOMPARE(_folder->content("picture.gif"), "read, but not written");
         QCOMPARE(saves, (Signals{{good}}));
         QCOMPARE(QImage(good).convertedTo(QImage::Format_RGB32), placeImage(30, 20));
-    }
-
-    void saveAsKeepsPath() {
-        QSignalSpy saves(_view.get(), &EditImageWidget::newlySavedFile);
-        const QString first = _folder->addImage("a.png");
-        const QString other = _folder->filePath("other.bmp");
-        _view->setImageFilePath(first);
-        QString proposed;
-        const ModalAnswer answer(ModalAnswer::DialogAnswer([&](QDialog* dialog) {
-            proposed = qobject_cast<QFileDialog*>(dialog)->selectedFiles().value(0);
-            chooseFiles({other})(dialog);
-        }));
-        _view->saveImageAs();
-        QCOMPARE(proposed, _folder->filePath("a_0.png"));
-        QCOMPARE(saves, (Signals{{other}}));
-        QCOMPARE(_view->imageFilePath(), first);
-        QCOMPARE(QImageReader(other).format(), "bmp");
     }
 
     void menuAligns_data() {

@@ -85,18 +85,6 @@ private slots:
                  qPrintable(bar->format()));
     }
 
-    void grabsFrameOnScreen() {
-        QSignalSpy pictures(_window.get(), &VideoWidget::imagePic);
-        open("h264.mp4");
-        key(Qt::Key_7);
-        const auto* sink = _window->findChild<QVideoWidget*>()->videoSink();
-        QTRY_COMPARE(frameNumber(sink->videoFrame().toImage()), 175);
-        QTest::keyClick(_window.get(), Qt::Key_G, Qt::ControlModifier);
-        QCOMPARE(pictures.count(), 1);
-        QCOMPARE(frameNumber(pictures.first().at(0).value<QImage>()), 175);
-        QCOMPARE(pictures.first().at(1).toString(), clipPath("h264.mp4"));
-    }
-
     void walksDirectory() {
         const QTemporaryDir directory;
         QStringList all;
@@ -146,6 +134,9 @@ private slots:
         open("theora.ogv"); // tells a frame rate that is no number
         key(Qt::Key_Right);
         QCOMPARE(_player->position(), 1);
+        QTest::keyClick(_window.get(), Qt::Key_G, Qt::ControlModifier);
+        QCOMPARE(pictures.count(), 2);
+        QCOMPARE(pictures.last().at(1).toString(), clipPath("theora.ogv"));
     }
 
     void closingReportsLayoutAndPath() {
