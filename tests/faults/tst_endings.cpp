@@ -19,22 +19,38 @@
 
 namespace {
 
+using Begin = std::function<void(MainWindow&)>;
+
 // What is under way in a window that ends, in a process of its own.
 struct Scene {
     const char* name;
-    std::function<void(MainWindow&)> begin;
-    std::function<bool(const MainWindow&)> isUnderWay;
+    Begin begin;
+    // At once, if it is not told.
+    std::function<bool(const MainWindow&)> isUnderWay = nullptr;
     // A modal window keeps the user from closing the main window; only the system ends the program then.
     bool isModal = false;
 };
 
-bool isAlways(const MainWindow&) {
-    return true;
-}
-
 template <typename Window>
 bool hasModal(const MainWindow&) {
     return qobject_cast<Window*>(QApplication::activeModalWidget());
+}
+
+bool hasPopup(const MainWindow&) {
+    return QApplication::activePopupWidget() != nullptr;
+}
+
+bool sendsPrompts(const MainWindow& window) {
+    return window.findChild<QPushButton*>("pBOllamaGo")->text() == "Abort prompt";
+}
+
+bool hasVideo(const MainWindow& window) {
+    const auto* player = window.findChild<VideoWidget*>()->findChild<QMediaPlayer*>();
+    return player && player->mediaStatus() >= QMediaPlayer::LoadedMedia;
+}
+
+void scanAgain(MainWindow& window) {
+    window.openWorkingDirectory(window.findChild<QLineEdit*>("lEWorkingPath")->text());
 }
 
 void addEffect(MainWindow& window) {
@@ -42,34 +58,24 @@ void addEffect(MainWindow& window) {
     window.findChild<QPushButton*>("pBDspApply")->click();
 }
 
+void openVideo(MainWindow& window) {
+    window.showEditVideoWidget()->openFile(clipPath("h264.mp4"));
+}
+
 const QList<Scene>& scenes() {
     static const QList<Scene> all{
-        {"a scan and its previews", nullptr, isAlways},
-        {"a second scan",
-         [](MainWindow& window) {
-             window.openWorkingDirectory(window.findChild<QLineEdit*>("lEWorkingPath")->text());
-         },
-         isAlways},
-        {"a file dialog", [](MainWindow& window) { window.importFiles(); }, hasModal<QFileDialog>, true},
-        {"a question", [](MainWindow& window) { window.deleteFile(); }, hasModal<QMessageBox>, true},
-        {"a context menu", [](MainWindow& window) { window.onImagesCustomContextMenu(); },
-         [](const MainWindow&) { return QApplication::activePopupWidget() != nullptr; }, true},
-        {"a request for the models",
-         [](MainWindow& window) { window.findChild<QToolButton*>("tBOllamaReconect")->click(); }, isAlways},
-        {"a batch of prompts", [](MainWindow& window) { window.onOllamaSendPrompt(); },
-         [](const MainWindow& window) {
-             return window.findChild<QPushButton*>("pBOllamaGo")->text() == "Abort prompt";
-         }},
-        {"a resize batch", [](MainWindow& window) { window.onProcessResize(); }, isAlways},
-        {"an effects batch", addEffect, isAlways},
-        {"an export", [](MainWindow& window) { window.onTagsExport(); }, isAlways},
-        {"an editor", [](MainWindow& window) { window.editImage(); }, isAlways},
-        {"a video window",
-         [](MainWindow& window) { window.showEditVideoWidget()->openFile(clipPath("h264.mp4")); },
-         [](const MainWindow& window) {
-             const auto* player = window.findChild<VideoWidget*>()->findChild<QMediaPlayer*>();
-             return player && player->mediaStatus() >= QMediaPlayer::LoadedMedia;
-         }},
+        {"a scan and its previews", [](MainWindow&) {}},
+        {"a second scan", scanAgain},
+        {"a file dialog", &MainWindow::importFiles, hasModal<QFileDialog>, true},
+        {"a question", &MainWindow::deleteFile, hasModal<QMessageBox>, true},
+        {"a context menu", &MainWindow::onImagesCustomContextMenu, hasPopup, true},
+        {"a request for the models", &MainWindow::checkOllamaServer},
+        {"a batch of prompts", &MainWindow::onOllamaSendPrompt, sendsPrompts},
+        {"a resize batch", &MainWindow::onProcessResize},
+        {"an effects batch", addEffect},
+        {"an export", &MainWindow::onTagsExport},
+        {"an editor", &MainWindow::editImage},
+        {"a video window", openVideo, hasVideo},
     };
     return all;
 }
@@ -107,8 +113,7 @@ int play(const QString& name, const QString& directory, const QString& server) {
         if (scene == scenes().end())
             saveForEver(ready, directory);
         isInside = true;
-        if (scene->begin)
-            scene->begin(ready);
+        scene->begin(ready);
     };
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
@@ -117,7 +122,7 @@ int play(const QString& name, const QString& directory, const QString& server) {
             window.findChild<QListView*>("listView")->selectAll();
             // In a timer of its own: this one does not fire again before its slot ends.
             QTimer::singleShot(0, &window, [&] { begin(window); });
-        } else if (isInside && scene->isUnderWay(window)) {
+        } else if (isInside && (!scene->isUnderWay || scene->isUnderWay(window))) {
             poll.stop();
             if (scene->isModal)
                 QCoreApplication::quit();

@@ -1,16 +1,11 @@
+#include "Require.h"
 #include "safetensors/JsonParser.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
-
-void require(bool isTrue) {
-    if (!isTrue)
-        std::abort();
-}
 
 // Equal trees, and trees that hold what the reader promises: kinds that exist, and keys that are found.
 void requireEqual(const JsonValue& left, const JsonValue& right, int depth) {

@@ -1,16 +1,11 @@
+#include "Require.h"
 #include "imaging/EffectList.h"
 #include "imaging/ProfileStream.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
-
-void require(bool isTrue) {
-    if (!isTrue)
-        std::abort();
-}
 
 void requireSameShape(const Profile& left, const Profile& right) {
     require(left.name() == right.name() && left.options().size() == right.options().size());

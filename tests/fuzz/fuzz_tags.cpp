@@ -1,3 +1,4 @@
+#include "Require.h"
 #include "tags/TagText.h"
 
 #include <QByteArray>
@@ -5,14 +6,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
-
-void require(bool isTrue) {
-    if (!isTrue)
-        std::abort();
-}
 
 // A save replaces the bytes of a sidecar just where they are not valid; a leading mark goes in any case.
 QString decoded(const QByteArray& bytes) {
