@@ -107,6 +107,7 @@ private slots:
             {"error in the second value goes first", R"({"a":1,"a":tru})", undefined},
             {"duplicate goes before a later error", R"({"a":1,"a":2 x)", duplicated},
             // Literals and numbers.
+            {"literal at the end", "true", "true"},
             {"literal cut short", "tru", undefined},
             {"literal too long", "truex", undefined},
             {"literal of another case", "True", invalid},
@@ -148,7 +149,7 @@ private slots:
             {"minus and fraction", "-.5", -0.5},
             {"leading zeros", "007", 7},
             {"many leading zeros", zeros + "1.5", 1.5},
-            {"hexadecimal", "-0x1F", -0.0},
+            {"hexadecimal", "-0xF", -0.0},
             {"leading zeros in the exponent", "1e000005", 100000},
             {"fraction and exponent", "12.5e2", 1250},
             {"tie goes to even", halfway, 9007199254740992.0},
@@ -221,9 +222,9 @@ private slots:
         }
     }
 
-    // Every code point, plain and by escapes.
+    // Code points of all lengths, plain and by escapes.
     void codePointsAreEncoded() {
-        for (char32_t code = 0x20; code <= QChar::LastValidCodePoint; code += code < 0x11000 ? 1 : 0xFFF) {
+        for (char32_t code = QChar::LastValidCodePoint; code >= 0x20; code -= code > 0x11000 ? 0xFFF : 1) {
             const QString text = QString::fromUcs4(&code, 1);
             if (QChar::isSurrogate(code) || code == '"' || code == '\\')
                 continue;
