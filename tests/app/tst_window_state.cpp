@@ -1,6 +1,7 @@
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "catalogue/MediaModel.h"
+#include "editor/EditImageWidget.h"
 #include "support/MediaFolder.h"
 #include "support/ModalAnswer.h"
 #include "support/WindowDriver.h"
@@ -71,6 +72,44 @@ private slots:
         QCOMPARE(driver.widget<QPlainTextEdit>("pTEPromptSystem")->toPlainText(),
                  QString("You are an image artist."));
         QCOMPARE(driver.widget<QComboBox>("cBResizeSrcScaleAlignment")->count(), 9);
+    }
+
+    void aFirstStartSetsItsWidgets() {
+        const WindowDriver driver;
+        const std::tuple<const char*, const char*, QVariant> expected[] = {
+            {"listView", "spacing", 8},
+            {"listView", "uniformItemSizes", false},
+            {"listView", "gridSize", QSize(240, 240)},
+            {"treeView", "iconSize", QSize(32, 32)},
+            {"treeView", "rootIsDecorated", true},
+            {"treeView", "sortingEnabled", true},
+            {"tableView", "iconSize", QSize(32, 32)},
+            {"tableView", "showGrid", true},
+            {"tableView", "sortingEnabled", true},
+            {"tableView", "wordWrap", true},
+            {"lwImageTags", "spacing", 8},
+            {"lwImageTags", "sortingEnabled", false},
+            {"lwAllImagesTags", "sortingEnabled", false},
+            {"lWDspEffects", "spacing", 8},
+            {"lWDspEffects", "sortingEnabled", false},
+            {"sBOllamaScaleResW", "value", -1},
+            {"sBOllamaScaleResH", "value", -1},
+            {"cBOllamaAddTags", "checked", true},
+            {"hSResizeImgWriteQuality", "value", 100},
+            {"cBResizeSrcAspectRatio", "currentIndex", 1},
+            {"cBResizeSrcTransformationType", "currentIndex", 1},
+            {"cBProfilesName_HL", "currentText", "Default"},
+        };
+        for (const auto& [name, property, value] : expected)
+            QVERIFY2(driver.widget<QWidget>(name)->property(property) == value, name);
+        for (const QHeaderView* header : {driver.widget<QTreeView>("treeView")->header(),
+                                          driver.widget<QTableView>("tableView")->horizontalHeader()}) {
+            QVERIFY(header->sectionsClickable() && header->sectionsMovable() &&
+                    header->isSortIndicatorClearable());
+        }
+        QVERIFY(driver.widget<QTableView>("tableView")->horizontalHeader()->stretchLastSection());
+        QVERIFY(driver.widget<EditImageWidget>("imgWidget")->autoCenter());
+        QCOMPARE(driver.widget<EditImageWidget>("imgWidget")->cutOutlineWidth(), 8);
     }
 
     void theWindowComesBackAsItWasLeft() {

@@ -6,6 +6,7 @@
 #include "support/WindowDriver.h"
 
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
@@ -36,6 +37,7 @@ private slots:
         QTRY_COMPARE(
             driver.cellData("b.png", ColName, Qt::DecorationRole).value<QImage>().pixelColor(109, 109),
             QColor(Qt::red));
+        folder.addTags("c.png", "blue");
         QVERIFY(QFile::rename(folder.filePath("b.png"), folder.filePath("c.png")));
         QTRY_COMPARE(driver.catalogueNames(), QStringList({"a.png", "c.png"}));
         QVERIFY(QFile::remove(folder.filePath("c.png")));
@@ -43,7 +45,8 @@ private slots:
         QTRY_COMPARE(driver.statusText(), QString("Removed 1 missing items."));
         folder.addFile("notes.md", "x");
         QTRY_COMPARE(driver.statusText(), QString("Removed 0 missing items."));
-        QVERIFY(!driver.tagTexts("lwAllImagesTags").contains("red"));
+        QCOMPARE(driver.tagTexts("lwAllImagesTags"), QStringList("unsaved"));
+        QCOMPARE(WindowDriver::logCount("failed to remove items"), 0);
     }
 
     void aStormEndsWithWhatAScanFinds() {
@@ -138,6 +141,7 @@ private slots:
         driver.select({"b.png"});
         QVERIFY(driver.chooseFromMediaMenu("&Delete stray txt files"));
         QTRY_COMPARE(WindowDriver::logCount("Found 2 stray txt files, moved to trash bin."), 1);
+        QCOMPARE(WindowDriver::logCount("unable to move file to trash"), 0);
         QCOMPARE(folder.names(), QStringList({"b.png", "b.txt"}));
     }
 
@@ -158,6 +162,10 @@ private slots:
         QCOMPARE(driver.statusText(), "Unable to import file from " + source.filePath("a.png") +
                                           ", file already exist at: " + folder.filePath("a.png"));
         Settings::instance()->setData(keys::importFilesAutoRename, true);
+        source.addImage("b.png");
+        folder.addImage("b.png");
+        import({source.filePath("b.png")});
+        QVERIFY(folder.exists("b_0.png") && source.exists("b.png"));
         Settings::instance()->setData(keys::importFilesDeleteSrc, true);
         import({source.filePath("a.png")});
         QVERIFY(folder.exists("a_1.png") && !source.exists("a.png"));
@@ -169,6 +177,7 @@ private slots:
         Settings::instance()->setData(keys::importFilesDeleteSrc, false);
         import({folder.filePath("a.png")});
         QVERIFY(folder.exists("a.png") && folder.exists("a_2.png"));
+        QCOMPARE(WindowDriver::logCount("unable to move to trash file"), 0);
     }
 
     void openingManyAsks() {
@@ -177,12 +186,58 @@ private slots:
         for (int number = 0; number < 9; ++number)
             names.append(QFileInfo(folder.addImage(QString("%1.png").arg(number))).fileName());
         WindowDriver driver(folder.path());
-        driver.select(names);
+        QDesktopServices::setUrlHandler("file", this, "openUrl");
         for (const char* entry : {"&Open in native app", "Show file in &file browser"}) {
+            driver.select(names);
             const ModalAnswer answer(QMessageBox::No);
             QVERIFY(driver.chooseFromMediaMenu(entry));
             QCOMPARE(answer.text(), QString("Open 9 file browsers?"));
         }
+        QVERIFY(_openedUrls.isEmpty());
+        driver.select(names.first(8));
+        QVERIFY(driver.chooseFromMediaMenu("&Open in native app"));
+        QDesktopServices::unsetUrlHandler("file");
+        QCOMPARE(_openedUrls.size(), 8);
+        QVERIFY(_openedUrls.contains(QUrl::fromLocalFile(folder.filePath("0.png"))));
+    }
+
+    void entriesFollowTheKindOfFile() {
+        const MediaFolder folder;
+        folder.addImage("image.png");
+        folder.addTags("image.png", "red");
+        folder.addFile("clip.mp4", "no video");
+        WindowDriver driver(folder.path());
+        const auto entriesFor = [&](const QString& name) {
+            driver.select({name});
+            const ModalAnswer answer(QString("no such entry"));
+            driver.window().onImagesCustomContextMenu();
+            return answer.menuEntries();
+        };
+        const QStringList ofImage = entriesFor("image.png");
+        QVERIFY(ofImage.contains("Edit &tag file") && ofImage.contains("&Edit image"));
+        QVERIFY(!ofImage.contains("Edit v&ideo"));
+        const QStringList ofClip = entriesFor("clip.mp4");
+        QVERIFY(!ofClip.contains("Edit &tag file") && !ofClip.contains("&Edit image"));
+        QVERIFY(ofClip.contains("Edit v&ideo"));
+    }
+
+    void theDirectoryDialogStartsWhereTheUserIs() {
+        const MediaFolder first;
+        const MediaFolder second;
+        WindowDriver driver(first.path());
+        const auto startOfDialog = [&](const QString& typed) {
+            driver.widget<QLineEdit>("lEWorkingPath")->setText(typed);
+            QString start;
+            const ModalAnswer answer(ModalAnswer::DialogAnswer([&](QDialog* dialog) {
+                start = static_cast<QFileDialog*>(dialog)->directory().path();
+                dialog->reject();
+            }));
+            driver.window().onSrcSelectPath();
+            return start;
+        };
+        QCOMPARE(startOfDialog(second.path()), second.path());
+        QCOMPARE(startOfDialog(QString()), second.path());
+        QCOMPARE(startOfDialog("/no/such/place"), second.path());
     }
 
     void commentsAreShownCopiedAndExtracted() {
@@ -210,6 +265,7 @@ private slots:
         const ModalAnswer answer(chooseFiles({target.path()}));
         QVERIFY(driver.chooseFromMediaMenu("E&xtract workflow"));
         QCOMPARE(target.content("a.json"), workflow.toUtf8());
+        QCOMPARE(WindowDriver::logCount("unable to write content"), 0);
         driver.select({"huge.png"});
         QCOMPARE(tree->topLevelItem(0)->child(0)->text(1).size(), 5'000'000);
         driver.select({"plain.png"});
@@ -265,6 +321,13 @@ private slots:
         second.addImage("seen.png");
         QTRY_COMPARE(driver.catalogueNames(), QStringList({"second.png", "seen.png"}));
     }
+
+public slots:
+    // Stands in for the desktop.
+    void openUrl(const QUrl& url) { _openedUrls.append(url); }
+
+private:
+    QList<QUrl> _openedUrls;
 };
 
 QTEST_MAIN(TestWindowFiles)

@@ -85,12 +85,13 @@ private slots:
         _folder->addImage("d.jpg", {1, 1});
         _folder->addImage("e.png");
         _folder->addImage("f.png");
+        _folder->addFile("g.png");
         openWithPeer();
         _driver->widget<QComboBox>("cBOllamaModels")->setCurrentIndex(1);
         _driver->widget<QSpinBox>("sBOllamaScaleResW")->setValue(32);
         _peer->setAnswers(generatePath, {answered("one, two,,three", OllamaPeer::Held), answered("an error"),
                                          answered("last\n")});
-        _driver->select({"a.png", "b.png", "c.mp4", "d.jpg", "e.png", "f.png"});
+        _driver->select({"a.png", "b.png", "c.mp4", "d.jpg", "e.png", "f.png", "g.png"});
         duringRequest(1, [this] {
             // The window lives: what the user does now is kept.
             QCOMPARE(_driver->widget<QPushButton>("pBOllamaGo")->text(), QString("Abort prompt"));
@@ -103,18 +104,32 @@ private slots:
         });
         _driver->click("pBOllamaGo");
 
-        QCOMPARE(_driver->statusText(), QString("Ollama processing done for 6"));
-        QCOMPARE(WindowDriver::logCount("Ollama processing: 3 total 6"), 1);
-        QCOMPARE(WindowDriver::logCount("Ollama processing: 4 total 6"), 0);
+        QCOMPARE(_driver->statusText(), QString("Ollama processing done for 7"));
+        QCOMPARE(WindowDriver::logCount("Ollama processing: 3 total 7"), 1);
+        QCOMPARE(WindowDriver::logCount("Ollama processing: 4 total 7"), 0);
         QCOMPARE(WindowDriver::logCount("Error, unable to open file:"), 1);
-        QCOMPARE(WindowDriver::logCount("Error, image is null for:"), 2);
+        QCOMPARE(WindowDriver::logCount("Error, image is null for:"), 3);
         QCOMPARE(_driver->widget<QPushButton>("pBOllamaGo")->text(), QString("Send prompt"));
-        QCOMPARE(responses(),
-                 QStringList({"<time>", "one, two,,three", "<time>", "Error processing: " + path("b.png"),
-                              "Error, image is null.", "<time>", "Error processing: " + path("c.mp4"),
-                              "Error, image is null.", "<time>", "Error processing: " + path("d.jpg"),
-                              "no error occurred - {", "    \"response\": \"an error\"", "}", "", "<time>",
-                              "last", ""}));
+        QCOMPARE(responses(), QStringList({"<time>",
+                                           "one, two,,three",
+                                           "<time>",
+                                           "Error processing: " + path("b.png"),
+                                           "Error, image is null.",
+                                           "<time>",
+                                           "Error processing: " + path("c.mp4"),
+                                           "Error, image is null.",
+                                           "<time>",
+                                           "Error processing: " + path("d.jpg"),
+                                           "no error occurred - {",
+                                           "    \"response\": \"an error\"",
+                                           "}",
+                                           "",
+                                           "<time>",
+                                           "last",
+                                           "",
+                                           "<time>",
+                                           "Error processing: " + path("g.png"),
+                                           "Error, image is null."}));
         QCOMPARE(tags("a.png"), QStringList({"old", "edited", "one", " two", "three"}));
         QCOMPARE(tags("d.jpg"), QStringList());
         QCOMPARE(tags("f.png"), QStringList("last\n"));

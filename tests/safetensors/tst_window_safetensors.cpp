@@ -137,6 +137,7 @@ private slots:
         QTRY_VERIFY(!dialog);
         dialog = inspect({"full.safetensors"}).value(0);
         QCOMPARE(dialog->size(), QSize(500, 400));
+        QCOMPARE(dialog->saveSplitterState(), splitterState);
         dialog->resize(510, 410);
         // A window that is still open at the end is kept as well, and so is the directory.
         _driver.reset();

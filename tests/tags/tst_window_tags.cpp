@@ -114,6 +114,8 @@ private slots:
         WindowDriver driver(folder.path());
         auto* editor = driver.widget<QPlainTextEdit>("pTETagsFromFile");
         const auto* label = driver.widget<QLabel>("labelTagsFromFile");
+        // After a scan it holds the last file that was read.
+        QCOMPARE(editor->property("imgFileName").toString(), driver.window().allFilePaths().last());
         driver.select({"b.png"});
         QCOMPARE(label->text(), "File tag, txt, missing for: " + folder.filePath("b.txt"));
         driver.select({"a.png"});

@@ -1,3 +1,5 @@
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaModel.h"
 #include "support/Clips.h"
@@ -191,6 +193,13 @@ private slots:
         video->onGrabFrame();
         QCOMPARE(WindowDriver::logCount("Path is empty..."), 1);
         QCOMPARE(driver.catalogue()->rowCount(), 1);
+
+        video->resize(700, 500);
+        video->close();
+        driver.close();
+        WindowDriver later(folder.path());
+        QCOMPARE(later.window().showEditVideoWidget()->size(), QSize(700, 500));
+        QVERIFY(!Settings::instance()->data(keys::videoWidgetState).toByteArray().isEmpty());
     }
 
     void leavingDuringAProbe_data() {
