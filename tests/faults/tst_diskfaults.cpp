@@ -1,5 +1,6 @@
 #include "faults/Operations.h"
 #include "support/MediaFolder.h"
+#include "support/Rows.h"
 
 #include <QApplication>
 #include <QDir>
@@ -144,18 +145,16 @@ private slots:
     void init() { WindowDriver::forgetSettings(); }
 
     void everyOperationMeets_data() {
-        QTest::addColumn<int>("fault");
-        QTest::newRow("files that are gone") << int(FilesGone);
-        QTest::newRow("a directory that is gone") << int(DirectoryGone);
-        QTest::newRow("directories in the place of files, and files in that of directories")
-            << int(ThingsInPlace);
-        QTest::newRow("a disk that takes nothing from this user") << int(ReadOnly);
-        QTest::newRow("a full disk") << int(DiskFull);
+        addRows<DiskFault>({
+            {"files that are gone", FilesGone},
+            {"a directory that is gone", DirectoryGone},
+            {"directories and files in each other's place", ThingsInPlace},
+            {"a disk that takes nothing from this user", ReadOnly},
+            {"a full disk", DiskFull},
+        });
     }
-
     void everyOperationMeets() {
-        QFETCH(int, fault);
-        const auto kind = static_cast<DiskFault>(fault);
+        const auto& [kind] = row<DiskFault>();
         const FaultyDisk disk;
         if (kind == DiskFull && !disk.isSmall)
             QSKIP("no right to mount a small file system");

@@ -29,7 +29,6 @@ public:
     [[nodiscard]] bool isUsed() const { return _isUsed; }
     [[nodiscard]] QString text() const { return _text; }
     [[nodiscard]] QString informativeText() const { return _informativeText; }
-    [[nodiscard]] QStringList menuEntries() const { return _menuEntries; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -43,7 +42,6 @@ private:
     bool _isUsed = false;
     QString _text;
     QString _informativeText;
-    QStringList _menuEntries;
 };
 
 // Types a path into the next file dialog and accepts it; an empty path cancels.
