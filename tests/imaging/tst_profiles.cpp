@@ -176,18 +176,27 @@ private slots:
         QCOMPARE(currentName(), QString("C"));
     }
 
+    void chooserReports_data() { addRows<bool, QString>({{"one row", true, "_HL"}, {"stacked", false, ""}}); }
     void chooserReports() {
-        ProfilesWidget* const chooser = _profiles->widget(_window.get(), true);
-        const auto click = [chooser](const char* name) { chooser->findChild<QToolButton*>(name)->click(); };
+        const auto& [horizontal, suffix] = row<bool, QString>();
+        ProfilesWidget* const chooser = _profiles->widget(_window.get(), horizontal);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(chooser->findChildren<QGroupBox*>().size(), horizontal ? 0 : 1);
+        QCOMPARE(chooser->findChildren<QComboBox*>().size(), 1);
+        QCOMPARE(chooser->findChildren<QToolButton*>().size(), 5);
+        QCOMPARE(chooser->toolButtons().size(), 5);
+        const auto click = [&, &end = suffix](const QString& name) {
+            chooser->findChild<QToolButton*>("tbProfile" + name + end)->click();
+        };
         QStringList told;
+        const auto tell = [&told](const QString& what) {
+            return [&told, what](int index) { told << what + QString::number(index); };
+        };
         connect(_profiles, &Profiles::profilesNewRequested, this, [&] { told << "new"; });
-        connect(_profiles, &Profiles::profilesEditRequested, this,
-                [&](int index) { told << QString("edit %1").arg(index); });
-        connect(_profiles, &Profiles::profilesRemoveRequested, this,
-                [&](int index) { told << QString("remove %1").arg(index); });
-        connect(chooser, &ProfilesWidget::moveCurrentProfile, this,
-                [&](bool up) { told << (up ? "up" : "down"); });
-        for (const char* button : {"tbProfileMoveUp_HL", "tbProfileMoveDown_HL", "tbProfileRemove_HL"}) {
+        connect(_profiles, &Profiles::profilesEditRequested, this, tell("edit "));
+        connect(_profiles, &Profiles::profilesRemoveRequested, this, tell("remove "));
+        connect(chooser, &ProfilesWidget::moveCurrentProfile, this, tell("move up "));
+        for (const char* button : {"MoveUp", "MoveDown", "Remove"}) {
             QTest::ignoreMessage(QtDebugMsg, "Profiles are empty.");
             click(button);
         }
@@ -195,34 +204,12 @@ private slots:
         chooser->onProfileMove();
         QCOMPARE(told, QStringList());
         add({"A", "B"});
-        for (const char* button : {"tbProfileNew_HL", "tbProfileEdit_HL", "tbProfileRemove_HL"})
+        for (const char* button : {"New", "Edit", "Remove", "MoveDown"})
             click(button);
-        click("tbProfileMoveDown_HL");
         QCOMPARE(names(), "B A");
-        click("tbProfileMoveUp_HL");
+        click("MoveUp");
         QCOMPARE(names(), "A B");
-        QCOMPARE(told, QStringList({"new", "edit 0", "remove 0", "down", "up"}));
-    }
-
-    void chooserHasOnePage_data() {
-        addRows<bool, QString, QString>({
-            {"one row", true, "cBProfilesName_HL", "tbProfileMoveUp_HL"},
-            {"stacked", false, "cBProfilesName", "tbProfileMoveUp"},
-        });
-    }
-    void chooserHasOnePage() {
-        const auto& [horizontal, comboBox, firstButton] = row<bool, QString, QString>();
-        add({"A", "B"}, 1);
-        ProfilesWidget* const chooser = _profiles->widget(_window.get(), horizontal);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(chooser->findChildren<QGroupBox*>().size(), horizontal ? 0 : 1);
-        QCOMPARE(chooser->findChildren<QComboBox*>().size(), 1);
-        QVERIFY(chooser->findChild<QComboBox*>(comboBox));
-        QCOMPARE(chooser->findChildren<QToolButton*>().size(), 5);
-        QCOMPARE(chooser->toolButtons().size(), 5);
-        QCOMPARE(chooser->toolButtons().first()->objectName(), firstButton);
-        chooser->toolButtons().first()->click();
-        QCOMPARE(names(), "B A");
+        QCOMPARE(told, QStringList({"new", "edit 0", "remove 0", "move up 0", "move up 1"}));
     }
 
     void editRenames() {
