@@ -107,7 +107,7 @@ private slots:
             {"error in the second value goes first", R"({"a":1,"a":tru})", undefined},
             {"duplicate goes before a later error", R"({"a":1,"a":2 x)", duplicated},
             // Literals and numbers.
-            {"literal at the end", "true", "true"},
+            {"literal at the end", "true\0x"s, "true"},
             {"literal cut short", "tru", undefined},
             {"literal too long", "truex", undefined},
             {"literal of another case", "True", invalid},
