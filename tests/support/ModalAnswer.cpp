@@ -81,6 +81,8 @@ void ModalAnswer::answerDialog(QDialog* dialog) {
 
 void ModalAnswer::answerMenu(QMenu* menu) {
     _isUsed = true;
+    for (const QAction* action : menu->actions())
+        _menuEntries.append(action->isSeparator() ? QString("-") : action->text());
     _menuAnswer(menu);
 }
 

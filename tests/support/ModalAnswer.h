@@ -29,6 +29,7 @@ public:
     [[nodiscard]] bool isUsed() const { return _isUsed; }
     [[nodiscard]] QString text() const { return _text; }
     [[nodiscard]] QString informativeText() const { return _informativeText; }
+    [[nodiscard]] QStringList menuEntries() const { return _menuEntries; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -42,6 +43,7 @@ private:
     bool _isUsed = false;
     QString _text;
     QString _informativeText;
+    QStringList _menuEntries;
 };
 
 // Types a path into the next file dialog and accepts it; an empty path cancels.
