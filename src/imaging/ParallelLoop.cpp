@@ -21,9 +21,14 @@ public:
         : _chunkSize(count / chunks), _longerChunks(count % chunks), _chunks(chunks), _step(step) {}
 
     void work() {
-        for (qsizetype chunk = _next.fetch_add(1); chunk < _chunks; chunk = _next.fetch_add(1))
+        const qsizetype chunks = _chunks;
+        for (qsizetype chunk = _next.fetch_add(1); chunk < chunks; chunk = _next.fetch_add(1))
             _step(begin(chunk), begin(chunk + 1));
     }
+
+    // What the threads wrote before they found no chunk left is visible after this. The pool and its
+    // semaphore see to that as well, but out of sight of a race check.
+    void takeOver() const { (void)_next.load(); }
 
 private:
     [[nodiscard]] qsizetype begin(qsizetype chunk) const {
@@ -41,16 +46,18 @@ class ChunkWorker : public QRunnable {
 public:
     ChunkWorker() { setAutoDelete(false); }
     void attach(ChunkQueue* queue, QSemaphore* finished) {
-        _queue = queue;
         _finished = finished;
+        _queue = queue;
     }
     void run() override {
-        _queue->work();
-        _finished->release();
+        ChunkQueue* const queue = _queue;
+        QSemaphore* const finished = _finished;
+        queue->work();
+        finished->release();
     }
 
 private:
-    ChunkQueue* _queue = nullptr;
+    std::atomic<ChunkQueue*> _queue = nullptr; // hands over what was written before
     QSemaphore* _finished = nullptr;
 };
 
@@ -79,4 +86,5 @@ void parallelLoop(qsizetype count, int threads, const ChunkStep& step) {
     }
     queue.work();
     finished.acquire(static_cast<int>(items));
+    queue.takeOver();
 }
