@@ -68,6 +68,16 @@ long residentKilobytes() {
     return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLong();
 }
 
+void atEachSize(int argc, char* argv[], const std::function<void(int files)>& measure) {
+    const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
+    for (const int files : {1000, 10000, 50000}) {
+        if (wanted != 0 && wanted != files)
+            continue;
+        std::printf("\n### %d files\n\n", files);
+        measure(files);
+    }
+}
+
 BenchWindow::BenchWindow(int files) {
     // Again for each window, since one that goes gives the log back to the terminal.
     silenceLog();

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 class QListWidget;
@@ -22,6 +23,9 @@ void makeFiles(const QString& directory, int first, int last);
 
 // Of this process; no page that has been given back counts.
 [[nodiscard]] long residentKilobytes();
+
+// Measures at each size of directory, or at the one that the first argument names.
+void atEachSize(int argc, char* argv[], const std::function<void(int files)>& measure);
 
 // The real window on a catalogue of its own.
 class BenchWindow {

@@ -152,17 +152,13 @@ private:
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
-    const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
-    for (const int files : {1000, 10000, 50000}) {
-        if (wanted != 0 && wanted != files)
-            continue;
-        std::printf("\n### %d files\n\n", files);
+    atEachSize(argc, argv, [](int files) {
         Bench bench(files);
         Ratio::header();
         bench.strayTexts();
         bench.nothingNew();
         bench.oneNewFile();
         bench.burst();
-    }
+    });
     return 0;
 }

@@ -61,7 +61,6 @@ public:
 
     // All topics, or the one of that name.
     void run(const QString& only) {
-        std::printf("\n### %d files\n\n", _files);
         loading();
         Ratio::header();
         opening();
@@ -282,10 +281,6 @@ private:
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("Tessarine");
-    const int wanted = argc > 1 ? QString(argv[1]).toInt() : 0;
-    for (const int files : {1000, 10000, 50000}) {
-        if (wanted == 0 || wanted == files)
-            Bench(files).run(argc > 2 ? argv[2] : "");
-    }
+    atEachSize(argc, argv, [&](int files) { Bench(files).run(argc > 2 ? argv[2] : ""); });
     return 0;
 }
