@@ -126,6 +126,7 @@ private slots:
             driver.widget<QTableView>("tableView")->horizontalHeader()->setSectionHidden(ColSize, true);
             driver.widget<QTreeView>("treeView")->header()->moveSection(0, 3);
             driver.widget<QListView>("listView")->setViewMode(QListView::ListMode);
+            driver.widget<QMenu>("menu_Themes")->actions().at(1)->trigger();
         }
         WindowDriver driver;
         QCOMPARE(driver.widget<QLineEdit>("lEWorkingPath")->text(), WindowDriver::emptyDirectory());
@@ -139,6 +140,8 @@ private slots:
         QVERIFY(driver.widget<QTableView>("tableView")->horizontalHeader()->isSectionHidden(ColSize));
         QCOMPARE(driver.widget<QTreeView>("treeView")->header()->visualIndex(0), 3);
         QCOMPARE(driver.widget<QListView>("listView")->viewMode(), QListView::ListMode);
+        QVERIFY(driver.widget<QMenu>("menu_Themes")->actions().at(1)->isChecked());
+        driver.widget<QMenu>("menu_Themes")->actions().at(0)->trigger();
         // The quality alone never survives.
         QCOMPARE(driver.widget<QSlider>("hSResizeImgWriteQuality")->value(), 100);
         QCOMPARE(driver.widget<QLabel>("label_Quality")->text(), QString("Quality [100]:"));
