@@ -3,6 +3,7 @@
 #include "support/Rows.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -209,17 +210,26 @@ private slots:
                  1);
     }
 
-    void sharedSidecarsAreNamed() {
+    void silentLossIsNamed() {
         const MediaFolder folder;
-        for (const char* name : {"a.png", "a.bmp", "b.png"})
+        QVERIFY(QDir(folder.path()).mkdir("sub"));
+        for (const char* name : {"a.png", "a.bmp", "b.png", "sub/b.png"})
             folder.addImage(name);
+        folder.addTags("b.png", "caf\xe9");
         WindowDriver driver(folder.path());
+        QVERIFY(WindowDriver::logCount("Warning, sidecar is not valid UTF-8: \"" + folder.filePath("b.txt")) >
+                0);
         driver.window().setImageTags(folder.filePath("a.png"), {"png"});
         driver.window().setImageTags(folder.filePath("a.bmp"), {"bmp"});
         driver.window().onSaveTags();
         QVERIFY(folder.content("a.txt") == "png" || folder.content("a.txt") == "bmp");
         QCOMPARE(WindowDriver::logCount("Warning, another file shares this sidecar"), 1);
         QCOMPARE(WindowDriver::logCount("its tags are overwritten: \"" + folder.filePath("a.txt")), 1);
+        driver.widget<QCheckBox>("cBWorkingDirScanRecursive")->setChecked(true);
+        driver.rescan();
+        driver.widget<QListView>("listView")->selectAll();
+        driver.window().onProcessResize();
+        QCOMPARE(WindowDriver::logCount("Warning, another file of this run had the same name"), 1);
     }
 };
 
