@@ -52,9 +52,9 @@ QString destinationFilePath(const QString& srcFilePath, const QString& directory
     return (isClosed ? u"%1%2"_s : u"%1/%2"_s).arg(directory, QFileInfo(srcFilePath).fileName());
 }
 
-QString foldedPath(const QString& path) {
+QString foldedCase(const QString& text) {
     // QString::toCaseFolded may change the length of a text ("ß"), which comparing never does.
-    std::u32string characters = path.toStdU32String();
+    std::u32string characters = text.toStdU32String();
     for (char32_t& character : characters)
         character = QChar::toCaseFolded(character);
     return QString::fromStdU32String(characters);

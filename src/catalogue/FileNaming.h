@@ -14,5 +14,6 @@
 // The file's name in another directory.
 [[nodiscard]] QString destinationFilePath(const QString& srcFilePath, const QString& directory);
 
-// Equal for two paths exactly when QString::compare finds them equal regardless of case; for sets of paths.
-[[nodiscard]] QString foldedPath(const QString& path);
+// Equal for two texts exactly when QString::compare finds them equal regardless of case; for sets of paths or
+// tags.
+[[nodiscard]] QString foldedCase(const QString& text);

@@ -1,8 +1,6 @@
 #include "catalogue/MediaFilter.h"
 
-#include "catalogue/MediaModel.h"
-
-#include <QStandardItemModel>
+#include "catalogue/MediaItemModel.h"
 
 #include <algorithm>
 #include <array>
@@ -15,8 +13,8 @@ bool isMissingTxtFilter(const QString& txt) {
 
 MediaFilter::MediaFilter(const QString& txt) : _matcher(txt, Qt::CaseInsensitive) {}
 
-bool MediaFilter::matches(const QStandardItemModel& model, int row, const QStringList& tags) const {
-    auto* name = static_cast<MediaItem*>(model.item(row, ColName));
+bool MediaFilter::matches(const MediaItemModel& model, int row, const QStringList& tags) const {
+    MediaItem* name = model.itemAt(row);
     for (const int role : {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(RoleValue)}) {
         if (isIn(name->data(role).toString()))
             return true;

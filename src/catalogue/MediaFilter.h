@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QStringMatcher>
 
-class QStandardItemModel;
+class MediaItemModel;
 
 // Whether the filter text asks for the files whose sidecar is missing or empty.
 [[nodiscard]] bool isMissingTxtFilter(const QString& txt);
@@ -14,7 +14,7 @@ class MediaFilter {
 public:
     explicit MediaFilter(const QString& txt);
 
-    [[nodiscard]] bool matches(const QStandardItemModel& model, int row, const QStringList& tags) const;
+    [[nodiscard]] bool matches(const MediaItemModel& model, int row, const QStringList& tags) const;
 
 private:
     [[nodiscard]] bool isIn(const QString& text) const { return _matcher.indexIn(text) >= 0; }

@@ -1,9 +1,16 @@
 #pragma once
 
-#include <QSignalBlocker>
-#include <QStandardItemModel>
+#include "catalogue/MediaModel.h"
 
-// The catalogue's model. Rows that come by the thousand are announced as one change.
+#include <QHash>
+#include <QStandardItemModel>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+// The catalogue: a row for each media file, found by its key. Rows that come by the thousand are announced as
+// one change.
 class MediaItemModel : public QStandardItemModel {
     Q_OBJECT
 
@@ -26,4 +33,28 @@ public:
     private:
         MediaItemModel& _model;
     };
+
+    // Removes all rows and captions the columns.
+    void clearFiles(const QStringList& captions);
+    // Appends a row; the two texts are those of a column that says whether something is there.
+    void appendFile(const MediaRecord& record, const QString& yes, const QString& no);
+    // Removes the rows of the files, compared regardless of case. False where a row could not be removed.
+    bool removeFiles(const QStringList& keys);
+
+    [[nodiscard]] bool contains(const QString& key) const { return _itemsByPath.contains(key); }
+    // The ColName item of a file; null without a row.
+    [[nodiscard]] MediaItem* itemOf(const QString& key) const { return _itemsByPath.value(key); }
+    [[nodiscard]] MediaItem* itemAt(int row) const { return static_cast<MediaItem*>(item(row, ColName)); }
+    // -1 without a row.
+    [[nodiscard]] int rowOf(const QString& key) const;
+    [[nodiscard]] QString fileAt(int row) const { return itemAt(row)->data(RoleValue).toString(); }
+    // The keys of all rows in their order.
+    [[nodiscard]] QStringList files() const;
+
+    // Flags the rows that a predicate of row and file key hides. Emits no change: the proxy looks at all rows
+    // once afterwards, since a signal for each row would cost far more. Returns the number of hidden rows.
+    int hideRows(const std::function<bool(int row, const QString& key)>& isHidden);
+
+private:
+    QHash<QString, MediaItem*> _itemsByPath;
 };

@@ -1,6 +1,9 @@
 #include "catalogue/ShortTextDelegate.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QToolTip>
 
 #include <limits>
 
@@ -21,4 +24,13 @@ QWidget* ShortTextDelegate::createEditor(QWidget* parent, const QStyleOptionView
     if (auto* edit = qobject_cast<QLineEdit*>(editor))
         edit->setMaxLength(std::numeric_limits<int>::max());
     return editor;
+}
+
+bool ShortTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                  const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const QString text = index.data(Qt::ToolTipRole).toString();
+    if (event->type() != QEvent::ToolTip || !Qt::mightBeRichText(text))
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view);
+    return true;
 }

@@ -16,14 +16,24 @@ bool isLess(const QVariant& left, const QVariant& right) {
 
 void SortFilterProxyModel::sort(int column, Qt::SortOrder order) {
     const auto forget = qScopeGuard([this] { _sortValues.clear(); });
-    const QAbstractItemModel* source = sourceModel();
-    if (source && column >= 0 && column < source->columnCount()) {
-        const int rows = source->rowCount();
-        _sortValues.reserve(static_cast<size_t>(rows));
-        for (int row = 0; row < rows; ++row)
-            _sortValues.push_back(source->index(row, column).data(sortRole()));
-    }
+    fetchSortValues(column);
     QSortFilterProxyModel::sort(column, order);
+}
+
+void SortFilterProxyModel::refilter() {
+    const auto forget = qScopeGuard([this] { _sortValues.clear(); });
+    fetchSortValues(sortColumn());
+    invalidate();
+}
+
+void SortFilterProxyModel::fetchSortValues(int column) {
+    const QAbstractItemModel* source = sourceModel();
+    if (!source || column < 0 || column >= source->columnCount())
+        return;
+    const int rows = source->rowCount();
+    _sortValues.reserve(static_cast<size_t>(rows));
+    for (int row = 0; row < rows; ++row)
+        _sortValues.push_back(source->index(row, column).data(sortRole()));
 }
 
 bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const {

@@ -14,11 +14,15 @@ public:
 
     // The order of the base class, from values that are fetched once a row instead of for each comparison.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    // invalidate() with the same values: looks at the hidden flags of all rows and sorts them again.
+    void refilter();
 
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
     [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:
-    std::vector<QVariant> _sortValues; // by source row; empty outside of sort()
+    void fetchSortValues(int column);
+
+    std::vector<QVariant> _sortValues; // by source row; empty outside of a sort
 };

@@ -12,11 +12,11 @@ QStringList strayTxtFiles(const QStringList& txtNames, const QStringList& allNam
     for (const QString& name : allNames) {
         const QFileInfo info(name);
         if (suffixes.contains(info.suffix().toLower()))
-            answering.insert(foldedPath(info.baseName()));
+            answering.insert(foldedCase(info.baseName()));
     }
     QStringList stray;
     for (const QString& name : txtNames) {
-        if (!answering.contains(foldedPath(QFileInfo(name).baseName())))
+        if (!answering.contains(foldedCase(QFileInfo(name).baseName())))
             stray.append(name);
     }
     return stray;

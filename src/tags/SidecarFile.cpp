@@ -1,5 +1,7 @@
 #include "tags/SidecarFile.h"
 
+#include "catalogue/FileNaming.h"
+
 #include <QDebug>
 #include <QFile>
 
@@ -15,4 +17,33 @@ std::optional<QString> sidecarText(const QString& txtFileName) {
     if (!QUtf8StringView(bytes).isValidUtf8())
         qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
     return QString::fromUtf8(bytes);
+}
+
+SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool makesBackup) {
+    SidecarWrite result;
+    if (makesBackup && QFile::exists(txtFileName)) {
+        const QString backupName = txtFilePathBackupFilePath(txtFileName);
+        if (backupName.isEmpty()) {
+            result.outcome = SidecarWrite::NoBackupName;
+            return result;
+        }
+        QFile sidecar(txtFileName);
+        if (!sidecar.rename(backupName))
+            result.backupError = sidecar.errorString();
+    }
+    QFile file(txtFileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        result.outcome = SidecarWrite::NotOpened;
+        result.error = file.errorString();
+        return result;
+    }
+    const QByteArray bytes = text.toUtf8();
+    result.written = file.write(bytes);
+    if (result.written == -1 || file.error() != QFileDevice::NoError)
+        result.outcome = SidecarWrite::NotWritten;
+    else if (result.written < bytes.size()) // a disk that fills up takes the first part without an error
+        result.outcome = SidecarWrite::CutShort;
+    if (result.outcome != SidecarWrite::Written)
+        result.error = file.errorString();
+    return result;
 }

@@ -1,6 +1,6 @@
 #include "tags/TagText.h"
 
-#include <QSet>
+#include "catalogue/FileNaming.h"
 
 #include <algorithm>
 
@@ -76,9 +76,18 @@ void removeTags(QStringList& tags, const QStringList& removed) {
     tags.removeIf([&](const QString& tag) { return unwanted.contains(tag); });
 }
 
-bool holdsAnyTag(const QStringList& tags, const QStringList& wanted) {
-    return std::ranges::any_of(wanted,
-                               [&](const QString& tag) { return tags.contains(tag, Qt::CaseInsensitive); });
+TagMatcher::TagMatcher(const QStringList& wanted) {
+    for (const QString& tag : wanted)
+        _folded.insert(foldedCase(tag));
+}
+
+bool TagMatcher::matchesAny(const QStringList& tags) {
+    if (_folded.isEmpty())
+        return false;
+    return std::ranges::any_of(tags, [this](const QString& tag) {
+        const auto known = _known.constFind(tag);
+        return known != _known.cend() ? *known : *_known.insert(tag, _folded.contains(foldedCase(tag)));
+    });
 }
 
 QStringList flattenedTags(const QHash<QString, QStringList>& tagsByFile) {

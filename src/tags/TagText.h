@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -34,8 +35,17 @@ void splitTags(QStringList& tags, const QString& src);
 // Removes every occurrence of the given tags.
 void removeTags(QStringList& tags, const QStringList& removed);
 
-// Whether the list holds any of the wanted tags, regardless of case.
-[[nodiscard]] bool holdsAnyTag(const QStringList& tags, const QStringList& wanted);
+// Finds the lists that hold any of the wanted tags, regardless of case. Each different tag is compared once.
+class TagMatcher {
+public:
+    explicit TagMatcher(const QStringList& wanted);
+
+    [[nodiscard]] bool matchesAny(const QStringList& tags);
+
+private:
+    QSet<QString> _folded;
+    QHash<QString, bool> _known; // tags that were compared
+};
 
 // All lists one after the other, in the hash's order.
 [[nodiscard]] QStringList flattenedTags(const QHash<QString, QStringList>& tagsByFile);

@@ -1,0 +1,262 @@
+#include "tags/TagRecord.h"
+
+#include "catalogue/FileNaming.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype shownLabelCharacters = 40;
+
+QStringList sidecarTags(const QString& key) {
+    return tagsFromText(sidecarText(imgFilePathToTxtFilePath(key)).value_or(QString()));
+}
+
+// The bytes that a list would take if it shared no text with any other.
+qsizetype tagBytes(const QStringList& tags) {
+    qsizetype bytes = 0;
+    for (const QString& tag : tags)
+        bytes += qsizetype(sizeof(QString)) + tag.size() * qsizetype(sizeof(QChar));
+    return bytes;
+}
+
+// Tags as part of a label.
+QString quotedTags(const QStringList& tags) {
+    QString text = tags.join(", "_L1);
+    if (text.size() > shownLabelCharacters)
+        text = text.first(shownLabelCharacters) + QChar(0x2026);
+    return u'"' + text.simplified() + u'"';
+}
+
+} // namespace
+
+void TagRecord::load(const QStringList& keys) {
+    // Equal tags of different files share one string.
+    QSet<QString> knownTags;
+    _tags.reserve(_tags.size() + keys.size());
+    for (const QString& key : keys) {
+        // A file that was away comes back to what the user has not saved.
+        if (isUnsaved(key))
+            continue;
+        QStringList tags = sidecarTags(key);
+        for (QString& tag : tags)
+            tag = *knownTags.insert(tag);
+        _tags.insert(key, tags);
+    }
+    if (!keys.isEmpty())
+        emit changed(TagChange::Read);
+}
+
+void TagRecord::remove(const QStringList& keys) {
+    for (const QString& key : keys) {
+        _tags.remove(key);
+        _sidecarTags.remove(key);
+    }
+    if (!keys.isEmpty())
+        emit changed(TagChange::Read);
+}
+
+void TagRecord::clear() {
+    _tags.clear();
+    _sidecarTags.clear();
+    _undo.clear();
+    _redo.clear();
+    _undoBytes = 0;
+    emit changed(TagChange::Read);
+}
+
+void TagRecord::setTags(const QString& key, const QStringList& tags) {
+    Step step{tr("edit %1"), QFileInfo(key).fileName()};
+    change(step, _tags.tryEmplace(key).iterator, tags);
+    finish(std::move(step), TagChange::Stored);
+}
+
+void TagRecord::append(const QStringList& keys, const QStringList& tags) {
+    Step step{tr("add %1 to %2 files"), quotedTags(tags)};
+    for (const QString& key : keys) {
+        const auto entry = _tags.tryEmplace(key).iterator;
+        change(step, entry, *entry + tags);
+    }
+    finish(std::move(step), TagChange::Edited);
+}
+
+void TagRecord::removeTags(const QStringList& keys, const QStringList& tags) {
+    Step step{tr("delete %1 from %2 files"), quotedTags(tags)};
+    for (const QString& key : keys) {
+        const auto entry = _tags.tryEmplace(key).iterator;
+        QStringList kept = *entry;
+        ::removeTags(kept, tags);
+        change(step, entry, kept);
+    }
+    finish(std::move(step), TagChange::Edited);
+}
+
+void TagRecord::removeEverywhere(const QStringList& tags) {
+    removeTags(_tags.keys(), tags);
+}
+
+void TagRecord::replaceText(const QString& src, const QString& dst) {
+    Step step{tr("replace %1 in %2 files"), quotedTags({src})};
+    for (auto entry = _tags.begin(); entry != _tags.end(); ++entry) {
+        if (std::ranges::none_of(std::as_const(*entry),
+                                 [&](const QString& tag) { return tag.contains(src); }))
+            continue;
+        QStringList replaced = *entry;
+        replaceInTags(replaced, src, dst);
+        change(step, entry, replaced);
+    }
+    finish(std::move(step), TagChange::Edited);
+}
+
+void TagRecord::splitText(const QString& src) {
+    Step step{tr("split by %1 in %2 files"), quotedTags({src})};
+    for (auto entry = _tags.begin(); entry != _tags.end(); ++entry) {
+        QStringList split = *entry;
+        splitTags(split, src);
+        change(step, entry, split);
+    }
+    finish(std::move(step), TagChange::Edited);
+}
+
+void TagRecord::setSavedTags(const QString& key, const QStringList& tags) {
+    Step step{tr("save the text of %1"), QFileInfo(key).fileName()};
+    change(step, _tags.tryEmplace(key).iterator, tags);
+    _sidecarTags.remove(key);
+    finish(std::move(step), TagChange::Stored);
+}
+
+void TagRecord::appendAnswer(const QString& key, const QStringList& tags, int batch) {
+    if (!_tags.contains(key))
+        _tags.insert(key, sidecarTags(key));
+    Step step{tr("captions of %1 files"), {}};
+    step.batch = batch;
+    const auto entry = _tags.find(key);
+    change(step, entry, *entry + tags);
+    finish(std::move(step), TagChange::Stored);
+}
+
+qsizetype TagRecord::restore(const Tags& tags) {
+    Step step{tr("restore %1 files"), {}};
+    for (const auto& [key, restored] : tags.asKeyValueRange()) {
+        if (const auto entry = _tags.find(key); entry != _tags.end())
+            change(step, entry, restored);
+    }
+    const qsizetype count = step.before.size();
+    finish(std::move(step), TagChange::Edited);
+    return count;
+}
+
+// Keeps what the file had in the step. Without a difference nothing is kept.
+void TagRecord::change(Step& step, Tags::iterator entry, const QStringList& tags) {
+    if (*entry == tags)
+        return;
+    const QStringList before = std::exchange(*entry, tags);
+    noteSidecarTags(entry.key(), before, tags);
+    step.bytes += tagBytes(before);
+    step.before.insert(entry.key(), before);
+}
+
+void TagRecord::noteSidecarTags(const QString& key, const QStringList& before, const QStringList& now) {
+    const auto unsaved = _sidecarTags.find(key);
+    if (unsaved == _sidecarTags.end())
+        _sidecarTags.insert(key, before);
+    else if (*unsaved == now)
+        _sidecarTags.erase(unsaved);
+}
+
+void TagRecord::finish(Step&& step, TagChange change) {
+    if (!step.before.isEmpty()) {
+        _redo.clear();
+        _undoBytes += step.bytes;
+        if (step.batch != 0 && canUndo() && _undo.last().batch == step.batch) {
+            Step& batch = _undo.last();
+            batch.bytes += step.bytes;
+            for (const auto& [key, before] : std::as_const(step.before).asKeyValueRange())
+                batch.before.tryEmplace(key, before);
+        } else {
+            _undo.append(std::move(step));
+        }
+        dropOldSteps();
+    }
+    emit changed(change);
+}
+
+void TagRecord::undo() {
+    takeBack(_undo, _redo);
+}
+
+void TagRecord::redo() {
+    takeBack(_redo, _undo);
+}
+
+void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
+    if (from.isEmpty())
+        return;
+    Step step = from.takeLast();
+    _undoBytes -= step.bytes;
+    Step back{step.pattern, step.what};
+    for (const auto& [key, before] : std::as_const(step.before).asKeyValueRange()) {
+        // Files that have left the record stay out of it.
+        if (const auto entry = _tags.find(key); entry != _tags.end())
+            change(back, entry, before);
+    }
+    _undoBytes += back.bytes;
+    if (!back.before.isEmpty())
+        to.append(std::move(back));
+    dropOldSteps();
+    emit changed(TagChange::Undone);
+}
+
+void TagRecord::setUndoLimit(qsizetype bytes) {
+    _undoLimit = bytes;
+    dropOldSteps();
+}
+
+void TagRecord::dropOldSteps() {
+    while (_undoBytes > _undoLimit && !(_undo.isEmpty() && _redo.isEmpty())) {
+        QList<Step>& steps = _undo.isEmpty() ? _redo : _undo;
+        _undoBytes -= steps.takeFirst().bytes;
+    }
+}
+
+QString TagRecord::textOf(const Step& step) {
+    const QString count = QString::number(step.before.size());
+    if (step.what.isNull())
+        return step.pattern.arg(count);
+    return step.pattern.contains("%2"_L1) ? step.pattern.arg(step.what, count) : step.pattern.arg(step.what);
+}
+
+TagSaveReport TagRecord::save(const TagSaveOptions& options) {
+    TagSaveReport report;
+    QHash<QString, QString> writers; // the key that wrote a sidecar last
+    for (const auto& [key, tags] : std::as_const(_tags).asKeyValueRange()) {
+        const QString text = savedTagText(tags, options.keepsDuplicates);
+        TagSaveRemark remark{imgFilePathToTxtFilePath(key), {}, false};
+        const QString replacedKey = writers.value(remark.txtFileName);
+        remark.isShared = !replacedKey.isNull();
+        remark.write = writeSidecar(remark.txtFileName, text, options.makesBackups);
+        const bool isWhole = remark.write.outcome == SidecarWrite::Written;
+        if (isWhole) {
+            writers.insert(remark.txtFileName, key);
+            _sidecarTags.remove(key);
+            // The file that wrote it before differs from its sidecar now.
+            if (remark.isShared && savedTagText(_tags.value(replacedKey), options.keepsDuplicates) != text)
+                _sidecarTags.insert(replacedKey, tagsFromText(text));
+        }
+        ++(isWhole ? report.written : report.failed);
+        if (!isWhole || remark.isShared || !remark.write.backupError.isEmpty())
+            report.remarks.append(remark);
+        if (remark.write.outcome == SidecarWrite::NoBackupName) {
+            report.isStopped = true;
+            break;
+        }
+    }
+    emit changed(TagChange::Saved);
+    return report;
+}

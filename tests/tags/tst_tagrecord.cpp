@@ -1,0 +1,153 @@
+#include "support/MediaFolder.h"
+#include "tags/TagRecord.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <functional>
+
+// The record of tags against plain containers: edits, what is unsaved, undo, saving.
+class TestTagRecord : public QObject {
+    Q_OBJECT
+
+    using Tags = TagRecord::Tags;
+
+    static Tags contentOf(const TagRecord& record, const QStringList& keys) {
+        Tags content;
+        for (const QString& key : keys)
+            content.insert(key, record.tags(key));
+        return content;
+    }
+
+    static QStringList differing(const Tags& left, const Tags& right) {
+        QStringList keys;
+        for (const auto& [key, tags] : left.asKeyValueRange()) {
+            if (right.value(key) != tags)
+                keys.append(key);
+        }
+        keys.sort();
+        return keys;
+    }
+
+    static QStringList sorted(QStringList keys) {
+        keys.sort();
+        return keys;
+    }
+
+private slots:
+    void randomEditsAreTakenBackOneByOne_data() {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 5; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    void randomEditsAreTakenBackOneByOne() {
+        QFETCH(quint32, seed);
+        QRandomGenerator random(seed);
+        const QStringList words{"sky", "Sky", "a_b", "blue sky", "", " sea", "cat", "catalog"};
+        const auto word = [&] { return words.at(random.bounded(words.size())); };
+        MediaFolder folder;
+        QStringList keys;
+        for (int number = 0; number < 500; ++number) {
+            const QString name = QString("%1.png").arg(number);
+            keys.append(folder.filePath(name));
+            if (number % 5 == 0)
+                folder.addTags(name, (word() + ',' + word()).toUtf8());
+        }
+        TagRecord record;
+        record.load(keys);
+        const Tags start = contentOf(record, keys);
+        const auto some = [&] { return keys.mid(random.bounded(400), random.bounded(100)); };
+        const QList<std::function<void()>> edits{
+            [&] { record.append(some(), {word(), word()}); },
+            [&] { record.removeTags(some(), {word()}); },
+            [&] { record.removeEverywhere({word()}); },
+            [&] { record.replaceText("a", word()); },
+            [&] { record.splitText("_"); },
+            [&] { record.setTags(keys.at(random.bounded(500)), {word()}); },
+            [&] { record.appendAnswer(keys.at(random.bounded(500)), {word()}, random.bounded(1, 3)); },
+            [&] { record.restore({{keys.at(random.bounded(500)), {word()}}, {"/gone.png", {"x"}}}); },
+        };
+        QSignalSpy changes(&record, &TagRecord::changed);
+        QList<Tags> states{start};
+        for (int step = 0; step < 20; ++step) {
+            const QString before = record.undoText();
+            changes.clear();
+            edits.at(random.bounded(edits.size()))();
+            QCOMPARE(changes.size(), 1);
+            const Tags now = contentOf(record, keys);
+            QCOMPARE(sorted(record.unsavedKeys()), differing(now, start));
+            if (now == states.last())
+                continue;
+            // Answers of one batch in a row are one step.
+            if (before.startsWith("captions") && record.undoText().startsWith("captions")) {
+                record.undo();
+                const bool isMerged = contentOf(record, keys) != states.last();
+                record.redo();
+                if (isMerged)
+                    states.removeLast();
+            }
+            states.append(now);
+        }
+        QVERIFY(!record.contains("/gone.png"));
+        const Tags end = states.last();
+        for (qsizetype step = states.size() - 1; step > 0; --step) {
+            QCOMPARE(contentOf(record, keys), states.at(step));
+            record.undo();
+        }
+        QCOMPARE(contentOf(record, keys), start);
+        QVERIFY(!record.canUndo() && record.unsavedKeys().isEmpty());
+        while (record.canRedo())
+            record.redo();
+        QCOMPARE(contentOf(record, keys), end);
+    }
+
+    void stepsAreNamedAndBounded() {
+        TagRecord record;
+        record.append({"/a.png", "/b.png"}, {"50%1", "sea"});
+        QCOMPARE(record.undoText(), QString("add \"50%1, sea\" to 2 files"));
+        record.removeTags({"/a.png"}, {"none"});
+        for (int times = 0; times < 2; ++times) {
+            record.setTags("/d/c.png", QStringList(1000, "a tag"));
+            QCOMPARE(record.undoText(), QString("edit c.png"));
+            record.setTags("/d/c.png", {});
+        }
+        record.setUndoLimit(40000);
+        record.undo();
+        QCOMPARE(record.tags("/d/c.png").size(), 1000);
+        record.undo();
+        QVERIFY(!record.canUndo() && record.tags("/a.png").size() == 2);
+    }
+
+    void savingCostsOneFileAFault() {
+        const MediaFolder folder;
+        const QStringList keys{folder.filePath("a.png"), folder.filePath("b.png"), folder.filePath("s.png"),
+                               folder.filePath("s.jpg")};
+        folder.addTags("b.png", "old");
+        QVERIFY(QDir(folder.path()).mkdir("a.txt"));
+        TagRecord record;
+        record.load(keys);
+        for (const QString& key : keys)
+            record.append({key}, {key.last(5), key.last(5)});
+        const TagSaveReport report = record.save({});
+        QCOMPARE(folder.content("b.txt"), QByteArray("old,b.png"));
+        QCOMPARE(report.written, 3);
+        QCOMPARE(report.failed, 1);
+        // The one that wrote the shared sidecar first differs from it now; so does the one without a sidecar.
+        const QString loser = folder.content("s.txt") == "s.png" ? keys.at(3) : keys.at(2);
+        QCOMPARE(sorted(record.unsavedKeys()), sorted({keys.at(0), loser}));
+        record.undo();
+        QVERIFY(record.isUnsaved(keys.at(3)) || record.isUnsaved(keys.at(2)));
+        // An answer for a file that left the record joins what its sidecar holds.
+        record.remove({keys.at(1)});
+        record.appendAnswer(keys.at(1), {"sky"}, 1);
+        QCOMPARE(record.tags(keys.at(1)), QStringList({"old", "b.png", "sky"}));
+        // What is unsaved outlasts a file that comes back.
+        record.load({keys.at(1)});
+        QCOMPARE(record.tags(keys.at(1)), QStringList({"old", "b.png", "sky"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTagRecord)
+#include "tst_tagrecord.moc"
