@@ -9,6 +9,7 @@
 #include "imaging/ImageFilterWidgetBase.h"
 #include "imaging/ImageFilters.h"
 #include "imaging/Profiles.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -93,6 +94,7 @@ void MainWindow::onShowMessage(const QString& msg) {
 
 void MainWindow::initUi() {
     initActions();
+    _imageTags = new TagRecord(this);
     initViews();
     initModels();
     ui->toolBar->addActions(actions());
@@ -144,10 +146,17 @@ void MainWindow::updateThemeIcons(bool isDarkTheme) {
 
 void MainWindow::initConnections() {
     connect(ui->actionExit, &QAction::triggered, this, &QWidget::close);
-    connect(ui->action_Options, &QAction::triggered, this, &MainWindow::onOptions);
-    initCatalogueConnections();
-    initTagConnections();
+    initOptionsConnections();
+    initViewConnections();
+    initContextMenuConnections();
+    initWatcherConnections();
+    initFileOperationConnections();
+    initSidecarConnections();
+    initTagPanelConnections();
+    initTagEntryConnections();
     initOllamaConnections();
-    initImagingConnections();
+    initEffectConnections();
+    initProfileConnections();
+    initResizeConnections();
     initSafetensorsConnections();
 }

@@ -18,6 +18,7 @@ class ImageFilterWidgetBase;
 class ImageFilters;
 class ImageLoaderThreaded;
 class MediaItem;
+class MediaItemModel;
 class OllamaApi;
 class QAbstractItemView;
 class QFileSystemWatcher;
@@ -26,11 +27,12 @@ class QHeaderView;
 class QListWidget;
 class QListWidgetItem;
 class QMenu;
-class QStandardItem;
-class MediaItemModel;
+class SelectionWatcher;
 class SortFilterProxyModel;
+class TagRecord;
 class VideoWidget;
 enum class ResizeMode;
+enum class TagChange;
 struct ResizeOptions;
 
 namespace Ui {
@@ -47,28 +49,35 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    // --- Start, state and wiring (app) -----------------------------------------------------------
+    // --- Start and wiring (app) ------------------------------------------------------------------
 public slots:
     // Status bar text without time-out, and the same text to the log.
     void onShowMessage(const QString& msg);
     void updateThemeIcons(bool isDarkTheme);
-    void onOptions();
-    void onOptionsClosed();
 
 private:
     void initUi();
     void initActions();
     void initConnections();
-    void initCatalogueConnections();
-    void initTagConnections();
     void initThemes();
     void closeToolWindows();
-    void closeOptions();
-    void readSettings();
-    void makeRoomForTools();
-    void writeSettings();
 
     std::unique_ptr<Ui::MainWindow> ui;
+
+    // --- State between runs (app) ----------------------------------------------------------------
+private:
+    void readSettings();
+    void makeRoomForTools(bool mayResize);
+    void writeSettings();
+
+    // --- Options (app) ---------------------------------------------------------------------------
+public slots:
+    void onOptions();
+    void onOptionsClosed();
+
+private:
+    void initOptionsConnections();
+    void closeOptions();
 
     // --- Scan and media model (catalogue) --------------------------------------------------------
 public:
@@ -84,16 +93,14 @@ private:
     void clearItemModel();
     void addFileItem(const QString& filePath);
     void addFileItems(const QStringList& filePaths);
-    void removeFileItem(const QString& filePath);
+    // Removes the rows of the files with their tags.
     void removeFileItems(const QStringList& filePaths);
     void populateUiImage(const QStringList& files);
-    [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
-    [[nodiscard]] QAbstractItemView* currentMediaView() const;
-    [[nodiscard]] MediaItem* mediaItem(const QString& filePath) const;
 
     MediaItemModel* _itemModel = nullptr;
-    QHash<QString, QStandardItem*> _itemsByPath;
+    // Where the next file dialog starts: the directory last opened, or the one last chosen.
     QString _workingPath;
+    QString _openedPath;
     QStringList _supportedFormats;
     int _scanGeneration = 0;
 
@@ -119,7 +126,6 @@ public slots:
     void onImagesSortByFilePath();
     void onImagesSortByResolution();
     void onHeaderContextMenu(const QPoint& pos);
-    void onImagesCustomContextMenu();
     void onDockWidgetImagePreviewCustomMenu();
     void onFilterImages(const QString& txt);
     void onItemSelectedChanged();
@@ -130,12 +136,24 @@ private:
     void initTreeView();
     void initTableView();
     void initModels();
+    void initViewConnections();
+    [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
+    // Hides the files for which the predicate of row and file key holds, and shows all others.
+    void hideFiles(const std::function<bool(int row, const QString& filePath)>& isHidden);
     void showMediaPreview(const QString& filePath);
-    void addViewMenu(QMenu& menu);
-    void addSortMenu(QMenu& menu);
 
     SortFilterProxyModel* _proxyModel = nullptr;
     IconIdentityProxyModel* _iconProxyModel = nullptr;
+    SelectionWatcher* _selection = nullptr;
+
+    // --- Context menu of the views (catalogue) ---------------------------------------------------
+public slots:
+    void onImagesCustomContextMenu();
+
+private:
+    void initContextMenuConnections();
+    void addViewMenu(QMenu& menu);
+    void addSortMenu(QMenu& menu);
 
     // --- Directory watcher and refresh (catalogue) -----------------------------------------------
 public slots:
@@ -145,6 +163,7 @@ public slots:
     void onWorkingPathEdited();
 
 private:
+    void initWatcherConnections();
     void watchWorkingDirectory();
     void watcherAddNewFiles(const QStringList& fileList);
     void watcherRemoveMissingFiles();
@@ -162,6 +181,7 @@ public slots:
     void showPathInFileBrowser();
 
 private:
+    void initFileOperationConnections();
     // Asks for a directory, starting at the last one; empty when the user cancels.
     [[nodiscard]] QString selectDirectory();
     void importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource);
@@ -188,14 +208,22 @@ public slots:
     void onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags);
 
 private:
+    void initSidecarConnections();
     // Reads the sidecar of a media file, shows it in the raw text editor and binds the editor to it.
     QStringList readTagFile(const QString& filePath);
-    // The same for many files, whose tags are stored.
+    // Takes the tags of the sidecars into the record. The editor shows the last one unless the user has
+    // typed.
     void readTagFiles(const QStringList& filePaths);
-    void saveTagTxtFile(const QString& txtFileName, const QString& text);
-    void checkMediaKey(const QString& filePath) const;
+    void unbindTagFile();
+    // Keeps what the user has typed while the first selected file stays the same.
+    void followTagFile(const QString& filePath);
+    [[nodiscard]] bool isTagFileEdited() const;
+    // False where the file was not written, which is shown.
+    bool saveTagTxtFile(const QString& imgFileName, const QString& txtFileName, const QString& text);
+    // Whether the key is that of a media file; logged if not.
+    bool checkMediaKey(const QString& filePath) const;
 
-    QHash<QString, QStringList> _imageTags;
+    TagRecord* _imageTags = nullptr;
 
     // --- Tag panels (tags) -----------------------------------------------------------------------
 public slots:
@@ -212,6 +240,9 @@ public slots:
 
 private:
     void initTagViews();
+    void initTagPanelConnections();
+    // What follows each change of the record.
+    void onTagsChanged(TagChange change);
     Q_INVOKABLE void refreshAllTags();
     void refreshSelectionTags(const QStringList& filePaths);
     void refreshImageTags(const QString& filePath);
@@ -231,6 +262,7 @@ public slots:
     void onTagsExport();
 
 private:
+    void initTagEntryConnections();
     void openTextDialog(int operationType);
 
     // --- Ollama batches (ollama) -----------------------------------------------------------------
@@ -259,6 +291,7 @@ private:
     // The files of the running batch that have not been taken yet.
     QStringList ollamaQueue;
     int _ollamaTotal = 0;
+    int _ollamaBatch = 0;
     bool _isOllamaSending = false;
 
     // --- Effects (imaging) -----------------------------------------------------------------------
@@ -275,7 +308,7 @@ public slots:
 
 private:
     void initEffectViews();
-    void initImagingConnections();
+    void initEffectConnections();
     [[nodiscard]] static QString effectName(const QListWidgetItem* item);
     [[nodiscard]] ImageFilterWidgetBase* effectRow(QListWidgetItem* item) const;
     ImageFilterWidgetBase* attachEffectRow(QListWidgetItem* item);
@@ -304,6 +337,7 @@ public slots:
     void onFilterProfilesMoved();
 
 private:
+    void initProfileConnections();
     void addDefaultProfile();
 
     // --- Batch resize (imaging) ------------------------------------------------------------------
@@ -311,6 +345,7 @@ public slots:
     void onProcessResize();
 
 private:
+    void initResizeConnections();
     [[nodiscard]] QList<QGroupBox*> resizeGroupBoxes() const;
     [[nodiscard]] QGroupBox* resizeGroupBox(ResizeMode mode) const;
     [[nodiscard]] ResizeMode resizeModeOf(const QGroupBox* box) const;
@@ -327,7 +362,6 @@ public slots:
     void onRequestDeleteImage(const QString& filePath);
 
 private:
-    [[nodiscard]] int fileRow(const QString& filePath) const;
     [[nodiscard]] QString fileIndexText(const QString& filePath) const;
     [[nodiscard]] QString steppedFilePath(const QString& filePath, int step) const;
     void stepEditor(EditImageDialog* dialog, const QString& currFilePath, int step);

@@ -14,6 +14,10 @@ constexpr QSize defaultOptionsClosedGridSize(240, 240);
 
 } // namespace
 
+void MainWindow::initOptionsConnections() {
+    connect(ui->action_Options, &QAction::triggered, this, &MainWindow::onOptions);
+}
+
 void MainWindow::onOptions() {
     auto* dialog = new OptionsDialog(this);
     connect(dialog, &QObject::destroyed, this, &MainWindow::onOptionsClosed);

@@ -2,6 +2,7 @@
 
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "catalogue/ViewSetup.h"
 #include "imaging/Profiles.h"
 #include "ui_MainWindow.h"
 
@@ -28,9 +29,9 @@ void restorePrompt(QPlainTextEdit* edit, const QString& prompt) {
 
 void MainWindow::readSettings() {
     const Settings* settings = Settings::instance();
-    restoreGeometry(settings->data(keys::appGeometry).toByteArray());
+    const bool hasGeometry = restoreGeometry(settings->data(keys::appGeometry).toByteArray());
     if (!restoreState(settings->data(keys::appState).toByteArray()))
-        makeRoomForTools();
+        makeRoomForTools(!hasGeometry);
     ui->sBOllamaScaleResW->setValue(settings->data(keys::ollamaScaleResW, -1).toInt());
     ui->sBOllamaScaleResH->setValue(settings->data(keys::ollamaScaleResH, -1).toInt());
     ui->cBOllamaScaleKeepAspectRatio->setChecked(
@@ -60,17 +61,18 @@ void MainWindow::readSettings() {
     if (profiles->isEmpty())
         profiles->addProfile(profiles->uniqueProfile(u"Default"_s));
     ui->stackedWidget->setCurrentIndex(settings->data(keys::viewIdx, 0).toInt());
-    if (!ui->treeView->header()->restoreState(settings->data(keys::treeViewHeaderState).toByteArray()))
+    if (!restoreHeader(ui->treeView->header(), settings->data(keys::treeViewHeaderState).toByteArray()))
         qDebug() << "Error, unable to restore tree view header state";
-    ui->tableView->horizontalHeader()->restoreState(
-        settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
+    restoreHeader(ui->tableView->horizontalHeader(),
+                  settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
     const int viewMode = settings->data(keys::listViewViewMode, int(QListView::IconMode)).toInt();
-    ui->listView->setViewMode(viewMode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
+    setStaticViewMode(ui->listView,
+                      viewMode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
 }
 
 // A first start shows all tabs and the largest page whole, as far as the screen has room. Tab widget and
 // scroll area ask for less than they hold.
-void MainWindow::makeRoomForTools() {
+void MainWindow::makeRoomForTools(bool mayResize) {
     const QWidget* page = ui->scrollAreaResizeContents;
     page->layout()->activate();
     const QSize tabs = ui->tWTools->tabBar()->sizeHint();
@@ -79,7 +81,8 @@ void MainWindow::makeRoomForTools() {
     const QSize tools = style()->sizeFromContents(
         QStyle::CT_TabWidget, &frame,
         QSize(std::max(tabs.width(), pages.width()), tabs.height() + pages.height()), ui->tWTools);
-    resize((sizeHint() + tools - ui->tWTools->sizeHint()).boundedTo(screen()->availableSize()));
+    if (mayResize)
+        resize((sizeHint() + tools - ui->tWTools->sizeHint()).boundedTo(screen()->availableSize()));
     resizeDocks({ui->dockWidget_Tools}, {tools.width()}, Qt::Horizontal);
 }
 

@@ -2,7 +2,6 @@
 
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/VideoMeta.h"
 #include "ui_MainWindow.h"
@@ -36,7 +35,7 @@ void MainWindow::updateComments() {
         auto* top = new QTreeWidgetItem({QFileInfo(path).fileName()});
         top->setToolTip(0, path);
         if (isVideoFile(path)) {
-            const MediaItem* item = mediaItem(path);
+            const MediaItem* item = _itemModel->itemOf(path);
             const QVariantHash meta = item ? item->data(RoleVideoMeta).toHash() : QVariantHash();
             for (const auto& [key, value] : meta.asKeyValueRange())
                 addCommentItem(top, key, videoMetaText(value));

@@ -2,11 +2,17 @@
 
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/ViewSetup.h"
 #include "ui_MainWindow.h"
 
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
+
+void MainWindow::initContextMenuConnections() {
+    for (const QAbstractItemView* view : mediaViews())
+        connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
+}
 
 void MainWindow::onImagesCustomContextMenu() {
     const QStringList files = selectedFilePaths();
@@ -42,11 +48,11 @@ void MainWindow::onImagesCustomContextMenu() {
 void MainWindow::addViewMenu(QMenu& menu) {
     QMenu* view = menu.addMenu(tr("&View"));
     view->addAction(tr("&Icon"), this, [this] {
-        ui->listView->setViewMode(QListView::IconMode);
+        setStaticViewMode(ui->listView, QListView::IconMode);
         ui->stackedWidget->setCurrentWidget(ui->pageListView);
     });
     view->addAction(tr("&List simple"), this, [this] {
-        ui->listView->setViewMode(QListView::ListMode);
+        setStaticViewMode(ui->listView, QListView::ListMode);
         ui->stackedWidget->setCurrentWidget(ui->pageListView);
     });
     view->addAction(tr("&List"), this, [this] { ui->stackedWidget->setCurrentWidget(ui->pageTreeView); });

@@ -4,9 +4,9 @@
 #include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "app/services/Trash.h"
 #include "app/services/Utils.h"
 #include "catalogue/FileNaming.h"
-#include "catalogue/MediaItemModel.h"
 #include "catalogue/StrayTxtFiles.h"
 #include "ui_MainWindow.h"
 
@@ -17,6 +17,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QUrl>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +77,10 @@ void transferFiles(MainWindow& window, const QStringList& files, const QString& 
 
 } // namespace
 
+void MainWindow::initFileOperationConnections() {
+    connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
+}
+
 QString MainWindow::selectDirectory() {
     const QString directory =
         QFileDialog::getExistingDirectory(this, tr("Select directory"), _workingPath,
@@ -110,18 +116,18 @@ void MainWindow::deleteFile() {
     if (answer == QMessageBox::Cancel)
         return;
     const WaitCursor waitCursor;
+    QStringList errors;
     for (const QString& path : files) {
         ui->vidWidget->stop(path);
-        QFile file(path);
-        if (!file.moveToTrash()) {
-            qDebug() << "Error, unable to move file to trash:" << file.errorString() << path;
-            onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(file.errorString()));
+        if (const std::optional<QString> error = moveToTrash(path)) {
+            qDebug() << "Error, unable to move file to trash:" << *error << path;
+            errors.append(*error);
         }
     }
-    for (const QString& path : files)
-        removeImageTags(path);
     removeFileItems(files);
-    refreshAllTags();
+    // Last, as the rows that are removed change the selection, which has a message of its own.
+    for (const QString& error : std::as_const(errors))
+        onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(error));
 }
 
 void MainWindow::deleteStrayTxtFiles() {
@@ -139,7 +145,7 @@ void MainWindow::deleteStrayTxtFiles() {
     const QStringList stray = strayTxtFiles(names.txtFiles, names.all, _supportedFormats);
     for (const QString& name : stray) {
         const QString path = destinationFilePath(name, directory);
-        if (!QFile::moveToTrash(path))
+        if (moveToTrash(path))
             onShowMessage(tr("Failed to trash file: %1").arg(path));
     }
     onShowMessage(tr("Found %1 stray txt files, moved to trash bin.").arg(stray.size()));
@@ -187,14 +193,15 @@ void MainWindow::importFile(const QString& source, const QString& directory, boo
     }
     onShowMessage(tr("Imported file from %1 to %2").arg(source, target));
     if (deleteSource) {
-        QFile trashed(source);
-        if (!trashed.moveToTrash()) {
-            onShowMessage(tr("Import file error, unable to move to trash file: %1, error: %2")
-                              .arg(source, trashed.errorString()));
+        if (const std::optional<QString> error = moveToTrash(source)) {
+            onShowMessage(
+                tr("Import file error, unable to move to trash file: %1, error: %2").arg(source, *error));
         }
     }
     queuePreview(target, previewSize());
-    setImageTags(target, readTagFile(target));
+    // A text file has no tags of its own: it is the sidecar of others, which an entry would overwrite.
+    if (checkMediaKey(target))
+        readTagFiles({target});
 }
 
 bool MainWindow::wantsToOpenMany(qsizetype count) {

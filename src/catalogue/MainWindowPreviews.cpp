@@ -4,7 +4,6 @@
 #include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
 #include "catalogue/VideoMeta.h"
 #include "ui_MainWindow.h"
 
@@ -46,7 +45,7 @@ MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size
     _imageLoader->enqueue(filePath, false);
     // The row has its final size before its thumbnail is there. The tool tip follows with the thumbnail:
     // reading the header of every queued file here would double the time of a scan.
-    MediaItem* item = mediaItem(filePath);
+    MediaItem* item = _itemModel->itemOf(filePath);
     if (item)
         item->setThumbnail({}, size);
     else
@@ -55,7 +54,7 @@ MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size
 }
 
 void MainWindow::setItemImage(const QString& filePath, const QSize& size, const QImage& image) {
-    MediaItem* item = mediaItem(filePath);
+    MediaItem* item = _itemModel->itemOf(filePath);
     if (!item) {
         qDebug() << "Error, unable to find model item for:" << filePath;
         return;
@@ -73,7 +72,7 @@ void MainWindow::onItemImageLoaded(const QString& fileName, const QImage& img) {
 
 void MainWindow::onItemVideoImageMetaLoaded(const QString& fileName,
                                             const QHash<QString, QVariant>& videoMeta) {
-    MediaItem* item = mediaItem(fileName);
+    MediaItem* item = _itemModel->itemOf(fileName);
     if (!item) {
         qDebug() << "Error, unable to find model item for:" << fileName;
         return;

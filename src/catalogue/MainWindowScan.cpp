@@ -4,19 +4,19 @@
 #include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
-#include "catalogue/FileNaming.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
+#include "catalogue/SelectionWatcher.h"
 #include "catalogue/UpdatesOff.h"
+#include "catalogue/ViewSetup.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QItemSelectionModel>
 #include <QSet>
 #include <QTimer>
 
@@ -39,13 +39,16 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         return;
     }
     const WaitCursor waitCursor;
-    _imageTags.clear();
+    _imageTags->clear();
+    unbindTagFile();
     _workingPath = path;
+    _openedPath = path;
     onShowMessage(tr("Checking directory: %1").arg(path));
     const QStringList files =
         scanDirectory(path, mediaNameFilters(), ui->cBWorkingDirScanRecursive->isChecked());
     qDebug() << "files:" << files.size();
     {
+        const SelectionWatcher::Hold hold(*_selection);
         const UpdatesOff updatesOff(mediaViews());
         clearItemModel();
         addFileItems(files);
@@ -76,55 +79,34 @@ QStringList MainWindow::scanDirectory(const QString& path, const QStringList& na
 }
 
 void MainWindow::clearItemModel() {
-    _itemsByPath.clear();
-    _itemModel->clear();
-    _itemModel->setColumnCount(4);
-    _itemModel->setHorizontalHeaderLabels(
-        {tr("Name"), tr("Path"), tr("Size"), tr("Resolution"), tr("Last modified"), tr("Duration"),
-         tr("MediaType"), tr("FileFormat"), tr("AudioBitRate"), tr("AudioCodec"), tr("VideoBitRate"),
-         tr("VideoCodec"), tr("VideoFrameRate"), tr("Comment"), tr("Suffix"), tr("Has txt file")});
+    _itemModel->clearFiles({tr("Name"), tr("Path"), tr("Size"), tr("Resolution"), tr("Last modified"),
+                            tr("Duration"), tr("MediaType"), tr("FileFormat"), tr("AudioBitRate"),
+                            tr("AudioCodec"), tr("VideoBitRate"), tr("VideoCodec"), tr("VideoFrameRate"),
+                            tr("Comment"), tr("Suffix"), tr("Has txt file")});
     const Settings* settings = Settings::instance();
-    ui->treeView->header()->restoreState(settings->data(keys::treeViewHeaderState).toByteArray());
-    ui->tableView->horizontalHeader()->restoreState(
-        settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
+    restoreHeader(ui->treeView->header(), settings->data(keys::treeViewHeaderState).toByteArray());
+    restoreHeader(ui->tableView->horizontalHeader(),
+                  settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
 }
 
 void MainWindow::addFileItem(const QString& filePath) {
-    const QList<QStandardItem*> row = makeMediaRow(readMediaRecord(filePath), tr("Yes"), tr("No"));
-    _itemModel->appendRow(row);
-    _itemsByPath.insert(filePath, row.first());
+    _itemModel->appendFile(readMediaRecord(filePath), tr("Yes"), tr("No"));
     qDebug() << "Insert item for:" << filePath;
 }
 
 void MainWindow::addFileItems(const QStringList& filePaths) {
     const MediaItemModel::BulkInsert bulk(*_itemModel);
-    _itemsByPath.reserve(filePaths.size());
     for (const QString& filePath : filePaths)
         addFileItem(filePath);
 }
 
-void MainWindow::removeFileItem(const QString& filePath) {
-    removeFileItems({filePath});
-}
-
 void MainWindow::removeFileItems(const QStringList& filePaths) {
-    QSet<QString> unwanted;
-    for (const QString& filePath : filePaths)
-        unwanted.insert(foldedPath(filePath));
-    // Neighbouring rows go in one step: each removal moves all rows behind it.
-    int last = -1;
-    for (int row = _itemModel->rowCount() - 1; row >= -1; --row) {
-        const QString key = row < 0 ? QString() : _itemModel->item(row, ColName)->data(RoleValue).toString();
-        if (row >= 0 && unwanted.contains(foldedPath(key))) {
-            _itemsByPath.remove(key);
-            if (last < 0)
-                last = row;
-        } else if (last >= 0) {
-            if (!_itemModel->removeRows(row + 1, last - row))
-                qDebug() << "Error, failed to remove items from view.";
-            last = -1;
-        }
-    }
+    // Each removed run of rows would report the whole selection again.
+    const SelectionWatcher::Hold hold(*_selection);
+    const UpdatesOff updatesOff(mediaViews());
+    _imageTags->remove(filePaths);
+    if (!_itemModel->removeFiles(filePaths))
+        qDebug() << "Error, failed to remove items from view.";
 }
 
 void MainWindow::populateUiImage(const QStringList& files) {
@@ -134,13 +116,12 @@ void MainWindow::populateUiImage(const QStringList& files) {
     queuePreviews(files);
     // The call of this slow half overtakes the paint that waits in the event queue, so the rows show here, in
     // their final size and before their tags.
-    currentMediaView()->viewport()->repaint();
+    _selection->currentView()->viewport()->repaint();
     {
         const UpdatesOff updatesOff(mediaViews());
         readTagFiles(files);
         const qint64 elapsed = timer.elapsed();
         qDebug() << "Read in:" << elapsed << "ms" << static_cast<double>(elapsed) / 1000.0 << "s";
-        refreshAllTags();
     }
     onShowMessage(tr("Found: %1 files").arg(files.size()));
     onShowMessage(tr("Loaded in: %1 s").arg(static_cast<double>(timer.elapsed()) / 1000.0));
@@ -153,48 +134,13 @@ void MainWindow::populateUiImage(const QStringList& files) {
 }
 
 QStringList MainWindow::allFilePaths() const {
-    QStringList paths;
-    paths.reserve(_itemModel->rowCount());
-    for (int row = 0; row < _itemModel->rowCount(); ++row)
-        paths.append(_itemModel->item(row, ColName)->data(RoleValue).toString());
-    return paths;
+    return _itemModel->files();
 }
 
 QModelIndexList MainWindow::selectedIndexes() const {
-    // By ranges: a selection of all rows would otherwise make an index for each cell.
-    QModelIndexList indexes;
-    const QItemSelection selection = currentMediaView()->selectionModel()->selection();
-    for (const QItemSelectionRange& range : selection) {
-        if (range.left() > ColName)
-            continue;
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            indexes.append(range.model()->index(row, ColName, range.parent()));
-    }
-    return indexes;
+    return _selection->indexes();
 }
 
 QStringList MainWindow::selectedFilePaths() const {
-    QStringList paths;
-    const QModelIndexList indexes = selectedIndexes();
-    paths.reserve(indexes.size());
-    for (const QModelIndex& index : indexes)
-        paths.append(index.data(RoleValue).toString());
-    return paths;
-}
-
-QList<QAbstractItemView*> MainWindow::mediaViews() const {
-    return {ui->listView, ui->treeView, ui->tableView};
-}
-
-QAbstractItemView* MainWindow::currentMediaView() const {
-    const QWidget* page = ui->stackedWidget->currentWidget();
-    if (page == ui->pageTableView)
-        return ui->tableView;
-    if (page == ui->pageTreeView)
-        return ui->treeView;
-    return ui->listView;
-}
-
-MediaItem* MainWindow::mediaItem(const QString& filePath) const {
-    return static_cast<MediaItem*>(_itemsByPath.value(filePath));
+    return _selection->files();
 }

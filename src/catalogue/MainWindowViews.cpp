@@ -6,11 +6,13 @@
 #include "catalogue/MediaFilter.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
+#include "catalogue/SelectionWatcher.h"
 #include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
+#include "catalogue/ViewSetup.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -24,6 +26,7 @@ constexpr QSize smallIconSize(32, 32);
 constexpr QSize defaultGridSize(240, 240);
 
 void setUpMediaView(QAbstractItemView* view) {
+    view->setItemDelegate(new ShortTextDelegate(view));
     view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view->setDragDropMode(QAbstractItemView::NoDragDrop);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -35,6 +38,8 @@ void setUpMediaView(QAbstractItemView* view) {
 void setUpMediaHeader(QHeaderView* header) {
     header->setSectionsClickable(true);
     header->setSortIndicatorClearable(true);
+    // Sorting that is switched on applies the indicator, whose first state reverses the order of the scan.
+    header->setSortIndicator(-1, Qt::AscendingOrder);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     header->setSectionsMovable(true);
 }
@@ -58,20 +63,14 @@ void showAllHeaderSections(QHeaderView* header) {
 
 } // namespace
 
-void MainWindow::initCatalogueConnections() {
-    connect(ui->action_SelectWorkingPath, &QAction::triggered, this, &MainWindow::onSrcSelectPath);
-    connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
-    connect(ui->tBSrcSelectPath, &QToolButton::clicked, this, &MainWindow::onSrcSelectPath);
-    connect(ui->tBRefreshOpenFilePath, &QToolButton::clicked, this, &MainWindow::onRefreshOpenFilePath);
-    for (const QAbstractItemView* view : mediaViews())
-        connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
+QList<QAbstractItemView*> MainWindow::mediaViews() const {
+    return {ui->listView, ui->treeView, ui->tableView};
+}
+
+void MainWindow::initViewConnections() {
     for (const QHeaderView* header : {ui->tableView->horizontalHeader(), ui->treeView->header()})
         connect(header, &QWidget::customContextMenuRequested, this, &MainWindow::onHeaderContextMenu);
-    for (const QAbstractItemView* view : mediaViews()) {
-        connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                &MainWindow::onItemSelectedChanged);
-    }
-    connect(ui->lEWorkingPath, &QLineEdit::editingFinished, this, &MainWindow::onWorkingPathEdited);
+    connect(_selection, &SelectionWatcher::changed, this, &MainWindow::onItemSelectedChanged);
     connect(ui->leFilterImages, &QLineEdit::textChanged, this, &MainWindow::onFilterImages);
     connect(ui->dockWidget_ImgPreview, &QWidget::customContextMenuRequested, this,
             &MainWindow::onDockWidgetImagePreviewCustomMenu);
@@ -102,9 +101,7 @@ void MainWindow::initViews() {
 }
 
 void MainWindow::initListView() {
-    ui->listView->setViewMode(QListView::IconMode);
-    // Icon mode lets items be dragged about unless their movement is fixed.
-    ui->listView->setMovement(QListView::Static);
+    setStaticViewMode(ui->listView, QListView::IconMode);
     const QSize gridSize = Settings::instance()->data(keys::gridSizeListView, defaultGridSize).toSize();
     ui->listView->setGridSize(gridSize);
     ui->listView->setIconSize(gridSize);
@@ -117,18 +114,18 @@ void MainWindow::initListView() {
 void MainWindow::initTreeView() {
     ui->treeView->setIconSize(Settings::instance()->data(keys::gridSizeTreeView, smallIconSize).toSize());
     ui->treeView->setRootIsDecorated(true);
-    ui->treeView->setSortingEnabled(true);
     setUpMediaHeader(ui->treeView->header());
+    ui->treeView->setSortingEnabled(true);
 }
 
 void MainWindow::initTableView() {
     ui->tableView->setIconSize(Settings::instance()->data(keys::gridSizeTableView, smallIconSize).toSize());
     ui->tableView->setShowGrid(true);
-    ui->tableView->setSortingEnabled(true);
     ui->tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui->tableView->setWordWrap(true);
     QHeaderView* header = ui->tableView->horizontalHeader();
     setUpMediaHeader(header);
+    ui->tableView->setSortingEnabled(true);
     header->setStretchLastSection(true);
     header->setSectionResizeMode(QHeaderView::Interactive);
 }
@@ -144,6 +141,7 @@ void MainWindow::initModels() {
     setMediaModel(ui->listView, _proxyModel);
     setMediaModel(ui->treeView, _iconProxyModel);
     setMediaModel(ui->tableView, _iconProxyModel);
+    _selection = new SelectionWatcher(ui->stackedWidget, mediaViews(), this);
 }
 
 void MainWindow::onImagesSortByCol(int col) {
@@ -186,23 +184,24 @@ void MainWindow::onDockWidgetImagePreviewCustomMenu() {
     menu.exec(QCursor::pos());
 }
 
-void MainWindow::onFilterImages(const QString& txt) {
-    // The flags change silently and the proxy looks at all rows once: a signal for each row would cost far
-    // more.
+void MainWindow::hideFiles(const std::function<bool(int row, const QString& filePath)>& isHidden) {
+    // Hidden rows leave the selection without a signal.
+    const SelectionWatcher::Hold hold(*_selection);
     const UpdatesOff updatesOff(mediaViews());
+    _itemModel->hideRows(isHidden);
+    _proxyModel->refilter();
+}
+
+void MainWindow::onFilterImages(const QString& txt) {
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt);
-    for (int row = 0; row < _itemModel->rowCount(); ++row) {
-        auto* item = static_cast<MediaItem*>(_itemModel->item(row, ColName));
-        const QString filePath = item->data(RoleValue).toString();
+    hideFiles([&](int row, const QString& filePath) {
         if (txt.isEmpty())
-            item->setHidden(false);
-        else if (wantsMissingTxt)
-            item->setHidden(hasFilledTxtFile(filePath));
-        else
-            item->setHidden(!filter.matches(*_itemModel, row, _imageTags.value(filePath)));
-    }
-    _proxyModel->invalidate();
+            return false;
+        if (wantsMissingTxt)
+            return hasFilledTxtFile(filePath);
+        return !filter.matches(*_itemModel, row, _imageTags->tags(filePath));
+    });
 }
 
 void MainWindow::onItemSelectedChanged() {
@@ -215,7 +214,7 @@ void MainWindow::onItemSelectedChanged() {
         return;
     }
     refreshSelectionTags(files);
-    readTagFile(files.first());
+    followTagFile(files.first());
     showMediaPreview(files.first());
     onShowMessage(tr("Selected: %1 items").arg(files.size()));
     if (ui->tWTools->currentWidget() == ui->tabImgDSP)

@@ -16,6 +16,13 @@
 #include <QSet>
 #include <QSignalBlocker>
 
+void MainWindow::initWatcherConnections() {
+    connect(ui->action_SelectWorkingPath, &QAction::triggered, this, &MainWindow::onSrcSelectPath);
+    connect(ui->tBSrcSelectPath, &QToolButton::clicked, this, &MainWindow::onSrcSelectPath);
+    connect(ui->tBRefreshOpenFilePath, &QToolButton::clicked, this, &MainWindow::onRefreshOpenFilePath);
+    connect(ui->lEWorkingPath, &QLineEdit::editingFinished, this, &MainWindow::onWorkingPathEdited);
+}
+
 void MainWindow::watchWorkingDirectory() {
     if (!_fileSystemWatcher) {
         _fileSystemWatcher = new QFileSystemWatcher(this);
@@ -33,6 +40,9 @@ void MainWindow::watchWorkingDirectory() {
 
 void MainWindow::onWorkingDirectoryChanged(const QString& path) {
     qDebug() << "FW Directory changed:" << path;
+    // A change that was queued before another directory was opened is none of its files.
+    if (path != _openedPath)
+        return;
     const QStringList listing =
         scanDirectory(path, mediaNameFilters(), ui->cBWorkingDirScanRecursive->isChecked());
     watcherAddNewFiles(listing);
@@ -44,11 +54,11 @@ void MainWindow::watcherAddNewFiles(const QStringList& fileList) {
     const QStringList rows = allFilePaths();
     known.reserve(rows.size());
     for (const QString& row : rows)
-        known.insert(foldedPath(row));
+        known.insert(foldedCase(row));
     QStringList added;
     for (const QString& file : fileList) {
         const QString suffix = QFileInfo(file).suffix();
-        if (!known.contains(foldedPath(file)) && _supportedFormats.contains(suffix, Qt::CaseInsensitive))
+        if (!known.contains(foldedCase(file)) && _supportedFormats.contains(suffix, Qt::CaseInsensitive))
             added.append(file);
     }
     {
@@ -61,23 +71,14 @@ void MainWindow::watcherAddNewFiles(const QStringList& fileList) {
         if (_imageLoader)
             _imageLoader->start();
     }
-    if (!added.isEmpty())
-        refreshAllTags();
     onShowMessage(tr("Added %1 new items.").arg(added.size()));
 }
 
 void MainWindow::watcherRemoveMissingFiles() {
     QStringList missing = allFilePaths();
     missing.removeIf([](const QString& file) { return QFile::exists(file); });
-    {
-        const UpdatesOff updatesOff(mediaViews());
-        for (const QString& file : std::as_const(missing))
-            removeImageTags(file);
-        if (!missing.isEmpty())
-            removeFileItems(missing);
-    }
     if (!missing.isEmpty())
-        refreshAllTags();
+        removeFileItems(missing);
     onShowMessage(tr("Removed %1 missing items.").arg(missing.size()));
 }
 

@@ -3,16 +3,17 @@
 #include "app/Questions.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "app/services/Trash.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
 #include "editor/EditImageDialog.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
+
+#include <optional>
 
 void MainWindow::editImage() {
     const QStringList files = selectedFilePaths();
@@ -43,23 +44,18 @@ void MainWindow::editImage() {
     dialog->show();
 }
 
-int MainWindow::fileRow(const QString& filePath) const {
-    const QStandardItem* item = _itemsByPath.value(filePath);
-    return item ? item->row() : -1;
-}
-
 QString MainWindow::fileIndexText(const QString& filePath) const {
-    const int row = fileRow(filePath);
+    const int row = _itemModel->rowOf(filePath);
     return QStringLiteral("[%1 - %2]").arg(row < 0 ? -1 : row + 1).arg(_itemModel->rowCount());
 }
 
 // The path so many rows on, around both ends; empty for a path without a row.
 QString MainWindow::steppedFilePath(const QString& filePath, int step) const {
-    const int row = fileRow(filePath);
+    const int row = _itemModel->rowOf(filePath);
     const int count = _itemModel->rowCount();
     if (row < 0)
         return {};
-    return _itemModel->item((row + step + count) % count, ColName)->data(RoleValue).toString();
+    return _itemModel->fileAt((row + step + count) % count);
 }
 
 void MainWindow::onEditImgRequestImgNext(const QString& currFilePath) {
@@ -90,7 +86,7 @@ void MainWindow::onEditImgSavedFile(const QString& fileName) {
 
 void MainWindow::onEditImgNewlySavedFile(const QString& fileName) {
     qDebug() << "MainWindow::onEditImgNewlySavedFile" << fileName;
-    if (_itemsByPath.contains(fileName)) {
+    if (_itemModel->contains(fileName)) {
         onShowMessage(tr("Saved image as file: %1, file overwritten.").arg(fileName));
         return;
     }
@@ -106,7 +102,7 @@ void MainWindow::onEditImgNewlySavedFile(const QString& fileName) {
 
 void MainWindow::reloadFile(const QString& filePath) {
     queuePreview(filePath, previewSize());
-    setImageTags(filePath, readTagFile(filePath));
+    readTagFiles({filePath});
 }
 
 void MainWindow::onRequestDeleteImage(const QString& filePath) {
@@ -123,12 +119,10 @@ void MainWindow::onRequestDeleteImage(const QString& filePath) {
         return;
     }
     const QString next = steppedFilePath(filePath, 1);
-    QFile file(filePath);
-    if (file.moveToTrash()) {
-        dialog->setImageFile(next, fileIndexText(next));
-    } else {
-        qDebug() << "Error, unable to move file to trash:" << filePath << file.errorString();
-        ui->statusbar->showMessage(
-            tr("Error %1 unable move file %2 to trash.").arg(file.errorString(), filePath));
+    if (const std::optional<QString> error = moveToTrash(filePath)) {
+        qDebug() << "Error, unable to move file to trash:" << filePath << *error;
+        ui->statusbar->showMessage(tr("Error %1 unable move file %2 to trash.").arg(*error, filePath));
+        return;
     }
+    dialog->setImageFile(next, fileIndexText(next));
 }

@@ -37,27 +37,14 @@ void MainWindow::initEffectViews() {
     list->setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
-void MainWindow::initImagingConnections() {
-    connect(ui->pBProcessResize, &QPushButton::clicked, this, &MainWindow::onProcessResize);
+void MainWindow::initEffectConnections() {
     connect(ui->lWDspEffects, &QWidget::customContextMenuRequested, this,
             &MainWindow::onDspEffectsCustomContextMenu);
-    for (const QGroupBox* box : resizeGroupBoxes())
-        connect(box, &QGroupBox::toggled, this, [this, box](bool on) { onResizeGroupToggled(box, on); });
-    connect(ui->hSResizeImgWriteQuality, &QSlider::valueChanged, this,
-            [this](int value) { ui->label_Quality->setText(tr("Quality [%1]:").arg(value)); });
     connect(ui->hSDspWriteQuality, &QSlider::valueChanged, this,
             [this](int value) { ui->label_Quality_2->setText(tr("Quality [%1]:").arg(value)); });
     connect(ui->pBDspApply, &QPushButton::clicked, this, &MainWindow::onFilterApply);
     connect(ui->pBDspReset, &QPushButton::clicked, this, &MainWindow::onDspReset);
     connect(ui->tBAddEffect, &QToolButton::clicked, this, &MainWindow::onAddDspEffect);
-    const Profiles* profiles = Profiles::instance();
-    connect(profiles, &Profiles::profilesNewRequested, this, &MainWindow::onFilterProfilesNewRequested);
-    connect(profiles, &Profiles::profilesEditRequested, this, &MainWindow::onFilterProfilesEditRequested);
-    connect(profiles, &Profiles::profilesRemoveRequested, this, &MainWindow::onFilterProfilesRemoveRequested);
-    connect(profiles, &Profiles::profilesCurrentAboutToChange, this,
-            &MainWindow::onFilterProfilesCurrentAboutToChange);
-    connect(profiles, &Profiles::profilesHasChanged, this, &MainWindow::onFilterProfilesHasChanged);
-    connect(profiles, &Profiles::profilesMoved, this, &MainWindow::onFilterProfilesMoved);
 }
 
 QString MainWindow::effectName(const QListWidgetItem* item) {

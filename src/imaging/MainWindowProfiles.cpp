@@ -23,6 +23,17 @@ bool isProfileName(const QString& name) {
 
 } // namespace
 
+void MainWindow::initProfileConnections() {
+    const Profiles* profiles = Profiles::instance();
+    connect(profiles, &Profiles::profilesNewRequested, this, &MainWindow::onFilterProfilesNewRequested);
+    connect(profiles, &Profiles::profilesEditRequested, this, &MainWindow::onFilterProfilesEditRequested);
+    connect(profiles, &Profiles::profilesRemoveRequested, this, &MainWindow::onFilterProfilesRemoveRequested);
+    connect(profiles, &Profiles::profilesCurrentAboutToChange, this,
+            &MainWindow::onFilterProfilesCurrentAboutToChange);
+    connect(profiles, &Profiles::profilesHasChanged, this, &MainWindow::onFilterProfilesHasChanged);
+    connect(profiles, &Profiles::profilesMoved, this, &MainWindow::onFilterProfilesMoved);
+}
+
 void MainWindow::onFilterProfilesCurrentAboutToChange() {
     if (Profiles::instance()->isEmpty()) {
         qDebug() << "Info, no profiles for about to change.";

@@ -33,6 +33,14 @@ void logSpecificSize(const QSize& size) {
 
 } // namespace
 
+void MainWindow::initResizeConnections() {
+    connect(ui->pBProcessResize, &QPushButton::clicked, this, &MainWindow::onProcessResize);
+    for (const QGroupBox* box : resizeGroupBoxes())
+        connect(box, &QGroupBox::toggled, this, [this, box](bool on) { onResizeGroupToggled(box, on); });
+    connect(ui->hSResizeImgWriteQuality, &QSlider::valueChanged, this,
+            [this](int value) { ui->label_Quality->setText(tr("Quality [%1]:").arg(value)); });
+}
+
 QList<QGroupBox*> MainWindow::resizeGroupBoxes() const {
     return {ui->gBResizeScale, ui->gBResizeSpecificSize, ui->gBResizeByAspectRatio};
 }

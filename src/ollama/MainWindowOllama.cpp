@@ -1,10 +1,8 @@
 #include "app/MainWindow.h"
 
-#include "catalogue/FileNaming.h"
 #include "ollama/OllamaApi.h"
 #include "ollama/PromptImage.h"
-#include "tags/SidecarFile.h"
-#include "tags/TagText.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QDateTime>
@@ -64,6 +62,7 @@ void MainWindow::onOllamaSendPrompt() {
     _ollamaApi->setModel(ui->cBOllamaModels->currentText());
     ollamaQueue = selectedFilePaths();
     _ollamaTotal = static_cast<int>(ollamaQueue.size());
+    ++_ollamaBatch;
     ui->pBOllamaGo->setText(tr("Abort prompt"));
     ollamaSendPrompts();
 }
@@ -149,13 +148,8 @@ void MainWindow::onOllamaResponseImg(const QString& text, const QString& imgFile
         qDebug() << "Split tag is empty.";
     const QStringList tags = tagsFromAnswer(text, separator);
     qDebug() << "ollamaTags:" << tags.size() << tags;
-    // The file may have left the catalogue while the server thought. What its sidecar holds comes first then,
-    // or the next save would replace it by the answer alone.
-    if (!_imageTags.contains(imgFilePath))
-        setImageTags(imgFilePath,
-                     tagsFromText(sidecarText(imgFilePathToTxtFilePath(imgFilePath)).value_or(QString())));
-    setImageTags(imgFilePath, imageTags(imgFilePath) + tags);
+    checkMediaKey(imgFilePath);
+    _imageTags->appendAnswer(imgFilePath, tags, _ollamaBatch);
     if (selectedFilePaths().contains(imgFilePath, Qt::CaseInsensitive))
         refreshImageTags(imgFilePath);
-    refreshAllTags();
 }

@@ -3,13 +3,11 @@
 #include "app/WaitCursor.h"
 #include "catalogue/FileNaming.h"
 #include "tags/SidecarFile.h"
-#include "tags/TagText.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
-#include <QSet>
 
 #include <optional>
 
@@ -18,139 +16,153 @@ namespace {
 constexpr auto txtFileNameProperty = "txtFileName";
 constexpr auto imgFileNameProperty = "imgFileName";
 
-enum class Backup { Made, NoFreeName };
-
-// A rename that fails is logged, and the write goes ahead all the same.
-Backup makeSidecarBackup(const QString& txtFileName) {
-    const QString backupName = txtFilePathBackupFilePath(txtFileName);
-    if (backupName.isEmpty()) {
+void logBackup(const QString& txtFileName, const SidecarWrite& write) {
+    if (write.outcome == SidecarWrite::NoBackupName)
         qDebug() << "Error, backup file path is empty for:" << txtFileName;
-        return Backup::NoFreeName;
-    }
-    QFile sidecar(txtFileName);
-    if (!sidecar.rename(backupName))
-        qDebug() << "Failed to rename to backup txt file:" << sidecar.errorString();
-    return Backup::Made;
+    if (!write.backupError.isEmpty())
+        qDebug() << "Failed to rename to backup txt file:" << write.backupError;
+}
+
+// Shows a text that is no edit of the user: it cannot be undone.
+void showLoadedText(QPlainTextEdit* edit, const QString& text) {
+    edit->setUndoRedoEnabled(false);
+    edit->clear();
+    edit->appendPlainText(text);
+    edit->setUndoRedoEnabled(true);
+    edit->document()->setModified(false);
 }
 
 } // namespace
 
+void MainWindow::initSidecarConnections() {
+    connect(ui->actionSave_tags, &QAction::triggered, this, &MainWindow::onSaveTags);
+    connect(ui->tBSaveTags, &QToolButton::clicked, this, &MainWindow::onSaveTags);
+    connect(ui->tBSaveTagTxtFile, &QToolButton::clicked, this, &MainWindow::onSaveTagTxtFile);
+}
+
 QStringList MainWindow::imageTags(const QString& filePath) const {
     checkMediaKey(filePath);
-    return _imageTags.value(filePath);
+    return _imageTags->tags(filePath);
 }
 
 void MainWindow::setImageTags(const QString& filePath, const QStringList& tags) {
     checkMediaKey(filePath);
-    _imageTags.insert(filePath, tags);
+    _imageTags->setTags(filePath, tags);
 }
 
 void MainWindow::removeImageTags(const QString& filePath) {
     checkMediaKey(filePath);
-    _imageTags.remove(filePath);
+    _imageTags->remove({filePath});
 }
 
-void MainWindow::checkMediaKey(const QString& filePath) const {
-    if (!_supportedFormats.contains(QFileInfo(filePath).suffix().toLower()))
+bool MainWindow::checkMediaKey(const QString& filePath) const {
+    const bool isMedia = _supportedFormats.contains(QFileInfo(filePath).suffix().toLower());
+    if (!isMedia)
         qDebug() << "Error, key is not image file:" << filePath;
+    return isMedia;
 }
 
 QStringList MainWindow::readTagFile(const QString& filePath) {
     const QString txtFileName = imgFilePathToTxtFilePath(filePath);
-    ui->labelTagsFromFile->setText(tr("File tag, txt, missing for: %1").arg(txtFileName));
-    ui->pTETagsFromFile->clear();
     ui->pTETagsFromFile->setProperty(txtFileNameProperty, txtFileName);
     ui->pTETagsFromFile->setProperty(imgFileNameProperty, filePath);
     const std::optional<QString> text = sidecarText(txtFileName);
-    if (!text)
-        return {};
-    ui->pTETagsFromFile->appendPlainText(*text);
-    ui->labelTagsFromFile->setText(tr("File: %1").arg(txtFileName));
-    return tagsFromText(*text);
+    showLoadedText(ui->pTETagsFromFile, text.value_or(QString()));
+    ui->labelTagsFromFile->setText(
+        (text ? tr("File: %1") : tr("File tag, txt, missing for: %1")).arg(txtFileName));
+    return tagsFromText(text.value_or(QString()));
 }
 
 void MainWindow::readTagFiles(const QStringList& filePaths) {
-    // The editor shows one file after another and ends with the last, so only that one is worth showing.
-    // Equal tags of different files share one string.
-    QSet<QString> knownTags;
-    _imageTags.reserve(_imageTags.size() + filePaths.size());
-    for (const QString& filePath : filePaths) {
-        const QString text = sidecarText(imgFilePathToTxtFilePath(filePath)).value_or(QString());
-        QStringList tags = tagsFromText(text);
-        for (QString& tag : tags)
-            tag = *knownTags.insert(tag);
-        setImageTags(filePath, tags);
-    }
-    if (!filePaths.isEmpty())
+    _imageTags->load(filePaths);
+    if (!filePaths.isEmpty() && !isTagFileEdited())
         readTagFile(filePaths.last());
+}
+
+void MainWindow::unbindTagFile() {
+    ui->pTETagsFromFile->setProperty(txtFileNameProperty, QString());
+    ui->pTETagsFromFile->setProperty(imgFileNameProperty, QString());
+    showLoadedText(ui->pTETagsFromFile, {});
+    ui->labelTagsFromFile->setText(tr("File:"));
+}
+
+void MainWindow::followTagFile(const QString& filePath) {
+    if (!isTagFileEdited() || ui->pTETagsFromFile->property(imgFileNameProperty).toString() != filePath)
+        readTagFile(filePath);
+}
+
+bool MainWindow::isTagFileEdited() const {
+    return ui->pTETagsFromFile->document()->isModified();
 }
 
 void MainWindow::onSaveTags() {
     const WaitCursor waitCursor;
-    const bool makesBackups = ui->cBBackupTxt->isChecked();
-    const bool keepsDuplicates = ui->cBSaveTagsDuplicates->isChecked();
-    QSet<QString> written;
-    for (const auto& [filePath, tags] : std::as_const(_imageTags).asKeyValueRange()) {
-        const QString text = savedTagText(tags, keepsDuplicates);
-        const QString txtFileName = imgFilePathToTxtFilePath(filePath);
-        if (written.contains(txtFileName))
-            qDebug() << "Warning, another file shares this sidecar, its tags are overwritten:" << txtFileName;
-        written.insert(txtFileName);
-        if (makesBackups && QFile::exists(txtFileName) &&
-            makeSidecarBackup(txtFileName) == Backup::NoFreeName)
-            return;
-        QFile file(txtFileName);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-            qDebug() << "Failed to open txt file:" << file.errorString() << txtFileName;
-            continue;
-        }
-        const QByteArray bytes = text.toUtf8();
-        if (file.write(bytes) != bytes.size())
-            qDebug() << "Failed to write data to txt file:" << file.errorString() << txtFileName;
+    const TagSaveReport report =
+        _imageTags->save({ui->cBBackupTxt->isChecked(), ui->cBSaveTagsDuplicates->isChecked()});
+    for (const TagSaveRemark& remark : report.remarks) {
+        if (remark.isShared)
+            qDebug() << "Warning, another file shares this sidecar, its tags are overwritten:"
+                     << remark.txtFileName;
+        logBackup(remark.txtFileName, remark.write);
+        if (remark.write.outcome == SidecarWrite::NotOpened)
+            qDebug() << "Failed to open txt file:" << remark.write.error << remark.txtFileName;
+        else if (remark.write.outcome == SidecarWrite::NotWritten ||
+                 remark.write.outcome == SidecarWrite::CutShort)
+            qDebug() << "Failed to write data to txt file:" << remark.write.error << remark.txtFileName;
     }
-    onFilterImages(ui->leFilterImages->text());
+    if (!report.isStopped)
+        onFilterImages(ui->leFilterImages->text());
 }
 
 void MainWindow::onSaveTagTxtFile() {
     const QString txtFileName = ui->pTETagsFromFile->property(txtFileNameProperty).toString();
+    const QString imgFileName = ui->pTETagsFromFile->property(imgFileNameProperty).toString();
     if (txtFileName.isEmpty())
         onShowMessage(tr("Error, file name is empty."));
-    else
-        saveTagTxtFile(txtFileName, ui->pTETagsFromFile->toPlainText());
+    else if (saveTagTxtFile(imgFileName, txtFileName, ui->pTETagsFromFile->toPlainText()))
+        ui->pTETagsFromFile->document()->setModified(false);
 }
 
-void MainWindow::saveTagTxtFile(const QString& txtFileName, const QString& text) {
-    if (ui->cBBackupTxt->isChecked() && QFile::exists(txtFileName) &&
-        makeSidecarBackup(txtFileName) == Backup::NoFreeName)
-        return;
-    QFile file(txtFileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qDebug() << "Failed to open txt file:" << file.errorString();
-        onShowMessage(tr("Failed to open txt file, error: %1").arg(file.errorString()));
-        return;
+bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFileName, const QString& text) {
+    const SidecarWrite write = writeSidecar(txtFileName, text, ui->cBBackupTxt->isChecked());
+    logBackup(txtFileName, write);
+    switch (write.outcome) {
+    case SidecarWrite::NoBackupName:
+        return false;
+    case SidecarWrite::NotOpened:
+        qDebug() << "Failed to open txt file:" << write.error;
+        onShowMessage(tr("Failed to open txt file, error: %1").arg(write.error));
+        return false;
+    case SidecarWrite::NotWritten:
+        qDebug() << "Failed to write data to txt file:" << write.error;
+        onShowMessage(tr("Failed to write data to txt file, error: %1").arg(write.error));
+        return false;
+    case SidecarWrite::CutShort:
+        qDebug() << "Error, txt file is cut short:" << txtFileName << "data:" << text.toUtf8().size();
+        break;
+    case SidecarWrite::Written:
+        break;
     }
-    const QByteArray bytes = text.toUtf8();
-    const qint64 written = file.write(bytes);
-    if (written == -1 || file.error() != QFileDevice::NoError) {
-        qDebug() << "Failed to write data to txt file:" << file.errorString();
-        onShowMessage(tr("Failed to write data to txt file, error: %1").arg(file.errorString()));
-        return;
-    }
-    // A disk that fills up takes the first part without an error.
-    if (written < bytes.size())
-        qDebug() << "Error, txt file is cut short:" << txtFileName << "data:" << bytes.size();
-    qDebug() << "Tags written to:" << txtFileName << "written data:" << written;
-    const QString imgFileName = ui->pTETagsFromFile->property(imgFileNameProperty).toString();
+    qDebug() << "Tags written to:" << txtFileName << "written data:" << write.written;
     if (imgFileName.isEmpty()) {
         onShowMessage(tr("Error, image file name is empty."));
-        return;
+        return true;
     }
-    setImageTags(imgFileName, tagsFromText(text));
+    checkMediaKey(imgFileName);
+    if (write.outcome == SidecarWrite::Written)
+        _imageTags->setSavedTags(imgFileName, tagsFromText(text));
+    else
+        _imageTags->setTags(imgFileName, tagsFromText(text));
     refreshImageTags(imgFileName);
-    refreshAllTags();
+    if (write.outcome == SidecarWrite::Written)
+        return true;
+    // The user sees that the file on the disk is not the text on the screen.
+    onShowMessage(tr("Failed to write data to txt file, error: %1").arg(tr("the disk took only a part")));
+    return false;
 }
 
 void MainWindow::onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags) {
-    saveTagTxtFile(text, tags);
-    readTagFile(imgFile);
+    saveTagTxtFile(imgFile, text, tags);
+    if (!isTagFileEdited())
+        readTagFile(imgFile);
 }

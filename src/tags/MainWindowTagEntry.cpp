@@ -6,7 +6,7 @@
 #include "catalogue/FileNaming.h"
 #include "tags/AddTagsDialog.h"
 #include "tags/ReplaceTextDialog.h"
-#include "tags/TagText.h"
+#include "tags/TagRecord.h"
 #include "tags/TagsExportDialog.h"
 #include "ui_MainWindow.h"
 
@@ -27,18 +27,7 @@ void openTagsDialog(AddTagsDialog* dialog) {
 
 } // namespace
 
-void MainWindow::initTagConnections() {
-    connect(ui->actionSave_tags, &QAction::triggered, this, &MainWindow::onSaveTags);
-    connect(ui->tBSaveTags, &QToolButton::clicked, this, &MainWindow::onSaveTags);
-    connect(ui->tBSaveTagTxtFile, &QToolButton::clicked, this, &MainWindow::onSaveTagTxtFile);
-    connect(ui->lwImageTags, &QWidget::customContextMenuRequested, this,
-            &MainWindow::onImageTagCustomContextMenu);
-    connect(ui->lwAllImagesTags, &QWidget::customContextMenuRequested, this,
-            &MainWindow::onImagesTagsCustomContextMenu);
-    connect(ui->lwAllImagesTags, &QListWidget::itemSelectionChanged, this,
-            &MainWindow::onAllImagesTagSelectedChanged);
-    connect(ui->leFilterTag, &QLineEdit::textChanged, this, &MainWindow::onFilterTag);
-    connect(ui->leFilterAllTags, &QLineEdit::textChanged, this, &MainWindow::onFilterAllTags);
+void MainWindow::initTagEntryConnections() {
     connect(ui->tBExportTags, &QToolButton::clicked, this, &MainWindow::onTagsExport);
 }
 
@@ -55,11 +44,7 @@ void MainWindow::onAddTagsAccepted(const QString& text) {
     if (files.isEmpty())
         qDebug() << "Error, selection is empty...";
     const WaitCursor waitCursor;
-    const QStringList added = tagsFromEntry(text);
-    for (const QString& file : files)
-        setImageTags(file, imageTags(file) + added);
-    refreshAllTags();
-    onItemSelectedChanged();
+    _imageTags->append(files, tagsFromEntry(text));
 }
 
 void MainWindow::editTagFor(const QString& filePath) {
@@ -96,10 +81,7 @@ void MainWindow::replaceTagText(const QString& src, const QString& dst) {
     }
     const WaitCursor waitCursor;
     ui->statusbar->showMessage(tr("Replacing text \"%1\" with \"%2\".").arg(src, dst));
-    for (QStringList& tags : _imageTags)
-        replaceInTags(tags, src, dst);
-    refreshAllTags();
-    onItemSelectedChanged();
+    _imageTags->replaceText(src, dst);
 }
 
 void MainWindow::splitTagText(const QString& src) {
@@ -110,10 +92,7 @@ void MainWindow::splitTagText(const QString& src) {
     }
     const WaitCursor waitCursor;
     ui->statusbar->showMessage(tr("Splitting text by \"%1\".").arg(src));
-    for (QStringList& tags : _imageTags)
-        splitTags(tags, src);
-    refreshAllTags();
-    onItemSelectedChanged();
+    _imageTags->splitText(src);
 }
 
 void MainWindow::onTagsExport() {
@@ -121,6 +100,6 @@ void MainWindow::onTagsExport() {
     dialog->setWindowFlag(Qt::Dialog);
     dialog->setWindowTitle(tr("All tags"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setTags(flattenedTags(_imageTags));
+    dialog->setTags(_imageTags->flattened());
     dialog->show();
 }

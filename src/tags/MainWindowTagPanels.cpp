@@ -2,13 +2,11 @@
 
 #include "app/WaitCursor.h"
 #include "app/services/LongLines.h"
-#include "catalogue/MediaItemModel.h"
-#include "catalogue/MediaModel.h"
 #include "catalogue/SizeRememberingDelegate.h"
-#include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
+#include "catalogue/ViewSetup.h"
 #include "tags/ReplaceTextDialog.h"
-#include "tags/TagText.h"
+#include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QClipboard>
@@ -32,12 +30,9 @@ QListWidgetItem* makeCountedTagItem(const TagCount& counted) {
 }
 
 void setUpTagList(QListWidget* list) {
-    list->setViewMode(QListView::IconMode);
-    // Icon mode lets items be dragged about unless their movement is fixed.
-    list->setMovement(QListView::Static);
+    setStaticViewMode(list, QListView::IconMode);
     list->setResizeMode(QListView::Adjust);
     list->setSpacing(8);
-    list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setUniformItemSizes(false);
     list->setItemDelegate(new SizeRememberingDelegate(list));
@@ -95,6 +90,28 @@ void MainWindow::initTagViews() {
         keepLongLinesQuick(edit);
 }
 
+void MainWindow::initTagPanelConnections() {
+    connect(_imageTags, &TagRecord::changed, this, &MainWindow::onTagsChanged);
+    connect(ui->lwImageTags, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onImageTagCustomContextMenu);
+    connect(ui->lwAllImagesTags, &QWidget::customContextMenuRequested, this,
+            &MainWindow::onImagesTagsCustomContextMenu);
+    connect(ui->lwAllImagesTags, &QListWidget::itemSelectionChanged, this,
+            &MainWindow::onAllImagesTagSelectedChanged);
+    connect(ui->leFilterTag, &QLineEdit::textChanged, this, &MainWindow::onFilterTag);
+    connect(ui->leFilterAllTags, &QLineEdit::textChanged, this, &MainWindow::onFilterAllTags);
+}
+
+void MainWindow::onTagsChanged(TagChange change) {
+    if (change == TagChange::Saved)
+        return;
+    refreshAllTags();
+    if (change == TagChange::Edited)
+        onItemSelectedChanged();
+    else if (change == TagChange::Undone)
+        refreshSelectionTags(selectedFilePaths());
+}
+
 void MainWindow::refreshSelectionTags(const QStringList& filePaths) {
     QStringList tags;
     for (const QString& filePath : filePaths)
@@ -110,7 +127,7 @@ void MainWindow::refreshAllTags() {
     {
         const UpdatesOff updatesOff({ui->lwAllImagesTags});
         ui->lwAllImagesTags->clear();
-        const QList<TagCount> counted = countedTags(_imageTags);
+        const QList<TagCount> counted = _imageTags->counted();
         for (const TagCount& tag : counted)
             ui->lwAllImagesTags->addItem(makeCountedTagItem(tag));
     }
@@ -119,17 +136,13 @@ void MainWindow::refreshAllTags() {
 
 void MainWindow::onAllImagesTagSelectedChanged() {
     const QStringList tags = selectedTagTexts(ui->lwAllImagesTags);
+    TagMatcher matcher(tags);
     int found = 0;
-    {
-        const UpdatesOff updatesOff(mediaViews());
-        for (int row = 0; row < _itemModel->rowCount(); ++row) {
-            auto* item = static_cast<MediaItem*>(_itemModel->item(row, ColName));
-            const bool matches = holdsAnyTag(_imageTags.value(item->data(RoleValue).toString()), tags);
-            item->setHidden(!tags.isEmpty() && !matches);
-            found += matches ? 1 : 0;
-        }
-        _proxyModel->invalidate();
-    }
+    hideFiles([&](int /*row*/, const QString& filePath) {
+        const bool matches = matcher.matchesAny(_imageTags->tags(filePath));
+        found += matches ? 1 : 0;
+        return !tags.isEmpty() && !matches;
+    });
     onShowMessage(tr("Found %1 images for tag: %2").arg(QString::number(found), tags.join(u',')));
 }
 
@@ -161,13 +174,7 @@ void MainWindow::onTagDelete() {
         return;
     }
     const WaitCursor waitCursor;
-    for (const QString& file : files) {
-        QStringList kept = imageTags(file);
-        removeTags(kept, tags);
-        setImageTags(file, kept);
-    }
-    refreshAllTags();
-    onItemSelectedChanged();
+    _imageTags->removeTags(files, tags);
 }
 
 void MainWindow::onTagsDelete() {
@@ -184,10 +191,7 @@ void MainWindow::deleteTagsEverywhere(const QStringList& tags) {
         return;
     }
     const WaitCursor waitCursor;
-    for (QStringList& entry : _imageTags)
-        removeTags(entry, tags);
-    refreshAllTags();
-    onItemSelectedChanged();
+    _imageTags->removeEverywhere(tags);
 }
 
 void MainWindow::onImageTagCustomContextMenu() {
@@ -216,7 +220,7 @@ void MainWindow::onImagesTagsCustomContextMenu() {
 }
 
 void MainWindow::addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order) {
-    menu.addAction(tr("View &list"), this, [list] { list->setViewMode(QListView::ListMode); });
-    menu.addAction(tr("View &icon"), this, [list] { list->setViewMode(QListView::IconMode); });
+    menu.addAction(tr("View &list"), this, [list] { setStaticViewMode(list, QListView::ListMode); });
+    menu.addAction(tr("View &icon"), this, [list] { setStaticViewMode(list, QListView::IconMode); });
     menu.addAction(tr("&Sort"), this, [list, &order] { sortTagList(list, order); });
 }
