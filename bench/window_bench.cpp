@@ -10,14 +10,18 @@
 #include "tags/TagsExport.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QSet>
+#include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -64,11 +68,9 @@ public:
         loading();
         Ratio::header();
         opening();
-        const std::pair<const char*, void (Bench::*)()> topics[] = {{"filter", &Bench::filtering},
-                                                                    {"sort", &Bench::sorting},
-                                                                    {"select", &Bench::selecting},
-                                                                    {"tags", &Bench::tagPanel},
-                                                                    {"texts", &Bench::texts}};
+        const std::pair<const char*, void (Bench::*)()> topics[] = {
+            {"filter", &Bench::filtering}, {"sort", &Bench::sorting},    {"select", &Bench::selecting},
+            {"tags", &Bench::tagPanel},    {"remove", &Bench::removing}, {"texts", &Bench::texts}};
         for (const auto& [name, measure] : topics) {
             if (only.isEmpty() || only == name)
                 (this->*measure)();
@@ -157,6 +159,66 @@ private:
         if (found != _files / 10)
             qFatal("the filter found %d", found);
         filter->clear();
+        auto* table = _bench.find<QTableView>("tableView");
+        table->sortByColumn(ColLastModified, Qt::AscendingOrder);
+        Ratio::report(
+            label("filter keystroke, sorted by date"),
+            [&] {
+                filter->setText("needle");
+                QCoreApplication::processEvents();
+            },
+            [&] {
+                (void)reference::searchRows(strings, "needle");
+                QSortFilterProxyModel bound;
+                bound.setSortRole(RoleValue);
+                bound.setSourceModel(model());
+                bound.sort(ColLastModified, Qt::AscendingOrder);
+            },
+            [&] {
+                filter->clear();
+                QCoreApplication::processEvents();
+            });
+        filter->clear();
+        table->sortByColumn(-1, Qt::AscendingOrder);
+    }
+
+    // Every other selected row of the first thousand leaves the disk, as a move of these files would have it.
+    void removing() {
+        auto* view = _bench.find<QListView>("listView");
+        const QString away = QDir(_bench.emptyPath()).filePath("away");
+        QDir().mkpath(away);
+        QStringList names;
+        for (int number = 0; number < std::min(1000, _files); number += 2)
+            names.append(catalogue::pictureName(number));
+        const auto move = [&](const QString& from, const QString& to) {
+            for (const QString& name : std::as_const(names))
+                QFile::rename(QDir(from).filePath(name), QDir(to).filePath(name));
+        };
+        Ratio::report(
+            label("500 selected rows removed"),
+            [&] {
+                move(_bench.path(), away);
+                _bench.window().onWorkingDirectoryChanged(_bench.path());
+                if (model()->rowCount() != _files - names.size())
+                    qFatal("rows stayed");
+                move(away, _bench.path());
+            },
+            [&] {
+                move(_bench.path(), away);
+                QStandardItemModel bound;
+                for (const QString& file : _tags.keys()) {
+                    if (QFile::exists(file))
+                        bound.appendRow(new QStandardItem(file));
+                }
+                move(away, _bench.path());
+            },
+            [&] {
+                _bench.open();
+                _bench.waitForPreviews();
+                view->selectAll();
+            });
+        _bench.open();
+        _bench.waitForPreviews();
     }
 
     void sorting() {
@@ -236,6 +298,29 @@ private:
                     hits += tags.contains(list->item(0)->text(), Qt::CaseInsensitive) ? 1 : 0;
                 if (hits == 0)
                     qFatal("the tag is nowhere");
+            });
+        constexpr int searched = 2000;
+        list->setUpdatesEnabled(false);
+        QStringList wanted;
+        {
+            const QSignalBlocker blocker(list);
+            for (int row = 0; row < std::min(searched, list->count()); ++row) {
+                list->item(row)->setSelected(true);
+                wanted.append(list->item(row)->text());
+            }
+        }
+        list->setUpdatesEnabled(true);
+        Ratio::report(
+            label("tag search, 2 000 tags"), [&] { _bench.window().onAllImagesTagSelectedChanged(); },
+            [&] {
+                const QSet<QString> known(wanted.cbegin(), wanted.cend());
+                int hits = 0;
+                for (const QStringList& tags : std::as_const(_tags)) {
+                    hits +=
+                        std::ranges::any_of(tags, [&](const QString& tag) { return known.contains(tag); });
+                }
+                if (hits == 0)
+                    qFatal("the tags are nowhere");
             });
         list->clearSelection();
     }
