@@ -10,6 +10,7 @@
 #include "imaging/ImageFilters.h"
 #include "imaging/Profiles.h"
 #include "tags/TagRecord.h"
+#include "tags/TagRecovery.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -64,6 +65,7 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::~MainWindow() {
     closeOptions();
     closeToolWindows();
+    _recovery->close();
     writeSettings();
     Settings::destroyInstance();
     Themes::destroyInstance();
@@ -97,6 +99,7 @@ void MainWindow::initUi() {
     _imageTags = new TagRecord(this);
     initViews();
     initModels();
+    initStatusPanel();
     ui->toolBar->addActions(actions());
     _imageFilters = new ImageFilters(this);
     ui->cBDspEffectsList->addItems(_imageFilters->filterNames());
@@ -146,6 +149,7 @@ void MainWindow::updateThemeIcons(bool isDarkTheme) {
 
 void MainWindow::initConnections() {
     connect(ui->actionExit, &QAction::triggered, this, &QWidget::close);
+    initStatusPanelConnections();
     initOptionsConnections();
     initViewConnections();
     initContextMenuConnections();

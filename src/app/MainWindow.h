@@ -21,6 +21,7 @@ class MediaItem;
 class MediaItemModel;
 class OllamaApi;
 class QAbstractItemView;
+class QFile;
 class QFileSystemWatcher;
 class QGroupBox;
 class QHeaderView;
@@ -29,7 +30,9 @@ class QListWidgetItem;
 class QMenu;
 class SelectionWatcher;
 class SortFilterProxyModel;
+class StatusPanel;
 class TagRecord;
+class TagRecovery;
 class VideoWidget;
 enum class ResizeMode;
 enum class TagChange;
@@ -69,6 +72,29 @@ private:
     void readSettings();
     void makeRoomForTools(bool mayResize);
     void writeSettings();
+
+    // --- Status panel, undo and recovery (app) ---------------------------------------------------
+public slots:
+    void onUndoTags();
+    void onRedoTags();
+    void onShowAllFiles();
+    void onShowUnsavedFiles();
+    void onRestoreTags();
+
+private:
+    void initStatusPanel();
+    void initStatusPanelConnections();
+    void updateShownCount();
+    void updateUnsavedCount();
+    // What the operation really did, kept in the panel until the next one ends. A failure is a line of file
+    // and reason.
+    void showResult(const QString& verb, qsizetype done, qsizetype total, const QStringList& failures);
+    // A message or a count in the middle of a loop that blocks the window.
+    void showBlockingMessage(const QString& msg);
+    void showBlockingProgress(const QString& text);
+
+    StatusPanel* _statusPanel = nullptr;
+    TagRecovery* _recovery = nullptr;
 
     // --- Options (app) ---------------------------------------------------------------------------
 public slots:
@@ -138,13 +164,15 @@ private:
     void initModels();
     void initViewConnections();
     [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
+    enum class HiddenBy { Filter, Tags, Saved };
     // Hides the files for which the predicate of row and file key holds, and shows all others.
-    void hideFiles(const std::function<bool(int row, const QString& filePath)>& isHidden);
+    void hideFiles(HiddenBy reason, const std::function<bool(int row, const QString& filePath)>& isHidden);
     void showMediaPreview(const QString& filePath);
 
     SortFilterProxyModel* _proxyModel = nullptr;
     IconIdentityProxyModel* _iconProxyModel = nullptr;
     SelectionWatcher* _selection = nullptr;
+    HiddenBy _hiddenBy = HiddenBy::Filter;
 
     // --- Context menu of the views (catalogue) ---------------------------------------------------
 public slots:
@@ -184,7 +212,12 @@ private:
     void initFileOperationConnections();
     // Asks for a directory, starting at the last one; empty when the user cancels.
     [[nodiscard]] QString selectDirectory();
-    void importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource);
+    // Copies or moves the selected files to a directory that the user chooses. A file that fails costs only
+    // itself.
+    void transferFiles(const QString& verb,
+                       const std::function<bool(QFile& source, const QString& target)>& transfer);
+    // Returns the reason of a failure; null where the file was imported.
+    QString importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource);
     [[nodiscard]] bool wantsToOpenMany(qsizetype count);
 
     // --- Embedded comments (catalogue) -----------------------------------------------------------

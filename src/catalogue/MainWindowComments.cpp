@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/StatusPanel.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/UpdatesOff.h"
@@ -76,13 +77,14 @@ void MainWindow::onExtractWorkflow() {
     if (directory.isEmpty())
         return;
     QFile file(u"%1/%2.json"_s.arg(directory, QFileInfo(files.first()).baseName()));
+    QStringList failures;
     if (!file.open(QIODevice::WriteOnly)) {
         qDebug() << "Error, unable to open file for writting:" << file.errorString();
-        return;
-    }
-    // A short text reaches the disk with the flush.
-    if (file.write(comment.toUtf8()) == -1 || !file.flush()) {
+        failures = {fileFailure(file.fileName(), file.errorString())};
+    } else if (file.write(comment.toUtf8()) == -1 || !file.flush()) { // a short text is written by the flush
         qDebug() << "Error, unable to write content to the file:" << file.fileName()
                  << "error:" << file.errorString();
+        failures = {fileFailure(file.fileName(), file.errorString())};
     }
+    showResult(tr("extracted"), 1 - failures.size(), 1, failures);
 }

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
+#include "app/StatusPanel.h"
 #include "app/WaitCursor.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
@@ -58,23 +59,6 @@ QString freeImportName(const QString& directory, const QFileInfo& source) {
     }
 }
 
-// A file that fails is named and costs only itself. Without a directory nothing happens.
-template <typename Operation>
-void transferFiles(MainWindow& window, const QStringList& files, const QString& directory,
-                   Operation operation) {
-    if (directory.isEmpty())
-        return;
-    const WaitCursor waitCursor;
-    for (const QString& source : files) {
-        const QString target = destinationFilePath(source, directory);
-        QFile file(source);
-        if (!operation(file, target)) {
-            window.onShowMessage(MainWindow::tr("Error, unable to copy file: %1 to: %2 error: %3")
-                                     .arg(source, target, file.errorString()));
-        }
-    }
-}
-
 } // namespace
 
 void MainWindow::initFileOperationConnections() {
@@ -91,19 +75,39 @@ QString MainWindow::selectDirectory() {
 }
 
 void MainWindow::copyFiles() {
-    const QStringList files = selectedFilePaths();
-    const QString directory = files.isEmpty() ? QString() : selectDirectory();
-    transferFiles(*this, files, directory,
-                  [](QFile& source, const QString& target) { return source.copy(target); });
+    transferFiles(tr("copied"), [](QFile& source, const QString& target) { return source.copy(target); });
 }
 
 void MainWindow::moveFiles() {
-    const QStringList files = selectedFilePaths();
-    const QString directory = files.isEmpty() ? QString() : selectDirectory();
-    transferFiles(*this, files, directory, [this](QFile& source, const QString& target) {
+    transferFiles(tr("moved"), [this](QFile& source, const QString& target) {
         ui->vidWidget->stop(source.fileName());
         return source.rename(target);
     });
+}
+
+void MainWindow::transferFiles(const QString& verb,
+                               const std::function<bool(QFile& source, const QString& target)>& transfer) {
+    const QStringList files = selectedFilePaths();
+    const QString directory = files.isEmpty() ? QString() : selectDirectory();
+    if (directory.isEmpty())
+        return;
+    const WaitCursor waitCursor;
+    qsizetype done = 0;
+    QStringList failures;
+    for (const QString& source : files) {
+        const QString target = destinationFilePath(source, directory);
+        QFile file(source);
+        if (transfer(file, target)) {
+            ++done;
+        } else {
+            failures.append(fileFailure(source, file.errorString()));
+            onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
+                              .arg(source, target, file.errorString()));
+        }
+        showBlockingProgress(tr("%1 %2/%3").arg(verb).arg(done).arg(files.size()));
+    }
+    showBlockingProgress({});
+    showResult(verb, done, files.size(), failures);
 }
 
 void MainWindow::deleteFile() {
@@ -117,17 +121,22 @@ void MainWindow::deleteFile() {
         return;
     const WaitCursor waitCursor;
     QStringList errors;
+    QStringList failures;
     for (const QString& path : files) {
         ui->vidWidget->stop(path);
         if (const std::optional<QString> error = moveToTrash(path)) {
             qDebug() << "Error, unable to move file to trash:" << *error << path;
             errors.append(*error);
+            failures.append(fileFailure(path, *error));
         }
+        showBlockingProgress(tr("deleted %1/%2").arg(&path - files.data() + 1).arg(files.size()));
     }
+    showBlockingProgress({});
     removeFileItems(files);
     // Last, as the rows that are removed change the selection, which has a message of its own.
     for (const QString& error : std::as_const(errors))
         onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(error));
+    showResult(tr("deleted"), files.size() - failures.size(), files.size(), failures);
 }
 
 void MainWindow::deleteStrayTxtFiles() {
@@ -143,12 +152,16 @@ void MainWindow::deleteStrayTxtFiles() {
     const WaitCursor waitCursor;
     const DirectoryNames names = namesInDirectory(directory);
     const QStringList stray = strayTxtFiles(names.txtFiles, names.all, _supportedFormats);
+    QStringList failures;
     for (const QString& name : stray) {
         const QString path = destinationFilePath(name, directory);
-        if (moveToTrash(path))
-            onShowMessage(tr("Failed to trash file: %1").arg(path));
+        if (const std::optional<QString> error = moveToTrash(path)) {
+            failures.append(fileFailure(path, *error));
+            showBlockingMessage(tr("Failed to trash file: %1").arg(path));
+        }
     }
     onShowMessage(tr("Found %1 stray txt files, moved to trash bin.").arg(stray.size()));
+    showResult(tr("deleted"), stray.size() - failures.size(), stray.size(), failures);
 }
 
 void MainWindow::importFiles() {
@@ -171,30 +184,40 @@ void MainWindow::importFiles() {
     const bool deleteSource = Settings::instance()->data(keys::importFilesDeleteSrc, false).toBool();
     const bool autoRename = Settings::instance()->data(keys::importFilesAutoRename, false).toBool();
     const WaitCursor waitCursor;
-    for (const QString& source : sources)
-        importFile(source, directory, autoRename, deleteSource);
+    QStringList failures;
+    qsizetype done = 0;
+    for (const QString& source : sources) {
+        const QString error = importFile(source, directory, autoRename, deleteSource);
+        if (error.isNull())
+            ++done;
+        else
+            failures.append(fileFailure(source, error));
+    }
+    showResult(tr("imported"), done, sources.size(), failures);
 }
 
-void MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
-                            bool deleteSource) {
+QString MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
+                               bool deleteSource) {
     const QFileInfo info(source);
     QString target = u"%1%2.%3"_s.arg(directory, info.completeBaseName(), info.suffix());
     if (QFile::exists(target)) {
         if (!autoRename) {
-            onShowMessage(tr("Unable to import file from %1, file already exist at: %2").arg(source, target));
-            return;
+            showBlockingMessage(
+                tr("Unable to import file from %1, file already exist at: %2").arg(source, target));
+            return tr("file already exist at: %1").arg(target);
         }
         target = freeImportName(directory, info);
     }
     QFile file(source);
     if (!file.copy(target)) {
-        onShowMessage(tr("Unable to import file from %1, copy error: %2").arg(source, file.errorString()));
-        return;
+        showBlockingMessage(
+            tr("Unable to import file from %1, copy error: %2").arg(source, file.errorString()));
+        return file.errorString();
     }
-    onShowMessage(tr("Imported file from %1 to %2").arg(source, target));
+    showBlockingMessage(tr("Imported file from %1 to %2").arg(source, target));
     if (deleteSource) {
         if (const std::optional<QString> error = moveToTrash(source)) {
-            onShowMessage(
+            showBlockingMessage(
                 tr("Import file error, unable to move to trash file: %1, error: %2").arg(source, *error));
         }
     }
@@ -202,6 +225,7 @@ void MainWindow::importFile(const QString& source, const QString& directory, boo
     // A text file has no tags of its own: it is the sidecar of others, which an entry would overwrite.
     if (checkMediaKey(target))
         readTagFiles({target});
+    return {};
 }
 
 bool MainWindow::wantsToOpenMany(qsizetype count) {

@@ -11,6 +11,7 @@
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/ViewSetup.h"
 #include "tags/TagRecord.h"
+#include "tags/TagRecovery.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -39,6 +40,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         return;
     }
     const WaitCursor waitCursor;
+    _recovery->close();
     _imageTags->clear();
     unbindTagFile();
     _workingPath = path;
@@ -131,6 +133,7 @@ void MainWindow::populateUiImage(const QStringList& files) {
     }
     watchWorkingDirectory();
     onFilterImages(ui->leFilterImages->text());
+    _recovery->open(_openedPath);
 }
 
 QStringList MainWindow::allFilePaths() const {

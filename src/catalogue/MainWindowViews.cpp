@@ -184,10 +184,12 @@ void MainWindow::onDockWidgetImagePreviewCustomMenu() {
     menu.exec(QCursor::pos());
 }
 
-void MainWindow::hideFiles(const std::function<bool(int row, const QString& filePath)>& isHidden) {
+void MainWindow::hideFiles(HiddenBy reason,
+                           const std::function<bool(int row, const QString& filePath)>& isHidden) {
     // Hidden rows leave the selection without a signal.
     const SelectionWatcher::Hold hold(*_selection);
     const UpdatesOff updatesOff(mediaViews());
+    _hiddenBy = reason;
     _itemModel->hideRows(isHidden);
     _proxyModel->refilter();
 }
@@ -195,7 +197,7 @@ void MainWindow::hideFiles(const std::function<bool(int row, const QString& file
 void MainWindow::onFilterImages(const QString& txt) {
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt);
-    hideFiles([&](int row, const QString& filePath) {
+    hideFiles(HiddenBy::Filter, [&](int row, const QString& filePath) {
         if (txt.isEmpty())
             return false;
         if (wantsMissingTxt)

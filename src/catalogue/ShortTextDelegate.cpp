@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <limits>

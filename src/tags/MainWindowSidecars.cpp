@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/StatusPanel.h"
 #include "app/WaitCursor.h"
 #include "catalogue/FileNaming.h"
 #include "tags/SidecarFile.h"
@@ -21,6 +22,17 @@ void logBackup(const QString& txtFileName, const SidecarWrite& write) {
         qDebug() << "Error, backup file path is empty for:" << txtFileName;
     if (!write.backupError.isEmpty())
         qDebug() << "Failed to rename to backup txt file:" << write.backupError;
+}
+
+QString sidecarError(const SidecarWrite& write) {
+    switch (write.outcome) {
+    case SidecarWrite::NoBackupName:
+        return MainWindow::tr("no backup name is left");
+    case SidecarWrite::CutShort:
+        return MainWindow::tr("the disk took only a part");
+    default:
+        return write.error;
+    }
 }
 
 // Shows a text that is no edit of the user: it cannot be undone.
@@ -98,7 +110,12 @@ bool MainWindow::isTagFileEdited() const {
 void MainWindow::onSaveTags() {
     const WaitCursor waitCursor;
     const TagSaveReport report =
-        _imageTags->save({ui->cBBackupTxt->isChecked(), ui->cBSaveTagsDuplicates->isChecked()});
+        _imageTags->save({ui->cBBackupTxt->isChecked(), ui->cBSaveTagsDuplicates->isChecked(),
+                          [this](qsizetype done, qsizetype total) {
+                              showBlockingProgress(tr("saved %1/%2").arg(done).arg(total));
+                          }});
+    showBlockingProgress({});
+    QStringList failures;
     for (const TagSaveRemark& remark : report.remarks) {
         if (remark.isShared)
             qDebug() << "Warning, another file shares this sidecar, its tags are overwritten:"
@@ -109,7 +126,10 @@ void MainWindow::onSaveTags() {
         else if (remark.write.outcome == SidecarWrite::NotWritten ||
                  remark.write.outcome == SidecarWrite::CutShort)
             qDebug() << "Failed to write data to txt file:" << remark.write.error << remark.txtFileName;
+        if (remark.write.outcome != SidecarWrite::Written)
+            failures.append(fileFailure(remark.txtFileName, sidecarError(remark.write)));
     }
+    showResult(tr("saved"), report.written, _imageTags->size(), failures);
     if (!report.isStopped)
         onFilterImages(ui->leFilterImages->text());
 }
@@ -126,6 +146,9 @@ void MainWindow::onSaveTagTxtFile() {
 bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFileName, const QString& text) {
     const SidecarWrite write = writeSidecar(txtFileName, text, ui->cBBackupTxt->isChecked());
     logBackup(txtFileName, write);
+    const bool isWritten = write.outcome == SidecarWrite::Written;
+    showResult(tr("saved"), isWritten ? 1 : 0, 1,
+               isWritten ? QStringList() : QStringList{fileFailure(txtFileName, sidecarError(write))});
     switch (write.outcome) {
     case SidecarWrite::NoBackupName:
         return false;
@@ -149,16 +172,15 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
         return true;
     }
     checkMediaKey(imgFileName);
-    if (write.outcome == SidecarWrite::Written)
+    if (isWritten)
         _imageTags->setSavedTags(imgFileName, tagsFromText(text));
     else
         _imageTags->setTags(imgFileName, tagsFromText(text));
     refreshImageTags(imgFileName);
-    if (write.outcome == SidecarWrite::Written)
-        return true;
     // The user sees that the file on the disk is not the text on the screen.
-    onShowMessage(tr("Failed to write data to txt file, error: %1").arg(tr("the disk took only a part")));
-    return false;
+    if (!isWritten)
+        onShowMessage(tr("Failed to write data to txt file, error: %1").arg(sidecarError(write)));
+    return isWritten;
 }
 
 void MainWindow::onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags) {

@@ -250,6 +250,8 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
                 _sidecarTags.insert(replacedKey, tagsFromText(text));
         }
         ++(isWhole ? report.written : report.failed);
+        if (options.progress)
+            options.progress(report.written + report.failed, _tags.size());
         if (!isWhole || remark.isShared || !remark.write.backupError.isEmpty())
             report.remarks.append(remark);
         if (remark.write.outcome == SidecarWrite::NoBackupName) {

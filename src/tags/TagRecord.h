@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 // What a change of the record was, for those who show it.
 enum class TagChange {
     Read,   // sidecars were read, or files removed
@@ -21,6 +23,7 @@ enum class TagChange {
 struct TagSaveOptions {
     bool makesBackups = false;
     bool keepsDuplicates = false;
+    std::function<void(qsizetype done, qsizetype total)> progress = {}; // after each sidecar
 };
 
 // A sidecar of a save that went otherwise than expected.
@@ -47,6 +50,7 @@ public:
 
     explicit TagRecord(QObject* parent = nullptr) : QObject(parent) {}
 
+    [[nodiscard]] qsizetype size() const { return _tags.size(); }
     [[nodiscard]] bool contains(const QString& key) const { return _tags.contains(key); }
     [[nodiscard]] QStringList tags(const QString& key) const { return _tags.value(key); }
     [[nodiscard]] QList<TagCount> counted() const { return countedTags(_tags); }

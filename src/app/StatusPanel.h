@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class QMenu;
+class QToolButton;
+
+// The outcome of an operation that the user started.
+struct OperationResult {
+    QString text;         // "resized 228 of 237, 9 failed"
+    QStringList failures; // a line each: file and reason
+};
+
+// A line of a result's failures.
+[[nodiscard]] inline QString fileFailure(const QString& filePath, const QString& reason) {
+    return filePath + QLatin1StringView(": ") + reason;
+}
+
+// "saved 237", or "saved 228 of 237, 9 failed". The failures are the lines of file and reason.
+[[nodiscard]] OperationResult operationResult(const QString& verb, qsizetype done, qsizetype total,
+                                              const QStringList& failures);
+
+// The right end of the status bar: how many files are shown and unsaved, how far a batch is and what the last
+// operation did. Each button is hidden while it has nothing to say. Knows no catalogue; whoever owns it fills
+// it and follows its signals.
+class StatusPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Unsaved {
+        qsizetype count = 0;
+        QStringList names; // the first ones
+        QString undoText;  // empty without a step
+        QString redoText;
+        qsizetype offeredCount = 0; // files that an earlier run left unsaved
+        QString offeredTime;
+    };
+
+    explicit StatusPanel(QWidget* parent = nullptr);
+
+    // Hidden files by reason, a line each.
+    void showCounts(int shown, int total, const QStringList& reasons);
+    void showUnsaved(const Unsaved& unsaved);
+    // Empty without a batch.
+    void showProgress(const QString& text);
+    void showResult(const OperationResult& result);
+
+    // Paints the window of the panel's status bar in the middle of a blocking loop, at most 20 times a
+    // second.
+    void repaintNow();
+
+signals:
+    void showAllRequested();
+    void undoRequested();
+    void redoRequested();
+    void saveRequested();
+    void showUnsavedRequested();
+    void restoreRequested();
+    void discardRequested();
+    void progressClicked();
+
+private:
+    QToolButton* addButton(const QString& name, const QString& accessibleName);
+    void fillUnsavedMenu(const Unsaved& unsaved);
+
+    QToolButton* _shownCount;
+    QToolButton* _unsavedCount;
+    QToolButton* _progress;
+    QToolButton* _lastResult;
+    QMenu* _unsavedMenu;
+    QStringList _failures;
+    QElapsedTimer _sinceRepaint;
+};

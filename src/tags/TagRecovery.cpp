@@ -1,0 +1,230 @@
+#include "tags/TagRecovery.h"
+
+#include "catalogue/FileNaming.h"
+#include "tags/TagRecord.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <atomic>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int writeDelayMs = 2000;
+// A batch that changes tags each second would put the write off for ever.
+constexpr int longestDelayMs = 10000;
+constexpr int keptDays = 30;
+constexpr int keptFiles = 20;
+constexpr int formatVersion = 1;
+
+void noteSidecar(const QString& key, RecoveredFile& file) {
+    const QFileInfo sidecar(imgFilePathToTxtFilePath(key));
+    if (!sidecar.exists())
+        return;
+    file.sidecarSize = sidecar.size();
+    file.sidecarTime = sidecar.lastModified(QTimeZone::UTC).toMSecsSinceEpoch();
+}
+
+bool isSidecarChanged(const QString& key, const RecoveredFile& recorded) {
+    RecoveredFile now;
+    noteSidecar(key, now);
+    return now.sidecarSize != recorded.sidecarSize || now.sidecarTime != recorded.sidecarTime;
+}
+
+std::optional<RecoveredTags> readRecovery(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? recoveryFromText(file.readAll()) : std::nullopt;
+}
+
+// A directory that cannot be written is named once, since every change would name it again.
+void logFailedWrite(const QString& path, const QString& error) {
+    static std::atomic<bool> isLogged = false;
+    if (!isLogged.exchange(true))
+        qDebug() << "Error, unable to write unsaved tags to:" << path << "error:" << error;
+}
+
+// Runs in the writer's thread. Without files the old recovery is removed.
+void writeRecovery(const QString& path, RecoveredTags recovered) {
+    if (recovered.files.isEmpty()) {
+        QFile::remove(path);
+        return;
+    }
+    for (auto [key, file] : recovered.files.asKeyValueRange()) {
+        if (file.sidecarSize < 0)
+            noteSidecar(key, file);
+    }
+    QDir().mkpath(QFileInfo(path).path());
+    // The old file stays whole when the disk is full.
+    QSaveFile file(path);
+    const QByteArray text = recoveryText(recovered);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        logFailedWrite(path, file.errorString());
+}
+
+} // namespace
+
+QByteArray recoveryText(const RecoveredTags& recovered) {
+    QJsonArray files;
+    for (const auto& [key, file] : recovered.files.asKeyValueRange()) {
+        files.append(QJsonObject{{u"file"_s, key},
+                                 {u"tags"_s, QJsonArray::fromStringList(file.tags)},
+                                 {u"sidecarSize"_s, file.sidecarSize},
+                                 {u"sidecarTime"_s, file.sidecarTime}});
+    }
+    const QJsonObject root{{u"version"_s, formatVersion},
+                           {u"directory"_s, recovered.directory},
+                           {u"process"_s, QCoreApplication::applicationPid()},
+                           {u"time"_s, recovered.time.toUTC().toString(Qt::ISODateWithMs)},
+                           {u"files"_s, files}};
+    return QJsonDocument(root).toJson(QJsonDocument::Compact);
+}
+
+std::optional<RecoveredTags> recoveryFromText(const QByteArray& text) {
+    const QJsonObject root = QJsonDocument::fromJson(text).object();
+    if (root["version"_L1].toInt() != formatVersion || !root["files"_L1].isArray())
+        return std::nullopt;
+    RecoveredTags recovered;
+    recovered.directory = root["directory"_L1].toString();
+    recovered.time = QDateTime::fromString(root["time"_L1].toString(), Qt::ISODateWithMs);
+    for (const QJsonValue& value : root["files"_L1].toArray()) {
+        RecoveredFile file;
+        for (const QJsonValue& tag : value["tags"_L1].toArray())
+            file.tags.append(tag.toString());
+        file.sidecarSize = value["sidecarSize"_L1].toInteger(-1);
+        file.sidecarTime = value["sidecarTime"_L1].toInteger();
+        recovered.files.insert(value["file"_L1].toString(), file);
+    }
+    return recovered;
+}
+
+TagRecovery::TagRecovery(TagRecord& record, const QString& recoveryDirectory, QObject* parent)
+    : QObject(parent), _record(record), _directory(recoveryDirectory) {
+    _writer.setMaxThreadCount(1);
+    _delay.setSingleShot(true);
+    connect(&_delay, &QTimer::timeout, this, &TagRecovery::write);
+    connect(&record, &TagRecord::changed, this, &TagRecovery::onRecordChanged);
+}
+
+TagRecovery::~TagRecovery() {
+    _writer.waitForDone();
+}
+
+// The file of a directory. One that cannot be read stays as it is, and the next name is taken.
+QString TagRecovery::freePath(const QString& workingDirectory, RecoveredTags& left) const {
+    const QByteArray hash =
+        QCryptographicHash::hash(workingDirectory.toUtf8(), QCryptographicHash::Sha1).toHex();
+    for (int number = 0;; ++number) {
+        const QString path =
+            QDir(_directory).filePath(u"%1_%2.json"_s.arg(QLatin1StringView(hash)).arg(number));
+        if (!QFileInfo::exists(path))
+            return path;
+        std::optional<RecoveredTags> found = readRecovery(path);
+        if (found && found->directory == workingDirectory) {
+            left = std::move(*found);
+            return path;
+        }
+        qDebug() << "Error, unable to read unsaved tags from:" << path;
+    }
+}
+
+void TagRecovery::open(const QString& workingDirectory) {
+    close();
+    dropOldFiles();
+    _workingDirectory = workingDirectory;
+    _path = freePath(workingDirectory, _offer);
+    // What equals the sidecars is no longer missing.
+    _offer.files.removeIf([this](const auto& file) {
+        return _record.contains(file.key()) && _record.tags(file.key()) == file.value().tags;
+    });
+    emit offerChanged();
+}
+
+void TagRecovery::close() {
+    if (_delay.isActive())
+        write();
+    _writer.waitForDone();
+    _path.clear();
+    _offer = {};
+}
+
+void TagRecovery::onRecordChanged() {
+    if (_path.isEmpty())
+        return;
+    if (_record.unsavedCount() == 0) {
+        // What was just saved is not offered after a crash.
+        write();
+        return;
+    }
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (!_delay.isActive())
+        _pendingSince = now;
+    else if (_pendingSince.msecsTo(now) > longestDelayMs)
+        return;
+    _delay.start(writeDelayMs);
+}
+
+void TagRecovery::write() {
+    _delay.stop();
+    // What is still offered stays beside what is unsaved now.
+    RecoveredTags recovered = _offer;
+    recovered.directory = _workingDirectory;
+    if (!recovered.time.isValid())
+        recovered.time = QDateTime::currentDateTimeUtc();
+    const QStringList keys = _record.unsavedKeys();
+    for (const QString& key : keys)
+        recovered.files.insert(key, {_record.tags(key)});
+    _writer.start([path = _path, recovered] { writeRecovery(path, recovered); });
+}
+
+qsizetype TagRecovery::offeredCount() const {
+    const QList<QString> keys = _offer.files.keys();
+    return std::ranges::count_if(keys, [this](const QString& key) { return _record.contains(key); });
+}
+
+TagRecovery::Restored TagRecovery::restore() {
+    Restored restored;
+    TagRecord::Tags tags;
+    RecoveredTags kept{_offer.directory, _offer.time, {}};
+    for (const auto& [key, file] : std::as_const(_offer.files).asKeyValueRange()) {
+        if (_record.contains(key)) {
+            tags.insert(key, file.tags);
+            restored.changedSidecars += isSidecarChanged(key, file) ? 1 : 0;
+        } else if (QFileInfo::exists(key)) {
+            // Of a sub-directory that was not scanned this time.
+            kept.files.insert(key, file);
+        }
+    }
+    _offer = kept;
+    restored.files = _record.restore(tags);
+    // Without a change of the record nothing else would bring the file up to date.
+    write();
+    emit offerChanged();
+    return restored;
+}
+
+void TagRecovery::discard() {
+    _offer = {};
+    write();
+    emit offerChanged();
+}
+
+void TagRecovery::dropOldFiles() const {
+    const QFileInfoList files = QDir(_directory).entryInfoList({u"*.json"_s}, QDir::Files, QDir::Time);
+    const QDateTime oldest = QDateTime::currentDateTimeUtc().addDays(-keptDays);
+    for (qsizetype place = 0; place < files.size(); ++place) {
+        const QFileInfo& file = files.at(place);
+        const bool isOld = place >= keptFiles || file.lastModified(QTimeZone::UTC) < oldest;
+        if (isOld && readRecovery(file.filePath()))
+            QFile::remove(file.filePath());
+    }
+}
