@@ -5,6 +5,7 @@
 #include <fstream>
 #include <limits>
 #include <new>
+#include <utility>
 
 #ifdef _WIN32
 #define NOMINMAX
@@ -12,6 +13,34 @@
 #endif
 
 namespace {
+
+// --- data types ------------------------------------------------------------------------------------
+
+struct DTypeRow {
+    std::string_view text;
+    std::uint64_t size; // in bytes
+};
+
+// In the order of DType.
+constexpr std::array<DTypeRow, 13> dtypeRows{{{"BOOL", 1},
+                                              {"U8", 1},
+                                              {"I8", 1},
+                                              {"I16", 2},
+                                              {"U16", 2},
+                                              {"F16", 2},
+                                              {"BF16", 2},
+                                              {"I32", 4},
+                                              {"U32", 4},
+                                              {"F32", 4},
+                                              {"F64", 8},
+                                              {"I64", 8},
+                                              {"U64", 8}}};
+
+const DTypeRow& dtypeRow(DType dtype) {
+    return dtypeRows[static_cast<std::size_t>(dtype)];
+}
+
+// --- bytes -----------------------------------------------------------------------------------------
 
 #ifdef _WIN32
 // Empty for a path that is no UTF-8, which then fails to open.
@@ -66,6 +95,39 @@ bool readModelBytes(std::istream& stream, void* out, std::uint64_t count) {
     return static_cast<std::uint64_t>(stream.gcount()) == count;
 }
 
+// --- data area -------------------------------------------------------------------------------------
+
+// A wrapped product could pass for a small one.
+std::uint64_t saturatedProduct(std::uint64_t left, std::uint64_t right) {
+    constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
+    return right != 0 && left > largest / right ? largest : left * right;
+}
+
+// In bytes. Zero for a shape at the limit of dimensions.
+std::uint64_t tensorDataSize(const TensorInfo& tensor) {
+    if (tensor.shape.size() >= safetensorsDimensionLimit)
+        return 0;
+    std::uint64_t count = 1;
+    for (const std::uint64_t dimension : tensor.shape)
+        count = saturatedProduct(count, dimension);
+    return saturatedProduct(count, dtypeRow(tensor.dtype).size);
+}
+
+std::string dataFaults(const std::string& key, const TensorInfo& tensor, std::uint64_t size,
+                       std::uint64_t dataSize) {
+    const auto [begin, end] = tensor.dataOffsets;
+    const std::string area = " exceeds databuffer size " + std::to_string(dataSize) + ".\n";
+    std::string faults;
+    if (begin > dataSize)
+        faults += "Tensor `" + key + "`.data_offset.BEGIN " + std::to_string(begin) + area;
+    if (end > dataSize)
+        faults += "Tensor `" + key + "`.data_offset.END " + std::to_string(end) + area;
+    if (size != end - begin)
+        faults += "Data size mismatch. The size in Tensor `" + key + "` is " + std::to_string(size) +
+                  ", but the size from data_offsets is " + std::to_string(end - begin) + "\n";
+    return faults;
+}
+
 } // namespace
 
 bool readWholeFile(const std::string& path, std::vector<std::uint8_t>& out, std::string& err) {
@@ -115,4 +177,53 @@ bool readSafetensorsHeader(std::istream& stream, const std::string& path, Safete
     out.headerSize = headerSize;
     dataSize = fileSize - safetensorsPrefixSize - headerSize;
     return true;
+}
+
+std::optional<DType> dtypeFromText(std::string_view text) {
+    for (std::size_t i = 0; i < dtypeRows.size(); ++i) {
+        if (dtypeRows[i].text == text)
+            return static_cast<DType>(i);
+    }
+    return std::nullopt;
+}
+
+std::string tensorSummary(const TensorInfo& tensor) {
+    std::string text(dtypeRow(tensor.dtype).text);
+    text += " [";
+    for (std::size_t i = 0; i < tensor.shape.size(); ++i)
+        text.append(i == 0 ? "" : ", ").append(std::to_string(tensor.shape[i]));
+    return text + "]";
+}
+
+bool validateDataOffsets(const SafetensorsData& data, std::uint64_t dataSize, std::string& err) {
+    std::string faults;
+    std::size_t tensorsWithData = 0;
+    for (std::size_t i = 0; i < data.tensors.size(); ++i) {
+        const std::string& key = data.tensors.keys()[i];
+        const TensorInfo* const tensor = data.tensors.at(i);
+        if (!tensor) {
+            faults += "Internal error: Failed to get tensor at [" + std::to_string(i) + "]\n";
+            continue;
+        }
+        const auto [begin, end] = tensor->dataOffsets;
+        if (begin > end)
+            faults += key + ".data_offsets.BEGIN " + std::to_string(begin) +
+                      " must be less than or equal to data_offsets.END " + std::to_string(end) + "\n";
+        const std::uint64_t size = tensorDataSize(*tensor);
+        if (size == 0)
+            continue;
+        faults += dataFaults(key, *tensor, size, dataSize);
+        ++tensorsWithData;
+        if (tensorsWithData == data.tensors.size() && end != dataSize)
+            faults += "The last tensor's data_offset.END(" + std::to_string(end) +
+                      ") must be equal to databufer size " + std::to_string(dataSize) + ".\n";
+    }
+    if (faults.empty())
+        return true;
+    err = std::move(faults);
+    return false;
+}
+
+bool validateDataOffsets(const SafetensorsData& data, std::string& err) {
+    return validateDataOffsets(data, data.storage.size(), err);
 }

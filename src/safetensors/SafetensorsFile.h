@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,8 @@ enum class DType : std::uint8_t {
     Int64,
     UInt64
 };
+
+[[nodiscard]] std::optional<DType> dtypeFromText(std::string_view text);
 
 struct TensorInfo {
     struct Offsets {

@@ -1,7 +1,6 @@
 #include "safetensors/SafetensorsFileHeader.h"
 
 #include "safetensors/JsonParser.h"
-#include "safetensors/SafetensorsFileDType.h"
 
 #include <algorithm>
 #include <initializer_list>
