@@ -1,9 +1,9 @@
 #include "editor/EditImageWidget.h"
 
+#include "app/services/ImageFile.h"
 #include "catalogue/FileNaming.h"
 #include "catalogue/MediaFormats.h"
 #include "editor/CutGeometry.h"
-#include "editor/PixmapFile.h"
 #include "editor/ViewGeometry.h"
 
 #include <QCursor>
@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QImage>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -75,7 +76,9 @@ void EditImageWidget::setImageFilePath(const QString& filePath) {
         return;
     }
     _imageFilePath = filePath;
-    _pixmap = loadPixmap(filePath);
+    // Past the pixmap cache: the file as it is now.
+    QImageReader reader(filePath);
+    _pixmap = QPixmap::fromImageReader(&reader);
     showLoadedImage();
 }
 
@@ -364,7 +367,7 @@ void EditImageWidget::undoLastAction() {
 // --- save ----------------------------------------------------------------------------------------
 
 void EditImageWidget::saveImage() {
-    if (!savePixmap(_pixmap, _imageFilePath)) {
+    if (!writeImageFile(_pixmap.toImage(), _imageFilePath)) {
         reportSaveFailure(_imageFilePath);
         return;
     }
@@ -388,7 +391,7 @@ void EditImageWidget::saveImageToFile(const QString& filePath) {
         qDebug() << "Error, file name is empty.";
         return;
     }
-    if (!savePixmap(_pixmap, filePath)) {
+    if (!writeImageFile(_pixmap.toImage(), filePath)) {
         reportSaveFailure(filePath);
         return;
     }

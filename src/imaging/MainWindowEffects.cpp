@@ -1,10 +1,9 @@
 #include "app/MainWindow.h"
 
 #include "app/WaitCursor.h"
-#include "imaging/BatchWriter.h"
+#include "imaging/BatchOutput.h"
 #include "imaging/ImageFilterWidgetBase.h"
 #include "imaging/ImageFilters.h"
-#include "imaging/OutputPath.h"
 #include "imaging/Profiles.h"
 #include "imaging/ProfilesWidget.h"
 #include "imaging/ResizeGeometry.h"

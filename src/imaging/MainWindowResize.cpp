@@ -2,7 +2,7 @@
 
 #include "app/Questions.h"
 #include "app/WaitCursor.h"
-#include "imaging/BatchWriter.h"
+#include "imaging/BatchOutput.h"
 #include "imaging/ResizeGeometry.h"
 #include "ui_MainWindow.h"
 

@@ -1,15 +1,14 @@
 #include "app/MainWindow.h"
 
+#include "app/services/ImageFile.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
-#include "imaging/BatchWriter.h"
 #include "ui_MainWindow.h"
 #include "video/VideoTexts.h"
 #include "video/VideoWidget.h"
 
 #include <QDateTime>
 #include <QDebug>
-#include <QImageWriter>
 
 namespace {
 
@@ -57,9 +56,7 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
     const auto openedDirectory = window ? std::optional(window->lastOpenPath()) : std::nullopt;
     const QString path = grabbedFrameFilePath(
         directory, grabbedFrameBaseName(fileName, openedDirectory, QDateTime::currentDateTime()));
-    QImageWriter writer(path, frameFormat);
-    writer.setQuality(frameQuality);
-    if (!writeWholeImage(writer, img)) {
+    if (!writeImageFile(img, path, {.format = frameFormat, .quality = frameQuality})) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
         return;

@@ -1,4 +1,4 @@
-#include "imaging/OutputPath.h"
+#include "imaging/BatchOutput.h"
 #include "imaging/ResizeGeometry.h"
 #include "support/Rows.h"
 

@@ -1,4 +1,6 @@
-#include "imaging/OutputPath.h"
+#include "imaging/BatchOutput.h"
+
+#include "app/services/ImageFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,4 +21,15 @@ QString outputFilePath(const QString& sourcePath, const QString& outputDirectory
     if (source.path() == outputDirectory)
         return sourcePath;
     return u"%1/%2"_s.arg(outputDirectory, source.fileName());
+}
+
+BatchWriter::BatchWriter(int quality) : _quality(quality) {}
+
+bool BatchWriter::write(const QImage& image, const QString& filePath) {
+    if (!writeImageFile(image, filePath, {.format = {}, .quality = _quality, .compression = 1},
+                        &_errorString))
+        return false;
+    ++_writtenCount;
+    _written.insert(filePath);
+    return true;
 }

@@ -1,0 +1,79 @@
+#include "app/services/ImageFile.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <limits>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+// Zero where the system does not say.
+quint64 physicalMemory() {
+#ifdef Q_OS_WIN
+    MEMORYSTATUSEX status{};
+    status.dwLength = sizeof status;
+    return GlobalMemoryStatusEx(&status) ? status.ullTotalPhys : 0;
+#else
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long pageSize = sysconf(_SC_PAGESIZE);
+    return pages > 0 && pageSize > 0 ? static_cast<quint64>(pages) * static_cast<quint64>(pageSize) : 0;
+#endif
+}
+
+// The error of a failure; empty if there is none.
+QString encodeImage(const QImage& image, const QByteArray& format, const ImageFileOptions& options,
+                    QBuffer& encoded) {
+    QImageWriter writer(&encoded, format);
+    writer.setQuality(options.quality);
+    writer.setCompression(options.compression);
+    return writer.canWrite() && writer.write(image) ? QString() : writer.errorString();
+}
+
+QString replaceFile(const QString& filePath, const QByteArray& bytes) {
+    QSaveFile file(filePath);
+    // A writable file in a read-only directory.
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return QImageWriter::tr("Device not writable");
+    // A full disk takes a part, and says only at the rest why it takes no more.
+    qint64 written = 0;
+    for (qint64 count = 1; count > 0 && written < bytes.size(); written += count)
+        count = file.write(bytes.constData() + written, bytes.size() - written);
+    return written == bytes.size() && file.commit() ? QString() : file.errorString();
+}
+
+} // namespace
+
+bool writeImageFile(const QImage& image, const QString& filePath, const ImageFileOptions& options,
+                    QString* error) {
+    const QByteArray format =
+        options.format.isEmpty() ? QFileInfo(filePath).suffix().toLower().toLatin1() : options.format;
+    QBuffer encoded;
+    QString failure = encodeImage(image, format, options, encoded);
+    if (failure.isEmpty())
+        failure = replaceFile(filePath, encoded.data());
+    if (error)
+        *error = failure;
+    return failure.isEmpty();
+}
+
+int imageAllocationLimit(quint64 memory) {
+    constexpr quint64 leastMiB = 1024;
+    constexpr quint64 mostMiB = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(memory / 4 / (1024 * 1024), leastMiB, mostMiB));
+}
+
+void raiseImageAllocationLimit() {
+    QImageReader::setAllocationLimit(imageAllocationLimit(physicalMemory()));
+}

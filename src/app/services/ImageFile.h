@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QImage;
+
+struct ImageFileOptions {
+    // That of the file's suffix if empty.
+    QByteArray format;
+    // From 0 to 100; -1 leaves the choice to the format.
+    int quality = -1;
+    int compression = -1;
+};
+
+// Writes the image whole or not at all: format and image are judged and the image is encoded before the file
+// is touched, and its old bytes stay until all new ones are on the disk. Links and permissions are kept. A
+// failure sets `error`.
+[[nodiscard]] bool writeImageFile(const QImage& image, const QString& filePath,
+                                  const ImageFileOptions& options = {}, QString* error = nullptr);
+
+// The largest image to decode, in MiB, on a machine with so many bytes of memory: a quarter, at least 1 GiB.
+[[nodiscard]] int imageAllocationLimit(quint64 memory);
+
+// Applies that limit of this machine to all decoders of the process.
+void raiseImageAllocationLimit();

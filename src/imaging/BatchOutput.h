@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+class QImage;
+
+// Where a batch writes: a relative text counts from the working directory, an empty one stands for it.
+[[nodiscard]] QString resolveOutputDirectory(const QString& workingPath, const QString& outputText);
+
+// Makes the directory with its parents unless something of that name exists.
+[[nodiscard]] bool ensureOutputDirectory(const QString& directory);
+
+// The source's name in the output directory; the source path itself, untouched, if it lies there by its text.
+[[nodiscard]] QString outputFilePath(const QString& sourcePath, const QString& outputDirectory);
+
+// Writes the images of one batch with one quality; the suffix of a file decides its format.
+class BatchWriter {
+public:
+    // Quality from 1 to 100.
+    explicit BatchWriter(int quality);
+
+    // Existing files are replaced, or kept as they are if this fails.
+    [[nodiscard]] bool write(const QImage& image, const QString& filePath);
+    // Of the last write.
+    [[nodiscard]] QString errorString() const { return _errorString; }
+    [[nodiscard]] qsizetype writtenCount() const { return _writtenCount; }
+    // Whether this batch has written that file before.
+    [[nodiscard]] bool isWrittenAlready(const QString& filePath) const { return _written.contains(filePath); }
+
+private:
+    int _quality;
+    qsizetype _writtenCount = 0;
+    QSet<QString> _written;
+    QString _errorString;
+};
