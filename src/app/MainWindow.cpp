@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/services/ImageFile.h"
 #include "app/services/LogService.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
@@ -47,6 +48,7 @@ MainWindow::MainWindow(QWidget* parent)
     , ui(std::make_unique<Ui::MainWindow>())
     , _supportedFormats(supportedImageFormats() + supportedVideoFormats()) {
     registerEffectListType();
+    raiseImageAllocationLimit();
     ui->setupUi(this);
     Settings::instance(this, settingsLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
