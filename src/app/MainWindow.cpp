@@ -141,12 +141,7 @@ void MainWindow::updateThemeIcons(bool isDarkTheme) {
                                       ui->tBOllamaReconect, ui->tBSaveTagTxtFile, ui->tBSendOllamaPrompt,
                                       ui->pBOllamaGo, ui->tBAddEffect, ui->tBSaveTags, ui->tBExportTags});
     themes->tintButtons(isDarkTheme, Profiles::instance()->toolButtons());
-    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
-        if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(place)))
-            row->updateIcons(isDarkTheme);
-        else
-            qDebug() << "Error, unable to cast filter widget to base...";
-    }
+    forEachEffectRow([isDarkTheme](ImageFilterWidgetBase* row) { row->updateIcons(isDarkTheme); });
 }
 
 void MainWindow::initConnections() {

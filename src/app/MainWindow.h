@@ -347,7 +347,7 @@ private:
     ImageFilterWidgetBase* attachEffectRow(QListWidgetItem* item);
     void connectEffectRow(const ImageFilterWidgetBase* row);
     void moveSendingRow(bool up);
-    void forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit);
+    void forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) const;
     // The absolute directory, made if it is missing; a failure is shown.
     QString prepareOutputDirectory(const QString& outputText);
     void loadFilterImage(const QString& path, bool isBatch);

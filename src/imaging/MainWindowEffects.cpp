@@ -157,7 +157,7 @@ void MainWindow::onDspEffectsCustomContextMenu() {
     menu.exec(QCursor::pos());
 }
 
-void MainWindow::forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) {
+void MainWindow::forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) const {
     for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
         if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(place)))
             visit(row);
@@ -225,10 +225,8 @@ void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
 
 QImage MainWindow::appliedEffects(const QImage& image, bool& applied) const {
     QImage work = image;
-    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
-        QWidget* row = ui->lWDspEffects->itemWidget(ui->lWDspEffects->item(place));
-        work = _imageFilters->applyFilter(work, row, &applied);
-    }
+    forEachEffectRow(
+        [&](ImageFilterWidgetBase* row) { work = _imageFilters->applyFilter(work, row, &applied); });
     return work;
 }
 

@@ -8,18 +8,11 @@
 #include <QDebug>
 #include <QSignalBlocker>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString effectListOption = u"effectList"_s;
-
-bool isProfileName(const QString& name) {
-    return std::ranges::any_of(Profiles::instance()->profiles(),
-                               [&](const Profile& profile) { return profile.name() == name; });
-}
 
 } // namespace
 
@@ -40,11 +33,8 @@ void MainWindow::onFilterProfilesCurrentAboutToChange() {
         return;
     }
     EffectList effects;
-    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
-        QListWidgetItem* item = ui->lWDspEffects->item(place);
-        const ImageFilterWidgetBase* row = effectRow(item);
-        effects.emplaceBack(effectName(item), row ? row->options() : QVariantHash());
-    }
+    forEachEffectRow(
+        [&](ImageFilterWidgetBase* row) { effects.emplaceBack(effectName(row->item()), row->options()); });
     Profiles::instance()->currentProfile().setOption(effectListOption, effectListToVariant(effects));
 }
 
@@ -70,11 +60,8 @@ void MainWindow::onFilterProfilesHasChanged() {
 
 // A profile of the default name, or of that name with "_1" appended until it is new.
 void MainWindow::addDefaultProfile() {
-    QString name = tr("Default");
-    while (isProfileName(name))
-        name += "_1"_L1;
     Profile profile;
-    profile.setName(name);
+    profile.setName(unusedProfileName(tr("Default"), Profiles::instance()->profiles()));
     Profiles::instance()->addProfile(profile);
     Profiles::instance()->setCurrentProfile(profile);
 }
