@@ -60,14 +60,16 @@ EditImageWidget::EditImageWidget(QWidget* parent) : QWidget(parent) {
 
 // --- image ---------------------------------------------------------------------------------------
 
-void EditImageWidget::setImage(const QImage& image, const QString& filePath) {
+void EditImageWidget::setImage(const QImage& image, const QString& filePath, const QString& noSaveReason) {
     qDebug() << "EditImageWidget::setImage" << image << filePath;
     _imageFilePath = filePath;
+    _noSaveReason = noSaveReason;
     _pixmap = QPixmap::fromImage(image);
     showLoadedImage();
 }
 
 void EditImageWidget::setImageFilePath(const QString& filePath) {
+    _noSaveReason.clear();
     if (!QFile::exists(filePath)) {
         qDebug() << "Error, file don't exists:" << filePath;
         _imageFilePath.clear();
@@ -377,6 +379,10 @@ void EditImageWidget::saveImage() {
 }
 
 void EditImageWidget::saveImageAs() {
+    if (!_noSaveReason.isEmpty()) {
+        emit message(_noSaveReason);
+        return;
+    }
     QString startName = _imageFilePath;
     if (startName.isEmpty())
         startName = u"%1.png"_s.arg(QDateTime::currentDateTime().toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s));

@@ -21,7 +21,9 @@ public:
 
     explicit EditImageWidget(QWidget* parent = nullptr);
 
-    void setImage(const QImage& image, const QString& filePath);
+    // With a reason not to save, the picture is none that belongs into the file: a plain save only reports
+    // it.
+    void setImage(const QImage& image, const QString& filePath, const QString& noSaveReason = {});
     void setImageFilePath(const QString& filePath);
     [[nodiscard]] QString imageFilePath() const { return _imageFilePath; }
     [[nodiscard]] QSize imageSize() const { return _pixmap.size(); }
@@ -100,6 +102,7 @@ private:
     QString _imageFilePath;
     QTransform _transform;
     QPointF _zoom{1.0, 1.0};
+    QString _noSaveReason;
     QPointF _lastMousePos;
     int _axisLock = 0;
     Tool _tool = ToolNone;

@@ -10,6 +10,7 @@
 #include "ui_MainWindow.h"
 
 #include <QDebug>
+#include <QImageReader>
 #include <QMenu>
 
 #include <optional>
@@ -18,6 +19,11 @@ namespace {
 
 constexpr QSize effectItemSize(24, 26);
 constexpr int effectNameRole = Qt::UserRole + 1;
+
+// Why the preview is not written over its file.
+QString noSaveOfEffects() {
+    return MainWindow::tr("Preview of effects is not saved, use Apply.");
+}
 
 } // namespace
 
@@ -44,6 +50,7 @@ void MainWindow::initEffectConnections() {
     connect(ui->pBDspApply, &QPushButton::clicked, this, &MainWindow::onFilterApply);
     connect(ui->pBDspReset, &QPushButton::clicked, this, &MainWindow::onDspReset);
     connect(ui->tBAddEffect, &QToolButton::clicked, this, &MainWindow::onAddDspEffect);
+    connect(ui->imgWidget, &EditImageWidget::message, this, &MainWindow::onShowMessage);
 }
 
 QString MainWindow::effectName(const QListWidgetItem* item) {
@@ -202,7 +209,7 @@ void MainWindow::onFilterApply() {
         }
         qDebug() << "Image processed:" << path;
         if (!isBatch) {
-            ui->imgWidget->setImage(work, _filterImagePath);
+            ui->imgWidget->setImage(work, _filterImagePath, noSaveOfEffects());
         } else if (writeBatchImage(writer, work, path, directory)) {
             onShowMessage(
                 tr("Applied filter to %1 of total: %2").arg(writer.writtenCount()).arg(paths.size()));
@@ -219,8 +226,10 @@ void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
         if (!isBatch)
             _filterImage = reducedToFit(_filterImage, ui->imgWidget->size());
     }
-    if (!isBatch)
-        ui->imgWidget->setImage(_filterImage, _filterImagePath);
+    if (!isBatch) {
+        const bool isWholeFile = _filterImage.size() == QImageReader(path).size();
+        ui->imgWidget->setImage(_filterImage, path, isWholeFile ? QString() : noSaveOfEffects());
+    }
 }
 
 QImage MainWindow::appliedEffects(const QImage& image, bool& applied) const {

@@ -4,6 +4,7 @@
 #include "imaging/ProfilesEditWidget.h"
 #include "support/MediaFolder.h"
 #include "support/ModalAnswer.h"
+#include "support/Rows.h"
 #include "support/WindowDriver.h"
 
 #include "editor/EditImageWidget.h"
@@ -86,7 +87,7 @@ private slots:
         QCOMPARE(shownGrey(driver), 110);
         slider(driver, "Brightness")->findChild<QSlider*>()->setValue(50);
         QCOMPARE(shownGrey(driver), 150);
-        row(driver, "Brightness")->findChild<QAbstractButton*>("cBEnabled")->click();
+        effect(driver, "Brightness")->findChild<QAbstractButton*>("cBEnabled")->click();
         QCOMPARE(shownGrey(driver), 100);
         addEffect(driver, "WhitePoint");
         slider(driver, "WhitePoint")->findChild<QSlider*>()->setValue(90);
@@ -94,13 +95,13 @@ private slots:
         // Switched on again below the white point, the brightness goes first.
         chooseEffectEntry(driver, "&Toggle bypass");
         QCOMPARE(shownGrey(driver), 150);
-        row(driver, "WhitePoint")->findChild<QToolButton*>("tBMoveUp")->click();
+        effect(driver, "WhitePoint")->findChild<QToolButton*>("tBMoveUp")->click();
         QCOMPARE(driver.widget<QListWidget>("lWDspEffects")->item(0)->data(Qt::UserRole + 1).toString(),
                  QString("WhitePoint"));
-        row(driver, "WhitePoint")->findChild<QToolButton*>("tBMoveDown")->click();
+        effect(driver, "WhitePoint")->findChild<QToolButton*>("tBMoveDown")->click();
         QCOMPARE(driver.widget<QListWidget>("lWDspEffects")->item(1)->data(Qt::UserRole + 1).toString(),
                  QString("WhitePoint"));
-        row(driver, "WhitePoint")->findChild<QToolButton*>("tBDelete")->click();
+        effect(driver, "WhitePoint")->findChild<QToolButton*>("tBDelete")->click();
         QCOMPARE(shownGrey(driver), 150);
         driver.click("pBDspReset");
         QCOMPARE(shownGrey(driver), 100);
@@ -113,44 +114,85 @@ private slots:
         QVERIFY(QDir(folder.filePath("processed")).isEmpty());
     }
 
-    void batchesNeverWriteTheReducedCopy() {
+    void nothingWritesThePreview() {
         const MediaFolder folder;
         folder.addImage("large.png", {1500, 1200}, QColor(100, 100, 100));
+        folder.addImage("small.png", {20, 20}, QColor(100, 100, 100));
+        const QByteArray large = folder.content("large.png");
+        const QByteArray small = folder.content("small.png");
         WindowDriver driver(folder.path());
         driver.widget<QTabWidget>("tWTools")->setCurrentIndex(3);
-        addEffect(driver, "Brightness");
+        auto* view = driver.widget<EditImageWidget>("imgWidget");
+        const auto saved = [&](const QString& name) {
+            QTest::keyClick(view, Qt::Key_S, Qt::ControlModifier);
+            return driver.statusText() == "Save image: " + folder.filePath(name);
+        };
+        const QString refusal = "Preview of effects is not saved, use Apply.";
+        // Reduced; then filtered; then the file itself, cut.
         driver.select({"large.png"});
-        QVERIFY(driver.widget<EditImageWidget>("imgWidget")->imageSize().width() < 1500);
+        QVERIFY(view->imageSize().width() < 1500 && !saved("large.png"));
+        QCOMPARE(driver.statusText(), refusal);
+        addEffect(driver, "Brightness");
+        driver.select({"small.png"});
+        QVERIFY(!saved("small.png"));
+        QCOMPARE(driver.statusText(), refusal);
+        QCOMPARE(folder.content("small.png"), small);
+        driver.click("pBDspReset");
+        view->setTool(EditImageWidget::ToolCut);
+        view->onCutRectSet({0, 0, 10, 5});
+        QTest::keyClick(view, Qt::Key_Return);
+        QVERIFY(saved("small.png"));
+        QCOMPARE(QImage(folder.filePath("small.png")).size(), QSize(10, 5));
+
+        driver.select({"large.png"});
         driver.click("pBDspApply");
         QCOMPARE(QImage(folder.filePath("processed/large.png")).size(), QSize(1500, 1200));
+        QCOMPARE(folder.content("large.png"), large);
+    }
+
+    void aSelectionDecodesOnce() {
+        const MediaFolder folder;
+        folder.addImage("cut.jpg", {200, 200});
+        folder.addFile("cut.jpg", folder.content("cut.jpg").chopped(100));
+        WindowDriver driver(folder.path());
+        driver.widget<QTabWidget>("tWTools")->setCurrentIndex(3);
+        // The decoder tells each time that the end is missing.
+        const auto decodings = [] { return WindowDriver::logCount("premature end"); };
+        const qsizetype before = decodings();
+        driver.select({"cut.jpg"});
+        QCOMPARE(decodings(), before + 1);
+        QVERIFY(!driver.widget<EditImageWidget>("imgWidget")->imageSize().isEmpty());
     }
 
     void outputsThatCannotBeWritten_data() {
-        QTest::addColumn<QString>("output");
-        QTest::newRow("a file in the directory's place") << "taken";
-        QTest::newRow("below a file") << "taken/deep";
-        QTest::newRow("absolute") << "/proc/nowhere";
+        addRows<QString, QString, QString>({
+            {"a file in the directory's place", "a.png", "taken", "Device not writable"},
+            {"below a file", "a.png", "taken/deep", "Device not writable"},
+            {"absolute", "a.png", "/proc/nowhere", "Device not writable"},
+            {"in place, without a writer of the format", "a.svg", "", "Unsupported image format"},
+        });
     }
     void outputsThatCannotBeWritten() {
-        QFETCH(QString, output);
+        const auto& [name, output, error] = row<QString, QString, QString>();
         const MediaFolder folder;
         folder.addImage("a.png", {8, 8});
-        const QByteArray before = folder.content("a.png");
+        folder.addFile("a.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>");
         folder.addFile("taken", "a file");
+        const QByteArray before = folder.content(name);
         WindowDriver driver(folder.path());
         addEffect(driver, "Brightness");
         driver.widget<QLineEdit>("lEDspDirOutput")->setText(output);
         driver.widget<QLineEdit>("lEScaleDirOutput")->setText(output);
-        driver.select({"a.png"});
+        driver.select({name});
         driver.click("pBDspApply");
         QCOMPARE(driver.statusText(), QString("Filters applied to: 1 files"));
         driver.click("pBProcessResize");
         QVERIFY(driver.statusText().startsWith("Resize completed, resized: 1 in "));
-        QCOMPARE(WindowDriver::logCount("a.png error: "), 2);
-        QCOMPARE(WindowDriver::logCount("Error, unable to create out path ") > 0, output != "taken");
+        QCOMPARE(WindowDriver::logCount(name + " error: " + error), 2);
+        QCOMPARE(WindowDriver::logCount("Error, unable to create out path ") > 0, output.contains('/'));
         QCOMPARE(WindowDriver::logCount("Applied filter to"), 0);
         QCOMPARE(folder.content("taken"), QByteArray("a file"));
-        QCOMPARE(folder.content("a.png"), before);
+        QCOMPARE(folder.content(name), before);
     }
 
     void resizingByEachGroup() {
@@ -190,10 +232,14 @@ private slots:
         driver.widget<QLineEdit>("lEScaleDirOutput")->setText("none");
         driver.click("pBProcessResize");
         QVERIFY(folder.exists("none") && QDir(folder.filePath("none")).isEmpty());
-        // An empty output directory overwrites the sources.
-        driver.widget<QSpinBox>("sBSpecificW")->setValue(10);
+        // An empty output directory overwrites the sources, but with no empty image.
         driver.widget<QLineEdit>("lEScaleDirOutput")->clear();
         driver.select({"wide.png"});
+        driver.widget<QSpinBox>("sBSpecificW")->setValue(0);
+        driver.click("pBProcessResize");
+        QCOMPARE(QImage(folder.filePath("wide.png")).size(), QSize(100, 80));
+        QCOMPARE(WindowDriver::logCount("wide.png error: Image is empty"), 1);
+        driver.widget<QSpinBox>("sBSpecificW")->setValue(10);
         driver.click("pBProcessResize");
         QCOMPARE(QImage(folder.filePath("wide.png")).size(), QSize(10, 8));
     }
@@ -215,12 +261,12 @@ private slots:
             edit->findChild<QPushButton*>("pBApply")->click();
             QCOMPARE(chooser->currentText(), QString("Sharp"));
             addEffect(driver, "Sharpen");
-            row(driver, "Sharpen")->findChild<QAbstractButton*>("cBEnabled")->click();
+            effect(driver, "Sharpen")->findChild<QAbstractButton*>("cBEnabled")->click();
         }
         WindowDriver driver(folder.path());
         auto* chooser = driver.widget<QComboBox>("cBProfilesName_HL");
         QCOMPARE(chooser->currentText(), QString("Sharp"));
-        QVERIFY(!row(driver, "Sharpen")->isFilterEnabled());
+        QVERIFY(!effect(driver, "Sharpen")->isFilterEnabled());
         chooser->setCurrentIndex(0);
         QCOMPARE(slider(driver, "Blur")->value(), 7);
         driver.click("tbProfileRemove_HL");
@@ -235,7 +281,7 @@ private:
         driver.widget<QComboBox>("cBDspEffectsList")->setCurrentText(name);
         driver.click("tBAddEffect");
     }
-    static ImageFilterWidgetBase* row(WindowDriver& driver, const QString& name) {
+    static ImageFilterWidgetBase* effect(WindowDriver& driver, const QString& name) {
         auto* list = driver.widget<QListWidget>("lWDspEffects");
         for (int place = 0; place < list->count(); ++place) {
             if (list->item(place)->data(Qt::UserRole + 1).toString() == name)
@@ -244,7 +290,7 @@ private:
         qFatal("no row %s", qPrintable(name));
     }
     static ImageFilterWidgetSlider* slider(WindowDriver& driver, const QString& name) {
-        return qobject_cast<ImageFilterWidgetSlider*>(row(driver, name)->optionWidget());
+        return qobject_cast<ImageFilterWidgetSlider*>(effect(driver, name)->optionWidget());
     }
     // The brightness of the middle of the preview.
     static int shownGrey(WindowDriver& driver) {
