@@ -231,7 +231,9 @@ void MainWindow::showMediaPreview(const QString& filePath) {
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewVideo);
     } else {
         ui->vidWidget->start({});
-        ui->imgWidget->setImageFilePath(filePath);
+        // The effects decode and show their file themselves.
+        if (ui->tWTools->currentWidget() != ui->tabImgDSP)
+            ui->imgWidget->setImageFilePath(filePath);
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewImage);
     }
 }
