@@ -93,6 +93,8 @@ QAction* EditImageDialog::addToolBarAction(const QString& text, const QString& i
     action->setText(text.arg(keyText(shortcut)));
     action->setIconText(iconText.arg(keyText(shortcut)));
     _ui->toolBar->addAction(action);
+    // A hidden tool bar has no keys.
+    addAction(action);
     return action;
 }
 
@@ -136,6 +138,7 @@ void EditImageDialog::initViewConnections() {
     connect(view, &EditImageWidget::zoomChanged, this, &EditImageDialog::onZoomChanged);
     connect(view, &EditImageWidget::requestImage, this, &EditImageDialog::onRequestImage);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::message);
+    connect(view, &EditImageWidget::message, _ui->labelStatus, &QLabel::setText);
     connect(view, &EditImageWidget::savedFile, this, &EditImageDialog::savedFile);
     connect(view, &EditImageWidget::newlySavedFile, this, &EditImageDialog::newlySavedFile);
     connect(view, &EditImageWidget::toolChanged, this, &EditImageDialog::onToolChanged);

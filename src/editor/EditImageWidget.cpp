@@ -242,6 +242,8 @@ void EditImageWidget::mouseReleaseEvent(QMouseEvent* event) {
 void EditImageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (_tool == ToolCut && event->buttons().testFlag(Qt::LeftButton))
         applyCut();
+    // It is a press as well, from which a drag may start.
+    mousePressEvent(event);
 }
 
 QPointF EditImageWidget::lockedToAxis(QPointF delta) const {
@@ -255,6 +257,7 @@ void EditImageWidget::keyPressEvent(QKeyEvent* event) {
         _axisLock = kHorizontalMovesOnly;
     else if (event->modifiers() == Qt::ControlModifier)
         _axisLock = kVerticalMovesOnly;
+    _pressedModifiers.insert(event->key(), event->modifiers());
     update();
     if (isSaveKey(event))
         saveImage();
@@ -263,13 +266,20 @@ void EditImageWidget::keyPressEvent(QKeyEvent* event) {
 
 void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
     _axisLock = kNoAxisLock;
-    handleViewKey(event->key(), event->modifiers());
+    const Qt::KeyboardModifiers modifiers = releasedModifiers(event);
+    handleViewKey(event->key(), modifiers);
     if (_tool == ToolCut) {
-        handleCutKey(event->key(), event->modifiers());
+        handleCutKey(event->key(), modifiers);
         emit cutSizeChanged(_cutRect);
         update();
     }
     QWidget::keyReleaseEvent(event);
+}
+
+// Of Ctrl+Z, the user may let Ctrl go first.
+Qt::KeyboardModifiers EditImageWidget::releasedModifiers(const QKeyEvent* event) {
+    const Qt::KeyboardModifiers pressed = _pressedModifiers.take(event->key());
+    return event->modifiers() == Qt::NoModifier ? pressed : event->modifiers();
 }
 
 void EditImageWidget::handleViewKey(int key, Qt::KeyboardModifiers modifiers) {
@@ -369,6 +379,10 @@ void EditImageWidget::undoLastAction() {
 // --- save ----------------------------------------------------------------------------------------
 
 void EditImageWidget::saveImage() {
+    if (!_noSaveReason.isEmpty()) {
+        emit message(_noSaveReason);
+        return;
+    }
     if (!writeImageFile(_pixmap.toImage(), _imageFilePath)) {
         reportSaveFailure(_imageFilePath);
         return;
@@ -379,10 +393,6 @@ void EditImageWidget::saveImage() {
 }
 
 void EditImageWidget::saveImageAs() {
-    if (!_noSaveReason.isEmpty()) {
-        emit message(_noSaveReason);
-        return;
-    }
     QString startName = _imageFilePath;
     if (startName.isEmpty())
         startName = u"%1.png"_s.arg(QDateTime::currentDateTime().toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QPixmap>
 #include <QPointF>
@@ -89,6 +90,7 @@ private:
     [[nodiscard]] QPointF lockedToAxis(QPointF delta) const;
     void toggleAutoCenter();
     void toggleAutoFit();
+    [[nodiscard]] Qt::KeyboardModifiers releasedModifiers(const QKeyEvent* event);
     void handleViewKey(int key, Qt::KeyboardModifiers modifiers);
     void handleCutKey(int key, Qt::KeyboardModifiers modifiers);
     void moveCutRect(const char* direction, QPointF delta);
@@ -100,11 +102,13 @@ private:
 
     QPixmap _pixmap;
     QString _imageFilePath;
+    QString _noSaveReason;
     QTransform _transform;
     QPointF _zoom{1.0, 1.0};
-    QString _noSaveReason;
     QPointF _lastMousePos;
     int _axisLock = 0;
+    // By key, as the press of it had them.
+    QHash<int, Qt::KeyboardModifiers> _pressedModifiers;
     Tool _tool = ToolNone;
     int _cutPart = 0;
     QRectF _cutRect{0, 0, 320, 240};

@@ -82,6 +82,7 @@ private slots:
         // A place that cannot be written loses nothing.
         saveAs("/proc/nowhere.png");
         QCOMPARE(driver.statusText(), QString("Error, unable to save image: /proc/nowhere.png"));
+        QCOMPARE(editor->findChild<QLabel*>("labelStatus")->text(), driver.statusText());
     }
 
     void deletingStepsOn() {
