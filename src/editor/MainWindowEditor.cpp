@@ -1,7 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
-#include "app/services/Settings.h"
+#include "app/WindowPlace.h"
 #include "app/services/SettingsKeys.h"
 #include "app/services/Trash.h"
 #include "catalogue/ImageLoaderThreaded.h"
@@ -20,25 +20,13 @@ void MainWindow::editImage() {
     if (files.isEmpty())
         return;
     auto* dialog = new EditImageDialog(this);
-    const Settings* settings = Settings::instance();
-    const QByteArray geometry = settings->data(keys::editImageWidgetGeometry).toByteArray();
-    if (!geometry.isEmpty() && !dialog->restoreGeometry(geometry))
-        qDebug() << "Error, unable to restore geometry for:" << dialog;
-    const QByteArray state = settings->data(keys::editImageWidgetState).toByteArray();
-    if (!state.isEmpty() && !dialog->restoreState(state))
-        qDebug() << "Error, unable to restore state for:" << dialog;
+    keepWindowPlace(dialog, keys::editImageWidgetGeometry, keys::editImageWidgetState);
     connect(dialog, &EditImageDialog::requestDeleteImage, this, &MainWindow::onRequestDeleteImage);
     connect(dialog, &EditImageDialog::requestImgPrev, this, &MainWindow::onEditImgRequestImgPrev);
     connect(dialog, &EditImageDialog::requestImgNext, this, &MainWindow::onEditImgRequestImgNext);
     connect(dialog, &EditImageDialog::message, this, &MainWindow::onShowMessage);
     connect(dialog, &EditImageDialog::savedFile, this, &MainWindow::onEditImgSavedFile);
     connect(dialog, &EditImageDialog::newlySavedFile, this, &MainWindow::onEditImgNewlySavedFile);
-    connect(dialog, &EditImageDialog::widgetGeometry, this, [](const QByteArray& saved) {
-        Settings::instance()->setData(keys::editImageWidgetGeometry, saved, true);
-    });
-    connect(dialog, &EditImageDialog::widgetState, this, [](const QByteArray& saved) {
-        Settings::instance()->setData(keys::editImageWidgetState, saved, true);
-    });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setImageFile(files.first(), fileIndexText(files.first()));
     dialog->show();

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/WaitCursor.h"
+#include "app/WindowPlace.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "editor/EditImageWidget.h"
@@ -21,13 +22,10 @@ void storeSafetensorsPlace(const SafetensorsDialog* dialog) {
 }
 
 void restoreSafetensorsPlace(SafetensorsDialog* dialog) {
-    const Settings* settings = Settings::instance();
-    const QByteArray geometry = settings->data(keys::safetensorDialogGeometry).toByteArray();
-    if (!geometry.isEmpty())
-        dialog->restoreGeometry(geometry);
-    const QByteArray splitterState = settings->data(keys::safetensorDialogSplitterState).toByteArray();
-    if (!splitterState.isEmpty())
-        dialog->restoreSplitterState(splitterState);
+    restoreWindow(dialog, keys::safetensorDialogGeometry);
+    // Nothing stored restores nothing.
+    dialog->restoreSplitterState(
+        Settings::instance()->data(keys::safetensorDialogSplitterState).toByteArray());
 }
 
 } // namespace
