@@ -11,6 +11,7 @@
     QMessageBox box(parent);
     box.setText(text);
     box.setInformativeText(informativeText);
+    box.setTextFormat(Qt::PlainText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);
     return static_cast<QMessageBox::StandardButton>(box.exec());
@@ -26,5 +27,6 @@
 inline void tellUser(QWidget* parent, const QString& text) {
     QMessageBox box(parent);
     box.setText(text);
+    box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -1,5 +1,6 @@
 #include "imaging/ProfilesWidget.h"
 
+#include "app/services/PlainText.h"
 #include "imaging/Profile.h"
 #include "ui_ProfilesWidget.h"
 
@@ -57,10 +58,10 @@ void ProfilesWidget::setProfiles(const QList<Profile>& profiles, int current) {
     comboBox->clear();
     for (const Profile& profile : profiles) {
         comboBox->addItem(profile.name());
-        comboBox->setItemData(comboBox->count() - 1, profile.name(), Qt::ToolTipRole);
+        comboBox->setItemData(comboBox->count() - 1, plainToolTip(profile.name()), Qt::ToolTipRole);
     }
     comboBox->setCurrentIndex(current);
-    comboBox->setToolTip(tr("Profile: %1").arg(comboBox->currentData(Qt::ToolTipRole).toString()));
+    comboBox->setToolTip(plainToolTip(tr("Profile: %1").arg(comboBox->currentText())));
 }
 
 void ProfilesWidget::onProfileChanged(int index) {
