@@ -1,5 +1,6 @@
 #include "editor/EditImageDialog.h"
 
+#include "app/services/PlainText.h"
 #include "app/services/Themes.h"
 #include "ui_EditImageDialog.h"
 
@@ -138,7 +139,7 @@ void EditImageDialog::initViewConnections() {
     connect(view, &EditImageWidget::zoomChanged, this, &EditImageDialog::onZoomChanged);
     connect(view, &EditImageWidget::requestImage, this, &EditImageDialog::onRequestImage);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::message);
-    connect(view, &EditImageWidget::message, _ui->labelStatus, &QLabel::setText);
+    connect(view, &EditImageWidget::message, this, &EditImageDialog::showStatus);
     connect(view, &EditImageWidget::savedFile, this, &EditImageDialog::savedFile);
     connect(view, &EditImageWidget::newlySavedFile, this, &EditImageDialog::newlySavedFile);
     connect(view, &EditImageWidget::toolChanged, this, &EditImageDialog::onToolChanged);
@@ -162,7 +163,13 @@ void EditImageDialog::onRequestImage(bool next) {
 }
 
 void EditImageDialog::onZoomChanged(QPointF zoom) {
-    _ui->labelStatus->setText(tr("zoom level: %1").arg(zoom.x()));
+    showStatus(tr("zoom level: %1").arg(zoom.x()));
+}
+
+// A long path is cut at the label's end and whole in its tool tip.
+void EditImageDialog::showStatus(const QString& text) {
+    _ui->labelStatus->setText(text);
+    _ui->labelStatus->setToolTip(plainToolTip(text));
 }
 
 void EditImageDialog::onToolChanged(EditImageWidget::Tool tool) {

@@ -50,6 +50,7 @@ private:
     QAction* addToolBarAction(const QString& text, const QString& iconText, const QKeySequence& shortcut,
                               const QString& iconName);
     void onRequestImage(bool next);
+    void showStatus(const QString& text);
 
     std::unique_ptr<Ui::EditImageDialog> _ui;
 };
