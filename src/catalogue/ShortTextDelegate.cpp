@@ -1,9 +1,10 @@
 #include "catalogue/ShortTextDelegate.h"
 
+#include "app/services/PlainText.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QLineEdit>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <limits>
@@ -32,6 +33,6 @@ bool ShortTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     const QString text = index.data(Qt::ToolTipRole).toString();
     if (event->type() != QEvent::ToolTip || !Qt::mightBeRichText(text))
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view);
+    QToolTip::showText(event->globalPos(), plainToolTip(text), view);
     return true;
 }

@@ -6,6 +6,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// So many are compared faster than a tag is looked up.
+constexpr qsizetype fewTags = 8;
+
+} // namespace
+
 QStringList tagsFromText(const QString& text) {
     QStringList tags;
     for (const QStringView line : qTokenize(text, u'\n', Qt::SkipEmptyParts)) {
@@ -76,14 +83,16 @@ void removeTags(QStringList& tags, const QStringList& removed) {
     tags.removeIf([&](const QString& tag) { return unwanted.contains(tag); });
 }
 
-TagMatcher::TagMatcher(const QStringList& wanted) {
+TagMatcher::TagMatcher(const QStringList& wanted) : _wanted(wanted) {
     for (const QString& tag : wanted)
         _folded.insert(foldedCase(tag));
 }
 
 bool TagMatcher::matchesAny(const QStringList& tags) {
-    if (_folded.isEmpty())
-        return false;
+    if (_wanted.size() <= fewTags) {
+        return std::ranges::any_of(
+            _wanted, [&](const QString& tag) { return tags.contains(tag, Qt::CaseInsensitive); });
+    }
     return std::ranges::any_of(tags, [this](const QString& tag) {
         const auto known = _known.constFind(tag);
         return known != _known.cend() ? *known : *_known.insert(tag, _folded.contains(foldedCase(tag)));

@@ -35,7 +35,8 @@ void splitTags(QStringList& tags, const QString& src);
 // Removes every occurrence of the given tags.
 void removeTags(QStringList& tags, const QStringList& removed);
 
-// Finds the lists that hold any of the wanted tags, regardless of case. Each different tag is compared once.
+// Finds the lists that hold any of the wanted tags, regardless of case. Of many wanted tags, each different
+// tag of the lists is compared once.
 class TagMatcher {
 public:
     explicit TagMatcher(const QStringList& wanted);
@@ -43,6 +44,7 @@ public:
     [[nodiscard]] bool matchesAny(const QStringList& tags);
 
 private:
+    QStringList _wanted;
     QSet<QString> _folded;
     QHash<QString, bool> _known; // tags that were compared
 };

@@ -1,0 +1,99 @@
+#include "support/MediaFolder.h"
+#include "support/Rows.h"
+#include "tags/TagRecord.h"
+#include "tags/TagRecovery.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+// What is left of unsaved tags after a run that ended without saving.
+class TestTagRecovery : public QObject {
+    Q_OBJECT
+
+private slots:
+    void textsComeBackOrGiveNothing_data() {
+        addRows<QByteArray, bool>({
+            {"whole", "{'version':1,'directory':'/d','files':[{'file':'/d/a.png','tags':['a,b','']}]}", true},
+            {"another version", "{'version':2,'files':[]}", false},
+            {"no files", "{'version':1}", false},
+            {"cut short", "{'version':1,'files':[{'file':'/d", false},
+            {"empty", "", false},
+        });
+    }
+    void textsComeBackOrGiveNothing() {
+        const auto& [text, isRead] = row<QByteArray, bool>();
+        const std::optional<RecoveredTags> recovered = recoveryFromText(QByteArray(text).replace('\'', '"'));
+        QCOMPARE(recovered.has_value(), isRead);
+        if (isRead)
+            QCOMPARE(recoveryFromText(recoveryText(*recovered)), recovered);
+    }
+
+    void unsavedTagsOutlastTheRun() {
+        const MediaFolder folder;
+        const QString place = folder.filePath("recovery");
+        QStringList keys;
+        for (const char* name : {"a.png", "b.png", "c.png"})
+            keys.append(folder.filePath(name));
+        folder.addTags("a.png", "old");
+        const auto files = [&] { return QDir(place).entryList(QDir::Files); };
+        {
+            TagRecord record;
+            record.load(keys);
+            TagRecovery recovery(record, place);
+            recovery.open(folder.path());
+            record.append({keys.at(0), keys.at(1)}, {"sky, sea"});
+            QTRY_COMPARE(files().size(), 1);
+            // What was taken back is not kept.
+            record.undo();
+            QTRY_COMPARE(files().size(), 0);
+            record.redo();
+            recovery.close();
+        }
+        QCOMPARE(files().size(), 1);
+        {
+            TagRecord record;
+            record.load({keys.at(0), keys.at(2)});
+            TagRecovery recovery(record, place);
+            recovery.open(folder.path());
+            QCOMPARE(recovery.offeredCount(), 1); // the other one is not in the record
+            // An offer that nobody takes outlasts what is edited and saved beside it.
+            record.append({keys.at(2)}, {"third"});
+            record.save({});
+            recovery.close();
+        }
+        TagRecord record;
+        record.load({keys.at(0)});
+        TagRecovery recovery(record, place);
+        recovery.open(folder.path());
+        folder.addTags("a.png", "changed meanwhile");
+        const TagRecovery::Restored restored = recovery.restore();
+        QCOMPARE(restored.files, 1);
+        QCOMPARE(restored.changedSidecars, 1);
+        QCOMPARE(record.tags(keys.at(0)), QStringList({"old", "sky, sea"}));
+        record.undo();
+        QCOMPARE(record.tags(keys.at(0)), QStringList("old"));
+        recovery.close();
+        QCOMPARE(files().size(), 0);
+    }
+
+    void oldFilesGoAndBrokenOnesStay() {
+        const MediaFolder folder;
+        const QByteArray whole = recoveryText({"/elsewhere", QDateTime::currentDateTimeUtc(), {{"/x", {}}}});
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        for (int number = 0; number < 25; ++number) {
+            QFile file(folder.addFile(QString("recovery/%1.json").arg(number), number == 24 ? "{" : whole));
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            file.setFileTime(now.addDays(number == 3 ? -31 : 0).addSecs(-number), QFile::FileModificationTime);
+        }
+        TagRecord record;
+        TagRecovery recovery(record, folder.filePath("recovery"));
+        recovery.open(folder.path());
+        const QStringList left = QDir(folder.filePath("recovery")).entryList({"*.json"});
+        QCOMPARE(left.size(), 20);
+        QVERIFY(left.contains("24.json") && !left.contains("3.json") && !left.contains("21.json"));
+        QCOMPARE(recovery.offeredCount(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTagRecovery)
+#include "tst_tagrecovery.moc"
