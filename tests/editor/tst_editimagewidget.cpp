@@ -36,16 +36,6 @@ private slots:
     }
     void cleanup() { _view.reset(); }
 
-    void paintsPixelsAtTheirPlaces() {
-        QCOMPARE(imagePositionAt({0, 0}), QPoint(0, 0));
-        QCOMPARE(imagePositionAt({399, 299}), QPoint(399, 299));
-        drag({100, 100}, {130, 90});
-        QCOMPARE(imagePositionAt({130, 90}), QPoint(100, 100));
-        // Partial exposure paints the same as a whole one.
-        const QImage whole = _view->grab().toImage();
-        QCOMPARE(_view->grab({37, 41, 200, 100}).toImage(), whole.copy(37, 41, 200, 100));
-    }
-
     void dragPansAndLocksToAxis() {
         QTest::keyPress(_view.get(), Qt::Key_Shift, Qt::ShiftModifier);
         drag({100, 100}, {120, 130});
@@ -156,48 +146,6 @@ private slots:
         QCOMPARE(imagePositionAt({290, 240}), QPoint(300, 250));
     }
 
-    void keysToggleFlags() {
-        QSignalSpy centers(_view.get(), &EditImageWidget::autoCenterChanged);
-        QSignalSpy fits(_view.get(), &EditImageWidget::autoFitChanged);
-        QSignalSpy aspects(_view.get(), &EditImageWidget::aspectRatioKeepChanged);
-        _view->setImage(placeImage(200, 100), {});
-        key(Qt::Key_C);
-        QCOMPARE(imagePositionAt({100, 100}), QPoint(0, 0));
-        key(Qt::Key_F);
-        QCOMPARE(imagePositionAt({0, 50}), QPoint(0, 0));
-        key(Qt::Key_F);
-        key(Qt::Key_A);
-        QCOMPARE(centers, (Signals{{true}}));
-        QCOMPARE(fits, (Signals{{true}, {false}}));
-        QCOMPARE(aspects, (Signals{{true}}));
-        _view->setTool(EditImageWidget::ToolCut);
-        _view->onCutRectSet({50, 20, 100, 60});
-        drag({102, 150}, {112, 150});
-        QCOMPARE(_view->cutRect(), QRectF(55, 25, 95, 50));
-    }
-
-    void autoFlagsFollowEachImage() {
-        QSignalSpy zooms(_view.get(), &EditImageWidget::zoomChanged);
-        _view->setAutoFit(true);
-        _view->setImage(placeImage(100, 100), {});
-        QCOMPARE(imagePositionAt({50 + 30, 60}), QPoint(10, 20));
-        _view->setImage({}, {});
-        _view->setImage(placeImage(200, 100), {});
-        QCOMPARE(zooms, (Signals{{QPointF(3, 3)}, {QPointF(3, 3)}, {QPointF(2, 2)}}));
-        // The menu tells whether a new size of the window counts.
-        _view->resize(400, 200);
-        QCOMPARE(zooms.count(), 3);
-        QAction* toggle = menuEntry("Update on resize");
-        QVERIFY(toggle && !toggle->isChecked());
-        toggle->trigger();
-        _view->resize(400, 100);
-        QCOMPARE(zooms.last(), QVariantList{QPointF(1, 1)});
-        QVERIFY(menuEntry("Auto fit")->isChecked());
-        QAction own("Own");
-        _view->addAction(&own);
-        QCOMPARE(menuEntry("Own"), &own);
-    }
-
     void undecodableAndVanishedFiles() {
         const QString path = _folder->addFile("broken.png", "no picture");
         _view->setImageFilePath(path);
@@ -216,34 +164,13 @@ private slots:
         QVERIFY(_view->undoAvailable()); // the work before is not lost
     }
 
-    void savingNeedsAPathAndAFormat() {
-        QSignalSpy messages(_view.get(), &EditImageWidget::message);
-        QSignalSpy saves(_view.get(), &EditImageWidget::savedFile);
-        const QString unwritable = _folder->addFile("picture.gif", "read, but not written");
-        const QString good = _folder->filePath("a.png");
-        for (const QString& path :
-             {QString(), unwritable, _folder->filePath("no such directory/a.png"), good}) {
-            _view->setImage(placeImage(30, 20), path);
-            key(Qt::Key_S, Qt::ControlModifier);
-            QCOMPARE(messages.takeLast().first().toString(),
-                     (path == good ? "Save image: " : "Error, unable to save image: ") + path);
-        }
-        QCOMPARE(_folder->content("picture.gif"), "read, but not written");
-        QCOMPARE(saves, (Signals{{good}}));
-        QCOMPARE(QImage(good).convertedTo(QImage::Format_RGB32), placeImage(30, 20));
-    }
-
     void menuAligns_data() {
         addRows<QString, QRectF>({
             {"fit", "F&it", {0, 0, 400, 300}},
             {"height", "Align &height", {10, 0, 100, 299}},
-            {"width", "Align &width", {0, 20, 399, 50}},
             {"centre", "Align c&enter", {149, 124, 100, 50}},
             {"same width", "Same width", {10, 20, 50, 50}},
-            {"same height", "Same height", {10, 20, 100, 100}},
             {"left", "Align edge &left", {0, 20, 110, 50}},
-            {"right", "Align edge &right", {10, 20, 389, 50}},
-            {"top", "Align edge &top", {10, 0, 100, 70}},
             {"bottom", "Align edge &bottom", {10, 20, 100, 279}},
         });
     }

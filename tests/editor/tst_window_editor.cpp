@@ -10,6 +10,8 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QStandardItemModel>
+#include <QToolBar>
+#include <QToolButton>
 
 // Editor windows on a catalogue: stepping, cutting, saving and deleting.
 class TestWindowEditor : public QObject {
@@ -47,6 +49,51 @@ private slots:
         QVERIFY(editor->windowTitle().endsWith("[3 - 3]"));
         QVERIFY(driver.waitForLoad());
         QTRY_COMPARE(driver.cell(first, 0, Qt::ToolTipRole).section('\n', 0, 0), QString("200x100 PNG"));
+    }
+
+    void controlsAndViewAgree() {
+        const MediaFolder folder;
+        folder.addImage("a.png", {300, 200});
+        WindowDriver driver(folder.path());
+        EditImageDialog* editor = openEditor(driver, "a.png");
+        auto* view = editor->findChild<EditImageWidget*>("imgWidget");
+        auto* toolBar = editor->findChild<QToolBar*>("toolBar");
+        const auto isOn = [&](const char* name) {
+            return editor->findChild<QToolButton*>(name)->isChecked();
+        };
+        const auto field = [&](const char* name) { return editor->findChild<QDoubleSpinBox*>(name); };
+        QTest::keyClick(view, Qt::Key_C);
+        QTest::keyClick(view, Qt::Key_F);
+        QTest::keyClick(view, Qt::Key_A);
+        QVERIFY(isOn("tBAutoCenter") && isOn("tBAutoFit") && isOn("tBKeepAspectRatio"));
+        editor->findChild<QToolButton*>("tBAutoFit")->click();
+        QVERIFY(!view->autoFit());
+        view->resetZoom();
+        QCOMPARE(editor->findChild<QLabel*>("labelStatus")->text(), "zoom level: 1");
+
+        // The keys live without the tool bar.
+        toolBar->hide();
+        QTest::keyClick(editor, Qt::Key_W);
+        QVERIFY(field("dSBCutX")->isVisible());
+        QCOMPARE(field("dSBCutWidth")->value(), 300.0);
+        field("dSBCutWidth")->setValue(123.5);
+        field("dSBCutY")->setValue(-7);
+        QCOMPARE(view->cutRect(), QRectF(0, -7, 123.5, 200));
+        QTest::mousePress(view, Qt::LeftButton, {}, {60, 90});
+        QTest::mouseMove(view, {70, 90});
+        QCOMPARE(field("dSBCutX")->value(), 0.0);
+        QTest::mouseRelease(view, Qt::LeftButton, {}, {70, 90});
+        QCOMPARE(field("dSBCutX")->value(), 10.0);
+        editor->findChild<QSpinBox*>("sBCutOutlineWidth")->setValue(3);
+        QCOMPARE(view->cutOutlineWidth(), 3);
+        const QAction* undo = toolBar->actions().last();
+        QVERIFY(!undo->isEnabled());
+        QTest::keyClick(view, Qt::Key_Return);
+        QVERIFY(undo->isEnabled());
+        editor->setImageFile(folder.filePath("a.png"), {});
+        QVERIFY(!undo->isEnabled());
+        QTest::keyClick(editor, Qt::Key_Q);
+        QVERIFY(!field("dSBCutX")->isVisible());
     }
 
     void savingUnderAnotherName() {

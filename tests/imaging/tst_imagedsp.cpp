@@ -96,8 +96,6 @@ QImage slowBlur(const QImage& image, const QRect& r, int radius, bool alphaOnly)
 // --- convolution ---------------------------------------------------------------------------------
 
 struct ConvolutionCall {
-    QPointF position;
-    QRectF sourceRect;
     Kernel kernel;
     int width = 3;
     int height = 3;
@@ -128,32 +126,22 @@ QRgb convolvedWord(const QImage& process, const ConvolutionCall& call, QPoint at
     return word;
 }
 
-QImage slowConvolution(const QImage& destination, const QImage& source, const ConvolutionCall& call) {
-    const QImage process = source.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const QRectF region = call.sourceRect.isNull() ? QRectF(process.rect()) : call.sourceRect;
-    const auto grown = [&](QRectF rect) {
-        return rect
-            .adjusted(-(call.width / 2), -(call.height / 2), (call.width - 1) / 2, (call.height - 1) / 2)
-            .toAlignedRect();
-    };
-    QRectF copy = region;
-    copy.moveTo(call.position);
-    const QRect moved = grown(copy);
-    const QRect target = moved.intersected(destination.rect());
-    const QPoint start = grown(region).topLeft() + target.topLeft() - moved.topLeft();
-    QImage result = destination.copy();
-    for (int y = 0; y < target.height(); ++y) {
-        auto* const row = reinterpret_cast<QRgb*>(result.scanLine(target.top() + y)) + target.left();
-        for (int x = 0; x < target.width(); ++x)
-            row[x] = convolvedWord(process, call, start + QPoint(x, y), row[x]);
+// Of a whole image over itself.
+QImage slowConvolution(const QImage& image, const ConvolutionCall& call) {
+    const QImage process = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage result = image.copy();
+    for (int y = 0; y < image.height(); ++y) {
+        auto* const row = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            row[x] = convolvedWord(process, call, QPoint(x, y), row[x]);
     }
     return result;
 }
 
-QImage convolution(QImage destination, const QImage& source, const ConvolutionCall& call) {
-    ImageDSP::convolute(destination, call.position, source, call.sourceRect, call.mode, call.kernel,
-                        call.width, call.height);
-    return destination;
+QImage convolution(const QImage& image, const ConvolutionCall& call) {
+    QImage result = image;
+    ImageDSP::convolute(result, {}, image, {}, call.mode, call.kernel, call.width, call.height);
+    return result;
 }
 
 Kernel randomKernel(int entries, double reach) {
@@ -172,19 +160,6 @@ class TestImageDSP : public QObject {
 
 private slots:
     void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
-
-    void everyRoutineNamesItselfInTheLog() {
-        QLoggingCategory::setFilterRules({});
-        const QImage image = randomImage({2, 2}, QImage::Format_RGB32);
-        for (const char* name : {"brightness", "whitePointed", "blackPointed", "blurred", "convolute"})
-            QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("ImageDSP::%1").arg(name)));
-        QCOMPARE(ImageDSP::brightness(image, 1, 0).format(), QImage::Format_RGB32);
-        QCOMPARE(ImageDSP::whitePointed(image, 255).format(), QImage::Format_RGB32);
-        QCOMPARE(ImageDSP::blackPointed(image, 0).format(), QImage::Format_RGB32);
-        QCOMPARE(ImageDSP::blurred(image, {}, 1, false).format(), QImage::Format_ARGB32_Premultiplied);
-        convolution(image, image, {{}, {}, {1.0}, 1, 1});
-        QLoggingCategory::setFilterRules("default.debug=false");
-    }
 
     void pointRoutinesMatchTheirArithmetic_data() {
         addImageRows();
@@ -218,19 +193,6 @@ private slots:
         pool->setMaxThreadCount(before);
     }
 
-    void pointRoutinesKeepWhatACopyKeeps() {
-        QImage image = randomImage({4, 3}, QImage::Format_RGB32);
-        image.setDevicePixelRatio(2.0);
-        image.setText("Title", "A lake");
-        image.setColorSpace(QColorSpace::AdobeRgb);
-        const QImage before = image.copy();
-        const QImage result = ImageDSP::whitePointed(image, 100);
-        QCOMPARE(result.devicePixelRatio(), 2.0);
-        QCOMPARE(result.text("Title"), QString("A lake"));
-        QCOMPARE(result.colorSpace(), QColorSpace(QColorSpace::AdobeRgb));
-        QVERIFY(sameWords(image, before));
-    }
-
     void blurMatchesTheWalks_data() { addImageRows(); }
     void blurMatchesTheWalks() {
         QFETCH(QImage, image);
@@ -244,72 +206,28 @@ private slots:
         QVERIFY(sameWords(image, before));
     }
 
-    void blurOfRectangles() {
-        const QImage image = randomImage({33, 35}, QImage::Format_ARGB32_Premultiplied);
-        for (const QRect& rect : {QRect(3, 2, 11, 17), QRect(3, 2, 11, 1), QRect(3, 2, 1, 11),
-                                  QRect(3, 2, 1, 1), QRect(20, 25, 13, 10), QRect(23, 22, 11, 17)}) {
-            for (const bool alphaOnly : {false, true})
-                QVERIFY(sameWords(ImageDSP::blurred(image, rect, 4, alphaOnly),
-                                  slowBlur(image, rect & image.rect(), 4, alphaOnly)));
-        }
-    }
-
     void convolutionMatchesTheTaps_data() { addImageRows(); }
     void convolutionMatchesTheTaps() {
         QFETCH(QImage, image);
         const ConvolutionCall calls[] = {
-            {{}, {}, {-1, -1, -1, -1, 9, -1, -1, -1, -1}},
-            {{}, {}, {0, 0, 0, 0, 1, 0, 0, 0, 0}},
-            {{}, {}, Kernel(9, 0.0)},
-            {{}, {}, Kernel(9, 1.0 / 9)},
-            {{}, {}, {0, 0.1, 0, 0.2, 0.3, 0.1, 0, 0.2, 0}},
-            {{}, {}, randomKernel(9, 2)},
-            {{}, {}, randomKernel(9, 30000)},
-            {{}, {}, {32767.75, 0, 0, 0, 0, 0, 0, 0, -32768}},
-            {{}, {}, {1.5}, 1, 1},
-            {{}, {}, randomKernel(4, 1), 2, 2},
-            {{}, {}, randomKernel(20, 0.4), 4, 5},
-            {{}, {}, randomKernel(7, 0.4), 7, 1},
-            {{}, {}, randomKernel(9, 0.5), 3, 3, QPainter::CompositionMode_SourceOver},
+            {{-1, -1, -1, -1, 9, -1, -1, -1, -1}},
+            {{0, 0, 0, 0, 1, 0, 0, 0, 0}},
+            {Kernel(9, 0.0)},
+            {Kernel(9, 1.0 / 9)},
+            {{0, 0.1, 0, 0.2, 0.3, 0.1, 0, 0.2, 0}},
+            {randomKernel(9, 2)},
+            {randomKernel(9, 30000)},
+            {{32767.75, 0, 0, 0, 0, 0, 0, 0, -32768}},
+            {{1.5}, 1, 1},
+            {randomKernel(4, 1), 2, 2},
+            {randomKernel(20, 0.4), 4, 5},
+            {randomKernel(7, 0.4), 7, 1},
+            {randomKernel(9, 0.5), 3, 3, QPainter::CompositionMode_SourceOver},
         };
         for (const ConvolutionCall& call : calls)
             QVERIFY2(
-                sameWords(convolution(image, image, call), slowConvolution(image, image, call)),
+                sameWords(convolution(image, call), slowConvolution(image, call)),
                 qPrintable(QString("%1 by %2 from %3").arg(call.width).arg(call.height).arg(call.kernel[0])));
-    }
-
-    void convolutionAtPositions() {
-        const QImage source = randomImage({23, 19}, QImage::Format_ARGB32);
-        const QImage destination = randomImage({37, 29}, QImage::Format_RGB32, 5);
-        const std::pair<QPointF, QRectF> places[] = {
-            {{5, 3}, {}},
-            {{-6, -4}, {}},
-            {{30, 20}, {}},
-            {{2, 2}, {4, 5, 9, 7}},
-            {{2.4, 1.7}, {4.5, 5.2, 9.1, 7.9}},
-            {{1, 1}, {15, 10, 30, 20}},
-            {{500, 500}, {}},
-        };
-        for (const auto& [position, sourceRect] : places) {
-            for (const auto mode : {QPainter::CompositionMode_Source, QPainter::CompositionMode_SourceOver}) {
-                for (const int side : {3, 4}) {
-                    const Kernel kernel = randomKernel(side * side, 1);
-                    const ConvolutionCall call{position, sourceRect, kernel, side, side, mode};
-                    QVERIFY(sameWords(convolution(destination, source, call),
-                                      slowConvolution(destination, source, call)));
-                }
-            }
-        }
-    }
-
-    void convolutionLeavesSharedImagesAlone() {
-        QImage image = randomImage({20, 20}, QImage::Format_ARGB32_Premultiplied);
-        const QImage shared = image;
-        const QImage before = image.copy();
-        const Kernel kernel{-1, -1, -1, -1, 9, -1, -1, -1, -1};
-        ImageDSP::convolute(image, {}, image, {}, QPainter::CompositionMode_Source, kernel, 3, 3);
-        QVERIFY(sameWords(shared, before));
-        QVERIFY(sameWords(image, slowConvolution(before, before, {{}, {}, kernel})));
     }
 };
 

@@ -32,15 +32,12 @@ private slots:
 
     void aChainRunsOverTheSelection() {
         const MediaFolder folder;
-        QStringList names;
-        for (int number = 0; number < 6; ++number) {
-            names.append(QString("p%1.png").arg(number));
-            QImage image(37 + number, 29, number % 2 ? QImage::Format_RGB32 : QImage::Format_ARGB32);
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x)
-                    image.setPixel(x, y, qRgba(x * 6, y * 8, x * y, 255));
-            }
-            folder.addImage(names.last(), image);
+        const QStringList names{"a.png", "b.png"};
+        for (const QString& name : names) {
+            QImage image(37, 29, QImage::Format_ARGB32);
+            for (int pixel = 0; pixel < 37 * 29; ++pixel)
+                image.setPixel(pixel % 37, pixel / 37, 0xff000000 | pixel * 15000);
+            folder.addImage(name, image);
         }
         folder.addFile("broken.png", "no picture");
         WindowDriver driver(folder.path());
@@ -53,8 +50,8 @@ private slots:
         slider(driver, "BlackPoint")->setValue(30);
         driver.select(names + QStringList("broken.png"));
         driver.click("pBDspApply");
-        QCOMPARE(driver.statusText(), QString("Filters applied to: 7 files"));
-        QCOMPARE(WindowDriver::logCount("Applied filter to 6 of total: 7"), 1);
+        QCOMPARE(driver.statusText(), QString("Filters applied to: 3 files"));
+        QCOMPARE(WindowDriver::logCount("Applied filter to 2 of total: 3"), 1);
         QCOMPARE(WindowDriver::logCount("unable to create out path"), 0);
 
         const ImageFilters catalogue;

@@ -72,60 +72,39 @@ private slots:
         addRows<std::string, std::string>({
             {"nothing", "", invalid},
             {"a byte order mark", "\xEF\xBB\xBF{}", invalid},
-            {"all kinds", R"([true,false,null,-1,"s",[],{}])", R"([true,false,null,-1,"s",[],{}])"},
             {"what follows is left", "{\"a\":1}   xyz", "{a:1} |    xyz"},
             {"text after NUL does not exist", "[1\0,2]"s, corrupted},
             // Space and terminators.
             {"empty object with blanks", "{ \t}", "{}"},
             {"empty array with line ends", " [\r\n]", "[]"},
-            {"blank before a comma", "[1 ,2]", "[1,2]"},
-            {"line end after a number", "[1\r\n]", "[1]"},
             {"blanks around the colon", "{\"a\" : 1 }", "{a:1}"},
             {"tab before a comma", "[1\t,2]", invalid},
-            {"tab after a comma", "[1,\t2]", "[1,2]"},
-            {"tab after a string", "[\"a\"\t]", invalid},
             {"tab after a literal", "[true\t]", undefined},
-            {"tab after an array", "[[]\t,{}\t]", "[[],{}]"},
-            {"tab after a key", "{\"a\"\t:1}", invalid},
-            // Arrays and objects.
             {"trailing comma in an array", "[1,2,]", invalid},
             {"trailing comma in an object", "{\"a\":1,}", invalid},
-            {"no comma", "[1 2]", invalid},
-            {"object closed as array", "{\"a\":1]", invalid},
             {"array ends after bracket", "[ ", corrupted},
-            {"array ends after item", "[1 ", corrupted},
-            {"array ends after comma", "[1, ", corrupted},
             {"object ends after brace", "{ ", corrupted},
-            {"object ends after key", "{\"a\" ", corrupted},
             {"object ends after member", "{\"a\":1", corrupted},
-            {"object ends after comma", "{\"a\":1,", corrupted},
             {"key without quotes", "{a:1}", invalid},
-            {"key without colon", "{\"a\" 1}", invalid},
             {"key order is kept", R"({"b":1,"a":2})", "{b:1,a:2}"},
             {"same key on two levels", R"({"a":{"a":1}})", "{a:{a:1}}"},
             {"duplicated key by escape", R"({"a":1,"\u0061":2})", duplicated},
-            {"error in the second value goes first", R"({"a":1,"a":tru})", undefined},
             {"duplicate goes before a later error", R"({"a":1,"a":2 x)", duplicated},
             // Literals and numbers.
             {"literal at the end", "true\0x"s, "true"},
-            {"literal cut short", "tru", undefined},
             {"literal too long", "truex", undefined},
-            {"literal of another case", "True", invalid},
             {"plus sign", "+1", invalid},
             {"point last", "1.", invalid},
             {"exponent without digits", "1e", invalid},
-            {"exponent with plus", "1e+5", invalid},
             {"upper-case exponent", "1E5", invalid},
             {"hexadecimal without digits", "0x", invalid},
             {"hexadecimal with a wrong digit", "0x1G", invalid},
             // Strings.
-            {"empty string", "\"\"", "\"\""},
             {"string without end", "\"abc", invalid},
             {"string that ends in a backslash", "\"abc\\", invalid},
             {"string that ends in an escaped quote", "\"abc\\\"", invalid},
             {"string before a letter", "\"abc\"d", invalid},
             {"string with NUL", "\"a\0b\""s, invalid},
-            {"backslash before NUL", "\"a\\\0\""s, invalid},
             {"raw line feed", "\"a\nb\"", invalid},
             {"all short escapes", "\"\\\"\\\\\\/\\b\\f\\n\\r\\t\"", "\"\"\\/\b\f\n\r\t\""},
             {"escaped NUL", R"("a\u0000b")", "\"a\0b\""s},
@@ -146,12 +125,8 @@ private slots:
         addRows<std::string, double>({
             {"negative zero", "-0", -0.0},
             {"minus alone", "-", -0.0},
-            {"minus and fraction", "-.5", -0.5},
             {"leading zeros", "007", 7},
-            {"many leading zeros", zeros + "1.5", 1.5},
             {"hexadecimal", "-0xF", -0.0},
-            {"leading zeros in the exponent", "1e000005", 100000},
-            {"fraction and exponent", "12.5e2", 1250},
             {"tie goes to even", halfway, 9007199254740992.0},
             {"tie and zeros stay a tie", halfway + "." + zeros, 9007199254740992.0},
             {"tie and a digit past the kept ones", halfway + "." + zeros + "1", 9007199254740994.0},
@@ -159,8 +134,6 @@ private slots:
             {"800 digits behind the point", "0." + std::string(800, '3'), 1.0 / 3},
             {"largest double", "1.7976931348623157e308", std::numeric_limits<double>::max()},
             {"half a step above the largest", "1.7976931348623159e308", infinity},
-            {"too large and negative", "-1e400", -infinity},
-            {"too large by digits", std::string(400, '9'), infinity},
             {"too small and negative", "-0." + zeros + "1", -0.0},
             {"smallest denormal", "0." + std::string(323, '0') + "5", denormal},
             {"half the smallest denormal", halfDenormal, 0},
@@ -169,7 +142,6 @@ private slots:
             {"huge exponent", "1e99999999999999999999", infinity},
             {"exponent of 65536 meets its zeros", "0." + std::string(65535, '0') + "1e65536", 1},
             {"exponent digits past the limit", "0." + std::string(65535, '0') + "1e655361", 1},
-            {"one digit more below the limit", "0." + std::string(65535, '0') + "1e655350", infinity},
         });
     }
     void numbers() {
@@ -191,11 +163,8 @@ private slots:
             {"unknown escape", R"("\x")", "invalid string: forbidden character after backslash"},
             {"three digits", R"("\u123")", digits},
             {"no hex digit", R"("\u00g0")", digits},
-            {"three digits of the second half", R"("\uD83D\uDE0")", digits},
             {"low half alone", R"("\uDC00")", high},
             {"high half before a letter", R"("\uD800a")", low},
-            {"high half before another escape", R"("\uDBFF\n")", low},
-            {"two high halves", R"("\uD800\uD800")", low},
             {"high half before a code above both", R"("\uD800\uE000")", low},
         });
     }
@@ -203,23 +172,6 @@ private slots:
         const auto& [quoted, expected] = row<std::string, std::string>();
         QCOMPARE(stringError(quoted), expected);
         QCOMPARE(parsed(quoted), invalid);
-    }
-
-    void controlCharactersAreNamed() {
-        const QStringList names =
-            QString("NUL SOH STX ETX EOT ENQ ACK BEL BS HT LF VT FF CR SO SI DLE DC1 DC2 "
-                    "DC3 DC4 NAK SYN ETB CAN EM SUB ESC FS GS RS US")
-                .split(' ');
-        const QHash<char, QString> escapes{
-            {'\b', "\\b"}, {'\t', "\\t"}, {'\n', "\\n"}, {'\f', "\\f"}, {'\r', "\\r"}};
-        for (int code = 0; code < 32; ++code) {
-            const QString digits = QString("%1").arg(code, 4, 16, QChar('0')).toUpper();
-            const QString shortForm = escapes.value(static_cast<char>(code));
-            QCOMPARE(QString::fromStdString(stringError({'"', static_cast<char>(code), '"'})),
-                     QString("invalid string: control character U+%1 (%2) must be escaped to \\u%1")
-                             .arg(digits, names[code]) +
-                         (shortForm.isEmpty() ? QString() : " or " + shortForm));
-        }
     }
 
     // Code points of all lengths, plain and by escapes.
@@ -256,16 +208,6 @@ private slots:
         QCOMPARE(parsed(repeated("[[],", 600)), corrupted);
         QCOMPARE(parsed(repeated("{\"a\":", 10'000'000)), corrupted);
         QCOMPARE(parsed("[" + repeated("[],", 600) + "0]").size(), 1U + 600 * 3 + 2);
-    }
-
-    void textsOfCodes() {
-        QCOMPARE(jsonTypeName(JsonValue()), "[[invalid]]");
-        QCOMPARE(jsonTypeName(static_cast<JsonKind>(7)), "[[invalid]]");
-        std::string texts;
-        for (int code = 0; code < 8; ++code)
-            texts += std::string(jsonErrorText(static_cast<JsonError>(code))) + "\n";
-        QCOMPARE(texts, "no error\nundefined\ninvalid token\nunknown type\nmemory allocation error\n"
-                        "input is corrupted\nduplicated key found\nunknown error\n");
     }
 
     void orderedDictKeepsFirstPlaces() {

@@ -1,0 +1,63 @@
+#include "editor/CutGeometry.h"
+#include "editor/ViewGeometry.h"
+#include "support/Rows.h"
+
+// Drags of the cut rectangle and turns of the wheel; the rest is tested through the view.
+class TestEditorGeometry : public QObject {
+    Q_OBJECT
+
+private slots:
+    void wheel_data() {
+        const QPoint none;
+        addRows<QPoint, QPoint, bool, double>({
+            {"a notch up", {0, 120}, none, false, 0.0625},
+            {"a notch down, fine", {0, -120}, none, true, -0.03125},
+            {"less than half a notch goes down", {0, 48}, none, false, -0.0625},
+            {"a horizontal turn goes down", {120, 0}, none, false, -0.0625},
+            {"too little for a degree", {0, 3}, none, false, 0.0},
+            {"half a degree counts", {0, -4}, none, false, -0.0625},
+            {"pixels go first", {0, -120}, {0, 1}, false, 0.0625},
+        });
+    }
+    void wheel() {
+        const auto& [angle, pixel, fine, change] = row<QPoint, QPoint, bool, double>();
+        QCOMPARE(wheelZoomChange(angle, pixel, fine), change);
+    }
+
+    void drag_data() {
+        const QPointF d(3, 5);
+        // The last cell tells the moves of left, top, right and bottom.
+        addRows<int, bool, QPointF, QMargins>({
+            {"centre", 1, false, d, {3, 5, 3, 5}},
+            {"top left", 2, false, d, {3, 5, 0, 0}},
+            {"top", 3, false, d, {0, 5, 0, 0}},
+            {"top right", 4, false, d, {0, 5, 3, 0}},
+            {"left", 5, false, d, {3, 0, 0, 0}},
+            {"right", 6, false, d, {0, 0, 3, 0}},
+            {"bottom left", 7, false, d, {3, 0, 0, 5}},
+            {"bottom", 8, false, d, {0, 0, 0, 5}},
+            {"bottom right", 9, false, d, {0, 0, 3, 5}},
+            {"top left, kept", 2, true, d, {3, 3, 0, 0}},
+            {"top, kept", 3, true, d, {5, 5, -5, 0}},
+            {"top right, kept", 4, true, d, {0, -3, 3, 0}},
+            {"left, kept", 5, true, d, {3, 3, 0, -3}},
+            {"right, kept", 6, true, d, {0, -3, 3, 3}},
+            {"bottom left, kept", 7, true, d, {3, 0, 0, -3}},
+            {"bottom, kept", 8, true, d, {-5, 0, 5, 5}},
+            {"bottom right, kept", 9, true, d, {0, 0, 3, 3}},
+            {"the last pixel may stay", 5, false, {299, 0}, {299, 0, 0, 0}},
+            {"no width is refused", 5, false, {300, 0}, {0, 0, 0, 0}},
+            {"no height on the other axis is refused", 5, true, {100, 0}, {0, 0, 0, 0}},
+            {"turning inside out is refused", 9, false, {-400, -300}, {0, 0, 0, 0}},
+        });
+    }
+    void drag() {
+        const auto& [part, keep, delta, moves] = row<int, bool, QPointF, QMargins>();
+        QCOMPARE(
+            draggedCutRect({100, 100, 300, 200}, part, delta, keep),
+            QRectF(100, 100, 300, 200).adjusted(moves.left(), moves.top(), moves.right(), moves.bottom()));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEditorGeometry)
+#include "tst_editorgeometry.moc"
