@@ -1,6 +1,5 @@
 #include "imaging/ImageDSP.h"
 
-#include <QColorSpace>
 #include <QRandomGenerator>
 #include <QThreadPool>
 #include <QtTest>

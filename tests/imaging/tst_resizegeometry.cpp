@@ -2,8 +2,6 @@
 #include "imaging/ResizeGeometry.h"
 #include "support/Rows.h"
 
-#include <QTemporaryDir>
-
 // What the batches count with: sizes, crops, and where their files go.
 class TestResizeGeometry : public QObject {
     Q_OBJECT

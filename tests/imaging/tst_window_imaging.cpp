@@ -11,10 +11,7 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QDockWidget>
-#include <QDoubleSpinBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>

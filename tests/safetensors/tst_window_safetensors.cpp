@@ -8,8 +8,6 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QSplitter>
