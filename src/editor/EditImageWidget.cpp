@@ -264,6 +264,18 @@ void EditImageWidget::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
+bool EditImageWidget::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* keys = static_cast<QKeyEvent*>(event);
+        const bool isUndo = keys->key() == Qt::Key_Z && keys->modifiers().testFlag(Qt::ControlModifier);
+        if (isUndo || (isSaveKey(keys) && !_imageFilePath.isEmpty())) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
 void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
     _axisLock = kNoAxisLock;
     const Qt::KeyboardModifiers modifiers = releasedModifiers(event);

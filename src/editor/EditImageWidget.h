@@ -70,6 +70,8 @@ signals:
     void undoAvailableChanged(bool undoAvailable);
 
 protected:
+    // Keys that save or undo here are no shortcuts of the window then.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
