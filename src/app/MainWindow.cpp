@@ -159,5 +159,6 @@ void MainWindow::initConnections() {
     initEffectConnections();
     initProfileConnections();
     initResizeConnections();
+    initEditorConnections();
     initSafetensorsConnections();
 }

@@ -390,11 +390,14 @@ public slots:
     void editImage();
     void onEditImgRequestImgNext(const QString& currFilePath);
     void onEditImgRequestImgPrev(const QString& currFilePath);
+    void onImageSaveFailed(const QString& filePath, const QString& reason);
     void onEditImgSavedFile(const QString& fileName);
     void onEditImgNewlySavedFile(const QString& fileName);
     void onRequestDeleteImage(const QString& filePath);
 
 private:
+    void initEditorConnections();
+    void showImageSaved();
     [[nodiscard]] QString fileIndexText(const QString& filePath) const;
     [[nodiscard]] QString steppedFilePath(const QString& filePath, int step) const;
     void stepEditor(EditImageDialog* dialog, const QString& currFilePath, int step);

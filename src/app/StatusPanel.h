@@ -14,11 +14,6 @@ struct OperationResult {
     QStringList failures; // a line each: file and reason
 };
 
-// A line of a result's failures.
-[[nodiscard]] inline QString fileFailure(const QString& filePath, const QString& reason) {
-    return filePath + QLatin1StringView(": ") + reason;
-}
-
 // "saved 237", or "saved 228 of 237, 9 failed". The failures are the lines of file and reason.
 [[nodiscard]] OperationResult operationResult(const QString& verb, qsizetype done, qsizetype total,
                                               const QStringList& failures);

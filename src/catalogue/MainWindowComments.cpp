@@ -1,6 +1,6 @@
 #include "app/MainWindow.h"
 
-#include "app/StatusPanel.h"
+#include "app/services/FileFailure.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/UpdatesOff.h"

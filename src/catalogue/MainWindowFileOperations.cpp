@@ -1,8 +1,8 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
-#include "app/StatusPanel.h"
 #include "app/WaitCursor.h"
+#include "app/services/FileFailure.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "app/services/Trash.h"

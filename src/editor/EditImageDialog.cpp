@@ -140,6 +140,7 @@ void EditImageDialog::initViewConnections() {
     connect(view, &EditImageWidget::requestImage, this, &EditImageDialog::onRequestImage);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::message);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::showStatus);
+    connect(view, &EditImageWidget::saveFailed, this, &EditImageDialog::saveFailed);
     connect(view, &EditImageWidget::savedFile, this, &EditImageDialog::savedFile);
     connect(view, &EditImageWidget::newlySavedFile, this, &EditImageDialog::newlySavedFile);
     connect(view, &EditImageWidget::toolChanged, this, &EditImageDialog::onToolChanged);

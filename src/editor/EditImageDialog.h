@@ -36,6 +36,7 @@ signals:
     void widgetState(QByteArray data);
     void widgetGeometry(QByteArray data);
     void requestDeleteImage(QString filePath);
+    void saveFailed(QString filePath, QString reason);
     void savedFile(QString fileName);
     void newlySavedFile(QString fileName);
 

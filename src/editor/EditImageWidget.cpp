@@ -395,8 +395,8 @@ void EditImageWidget::saveImage() {
         emit message(_noSaveReason);
         return;
     }
-    if (!writeImageFile(_pixmap.toImage(), _imageFilePath)) {
-        reportSaveFailure(_imageFilePath);
+    if (QString error; !writeImageFile(_pixmap.toImage(), _imageFilePath, {}, &error)) {
+        reportSaveFailure(_imageFilePath, error);
         return;
     }
     qDebug() << "Saved image:" << _imageFilePath;
@@ -419,8 +419,8 @@ void EditImageWidget::saveImageToFile(const QString& filePath) {
         qDebug() << "Error, file name is empty.";
         return;
     }
-    if (!writeImageFile(_pixmap.toImage(), filePath)) {
-        reportSaveFailure(filePath);
+    if (QString error; !writeImageFile(_pixmap.toImage(), filePath, {}, &error)) {
+        reportSaveFailure(filePath, error);
         return;
     }
     qDebug() << "Saved image as:" << filePath;
@@ -428,7 +428,8 @@ void EditImageWidget::saveImageToFile(const QString& filePath) {
     emit newlySavedFile(filePath);
 }
 
-void EditImageWidget::reportSaveFailure(const QString& filePath) {
+void EditImageWidget::reportSaveFailure(const QString& filePath, const QString& reason) {
     qDebug() << "Error, unable save image:" << filePath;
     emit message(tr("Error, unable to save image: %1").arg(filePath));
+    emit saveFailed(filePath, reason);
 }

@@ -65,6 +65,7 @@ signals:
     void message(QString msg);
     void toolChanged(EditImageWidget::Tool tool);
     void cutSizeChanged(QRectF cutSize);
+    void saveFailed(QString filePath, QString reason);
     void savedFile(QString fileName);
     void newlySavedFile(QString fileName);
     void undoAvailableChanged(bool undoAvailable);
@@ -98,7 +99,7 @@ private:
     void moveCutRect(const char* direction, QPointF delta);
     void applyCut();
     void saveImageToFile(const QString& filePath);
-    void reportSaveFailure(const QString& filePath);
+    void reportSaveFailure(const QString& filePath, const QString& reason);
     void addViewEntries(QMenu* menu);
     void addCutEntries(QMenu* menu);
 

@@ -2,6 +2,7 @@
 
 #include "app/Questions.h"
 #include "app/WindowPlace.h"
+#include "app/services/FileFailure.h"
 #include "app/services/SettingsKeys.h"
 #include "app/services/Trash.h"
 #include "catalogue/ImageLoaderThreaded.h"
@@ -25,6 +26,7 @@ void MainWindow::editImage() {
     connect(dialog, &EditImageDialog::requestImgPrev, this, &MainWindow::onEditImgRequestImgPrev);
     connect(dialog, &EditImageDialog::requestImgNext, this, &MainWindow::onEditImgRequestImgNext);
     connect(dialog, &EditImageDialog::message, this, &MainWindow::onShowMessage);
+    connect(dialog, &EditImageDialog::saveFailed, this, &MainWindow::onImageSaveFailed);
     connect(dialog, &EditImageDialog::savedFile, this, &MainWindow::onEditImgSavedFile);
     connect(dialog, &EditImageDialog::newlySavedFile, this, &MainWindow::onEditImgNewlySavedFile);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -65,7 +67,23 @@ void MainWindow::stepEditor(EditImageDialog* dialog, const QString& currFilePath
         dialog->setImageFile(path, fileIndexText(path));
 }
 
+void MainWindow::initEditorConnections() {
+    connect(ui->imgWidget, &EditImageWidget::message, this, &MainWindow::onShowMessage);
+    connect(ui->imgWidget, &EditImageWidget::saveFailed, this, &MainWindow::onImageSaveFailed);
+    for (const auto saved : {&EditImageWidget::savedFile, &EditImageWidget::newlySavedFile})
+        connect(ui->imgWidget, saved, this, &MainWindow::showImageSaved);
+}
+
+void MainWindow::showImageSaved() {
+    showResult(tr("saved"), 1, 1, {});
+}
+
+void MainWindow::onImageSaveFailed(const QString& filePath, const QString& reason) {
+    showResult(tr("saved"), 0, 1, {fileFailure(filePath, reason)});
+}
+
 void MainWindow::onEditImgSavedFile(const QString& fileName) {
+    showImageSaved();
     queuePreview(fileName, previewSize());
     if (_imageLoader)
         _imageLoader->start();
@@ -73,6 +91,7 @@ void MainWindow::onEditImgSavedFile(const QString& fileName) {
 }
 
 void MainWindow::onEditImgNewlySavedFile(const QString& fileName) {
+    showImageSaved();
     qDebug() << "MainWindow::onEditImgNewlySavedFile" << fileName;
     if (_itemModel->contains(fileName)) {
         onShowMessage(tr("Saved image as file: %1, file overwritten.").arg(fileName));

@@ -1,5 +1,6 @@
 #include "imaging/BatchOutput.h"
 
+#include "app/services/FileFailure.h"
 #include "app/services/ImageFile.h"
 
 #include <QDir>
@@ -27,9 +28,15 @@ BatchWriter::BatchWriter(int quality) : _quality(quality) {}
 
 bool BatchWriter::write(const QImage& image, const QString& filePath) {
     if (!writeImageFile(image, filePath, {.format = {}, .quality = _quality, .compression = 1},
-                        &_errorString))
+                        &_errorString)) {
+        noteFailure(filePath, _errorString);
         return false;
+    }
     ++_writtenCount;
     _written.insert(filePath);
     return true;
+}
+
+void BatchWriter::noteFailure(const QString& filePath, const QString& reason) {
+    _failures.append(fileFailure(filePath, reason));
 }

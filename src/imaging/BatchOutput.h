@@ -2,6 +2,7 @@
 
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 class QImage;
 
@@ -24,6 +25,10 @@ public:
     [[nodiscard]] bool write(const QImage& image, const QString& filePath);
     // Of the last write.
     [[nodiscard]] QString errorString() const { return _errorString; }
+    // Notes a file that gave no output. A write that fails notes itself.
+    void noteFailure(const QString& filePath, const QString& reason);
+    // A line each: file and reason.
+    [[nodiscard]] const QStringList& failures() const { return _failures; }
     [[nodiscard]] qsizetype writtenCount() const { return _writtenCount; }
     // Whether this batch has written that file before.
     [[nodiscard]] bool isWrittenAlready(const QString& filePath) const { return _written.contains(filePath); }
@@ -33,4 +38,5 @@ private:
     qsizetype _writtenCount = 0;
     QSet<QString> _written;
     QString _errorString;
+    QStringList _failures;
 };

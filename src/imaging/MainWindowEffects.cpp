@@ -50,7 +50,6 @@ void MainWindow::initEffectConnections() {
     connect(ui->pBDspApply, &QPushButton::clicked, this, &MainWindow::onFilterApply);
     connect(ui->pBDspReset, &QPushButton::clicked, this, &MainWindow::onDspReset);
     connect(ui->tBAddEffect, &QToolButton::clicked, this, &MainWindow::onAddDspEffect);
-    connect(ui->imgWidget, &EditImageWidget::message, this, &MainWindow::onShowMessage);
 }
 
 QString MainWindow::effectName(const QListWidgetItem* item) {
@@ -205,16 +204,20 @@ void MainWindow::onFilterApply() {
         const QImage work = appliedEffects(_filterImage, applied);
         if (!applied) {
             qDebug() << "Image not processed" << path << "nothing to do.";
+            if (isBatch && _filterImage.isNull())
+                writer.noteFailure(path, tr("no image was read"));
             continue;
         }
         qDebug() << "Image processed:" << path;
         if (!isBatch) {
             ui->imgWidget->setImage(work, _filterImagePath, noSaveOfEffects());
         } else if (writeBatchImage(writer, work, path, directory)) {
-            onShowMessage(
+            showBlockingMessage(
                 tr("Applied filter to %1 of total: %2").arg(writer.writtenCount()).arg(paths.size()));
         }
     }
+    if (isBatch)
+        showResult(tr("filtered"), writer.writtenCount(), paths.size(), writer.failures());
     onShowMessage(tr("Filters applied to: %1 files").arg(paths.size()));
 }
 

@@ -119,6 +119,7 @@ void MainWindow::onProcessResize() {
         const QImage image = reader.read();
         if (image.isNull()) {
             qDebug() << "Unable to read image, error:" << reader.errorString();
+            writer.noteFailure(path, reader.errorString());
             continue;
         }
         if (options.mode == ResizeMode::SpecificSize)
@@ -129,8 +130,9 @@ void MainWindow::onProcessResize() {
         if (options.mode == ResizeMode::AspectRatio)
             qDebug() << "iSize b4:" << image.size() << image << "iSize after:" << resized->size() << *resized;
         if (writeBatchImage(writer, *resized, path, directory))
-            onShowMessage(tr("Resized %1 of total: %2").arg(writer.writtenCount()).arg(files.size()));
+            showBlockingMessage(tr("Resized %1 of total: %2").arg(writer.writtenCount()).arg(files.size()));
     }
+    showResult(tr("resized"), writer.writtenCount(), files.size(), writer.failures());
     const double seconds = static_cast<double>(timer.elapsed()) / 1000.0;
     onShowMessage(tr("Resize completed, resized: %1 in %2 s").arg(files.size()).arg(seconds));
 }

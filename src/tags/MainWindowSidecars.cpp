@@ -1,7 +1,7 @@
 #include "app/MainWindow.h"
 
-#include "app/StatusPanel.h"
 #include "app/WaitCursor.h"
+#include "app/services/FileFailure.h"
 #include "catalogue/FileNaming.h"
 #include "tags/SidecarFile.h"
 #include "tags/TagRecord.h"
