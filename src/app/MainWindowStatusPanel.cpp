@@ -41,8 +41,9 @@ void MainWindow::initStatusPanel() {
 }
 
 void MainWindow::initStatusPanelConnections() {
-    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(_proxyModel, signal, this, &MainWindow::updateShownCount);
+    // A hidden row comes and leaves without a signal of the proxy.
+    connect(_itemModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateShownCount);
+    connect(_itemModel, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateShownCount);
     connect(_proxyModel, &QAbstractItemModel::modelReset, this, &MainWindow::updateShownCount);
     connect(_proxyModel, &QAbstractItemModel::layoutChanged, this, &MainWindow::updateShownCount);
     connect(_imageTags, &TagRecord::changed, this, &MainWindow::updateUnsavedCount);

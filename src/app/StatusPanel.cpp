@@ -1,10 +1,11 @@
 #include "app/StatusPanel.h"
 
+#include "app/services/PlainText.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QTextDocument>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,7 @@ QString linesToolTip(const QStringList& lines, qsizetype total) {
     QStringList shown = lines.first(qMin(lines.size(), shownLines));
     if (total > shown.size())
         shown.append(QString(QChar(0x2026)));
-    return Qt::convertFromPlainText(shown.join(u'\n'));
+    return plainToolTip(shown.join(u'\n'));
 }
 
 // Text of a button or an entry, in which "&" is no mnemonic.
