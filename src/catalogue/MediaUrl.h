@@ -5,10 +5,12 @@
 #include <QUrl>
 
 // What a media player is given for a path or URL: the text itself as a URL where that means the file,
-// otherwise a URL of the local file, so that '#', '%' and '?' in its name stay part of the name.
+// otherwise a URL of the local file, so that '#', '%', '?' and what else a URL writes in another way stay
+// part of its name.
 [[nodiscard]] inline QUrl mediaUrl(const QString& pathOrUrl) {
     QUrl url(pathOrUrl);
-    const bool meansThePath = url.scheme().isEmpty() && url.path() == pathOrUrl;
+    const bool meansThePath =
+        url.scheme().isEmpty() && url.path() == pathOrUrl && url.toString() == pathOrUrl;
     if (meansThePath || !QFile::exists(pathOrUrl))
         return url;
     return QUrl::fromLocalFile(pathOrUrl);
