@@ -47,20 +47,27 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
         qDebug() << "Image is null...";
         return;
     }
+    auto* window = qobject_cast<VideoWidget*>(sender());
+    const auto answer = [window](const QString& text) {
+        if (window)
+            window->showStatus(text);
+    };
     const QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
         qDebug() << "Path is empty...";
+        answer(tr("No working directory to save the frame to."));
         return;
     }
-    const auto* window = qobject_cast<VideoWidget*>(sender());
     const auto openedDirectory = window ? std::optional(window->lastOpenPath()) : std::nullopt;
     const QString path = grabbedFrameFilePath(
         directory, grabbedFrameBaseName(fileName, openedDirectory, QDateTime::currentDateTime()));
     if (!writeImageFile(img, path, {.format = frameFormat, .quality = frameQuality})) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
+        answer(tr("Error, unable to save file to: %1").arg(path));
         return;
     }
+    answer(tr("Saved frame to: %1").arg(path));
     addFileItem(path);
     reloadFile(path);
 }

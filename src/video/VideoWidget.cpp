@@ -2,10 +2,12 @@
 
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "app/services/StatusTipFilter.h"
 #include "app/services/Themes.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaUrl.h"
 #include "ui_VideoWidget.h"
+#include "video/FrameStepper.h"
 #include "video/VideoSteps.h"
 #include "video/VideoTexts.h"
 
@@ -22,8 +24,12 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMediaMetaData>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QVideoSink>
 #include <QWheelEvent>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -40,10 +46,16 @@ QStringList videosBeside(const QString& filePath) {
     return files;
 }
 
+// A place inside the frame, in milliseconds, as the frame before may end where it starts.
+qint64 positionOfFrame(qint64 startTime) {
+    return startTime / 1000 + 1;
+}
+
 } // namespace
 
 VideoWidget::VideoWidget(QWidget* parent) : QMainWindow(parent), _ui(std::make_unique<Ui::VideoWidget>()) {
     _ui->setupUi(this);
+    keepMessages(this);
     setWindowTitle(tr("Video editor"));
     _ui->pBMediaPosition->setRange(0, 1);
     _ui->pBMediaPosition->setValue(0);
@@ -80,6 +92,11 @@ void VideoWidget::initActions() {
         add(tr("&Grab frame"), tr("Grab frame"), QKeySequence(u"Ctrl+G"_s), &VideoWidget::onGrabFrame);
     _ui->tBGrabFrame->setToolTip(
         tr("Grab current frame [%1]").arg(grab->shortcut().toString(QKeySequence::PortableText)));
+    // Shortcuts, so that a button with the focus does not take the blank for itself.
+    auto* toggle = new QShortcut(Qt::Key_Space, this, this, &VideoWidget::onPlayPause);
+    toggle->setAutoRepeat(false);
+    new QShortcut(Qt::Key_Comma, this, this, [this] { stepPicture(false); });
+    new QShortcut(Qt::Key_Period, this, this, [this] { stepPicture(true); });
 }
 
 void VideoWidget::initPlayer() {
@@ -95,6 +112,14 @@ void VideoWidget::initPlayer() {
     connect(_mediaPlayer, &QMediaPlayer::playbackRateChanged, this, &VideoWidget::playbackRateChanged);
     connect(_mediaPlayer, &QMediaPlayer::mediaStatusChanged, this, &VideoWidget::mediaStatusChanged);
     connect(_mediaPlayer, &QMediaPlayer::playbackStateChanged, this, &VideoWidget::playbackStateChanged);
+    connect(_ui->videoWidget->videoSink(), &QVideoSink::videoFrameChanged, this, &VideoWidget::onFrameShown);
+    _stepper = new FrameStepper(this);
+    connect(_stepper, &FrameStepper::stepped, this, [this](const QVideoFrame& frame) {
+        _endings = 0;
+        showPicture(frame);
+    });
+    connect(_stepper, &FrameStepper::endReached, this,
+            [this](bool forward) { showStatus(forward ? tr("Last frame.") : tr("First frame.")); });
 }
 
 void VideoWidget::initThemes() {
@@ -134,6 +159,12 @@ void VideoWidget::openFile(const QString& path) {
     if (QUrl::fromUserInput(path, QString()).isLocalFile())
         _lastOpenPath = QFileInfo(path).path();
     setWindowTitle(tr("Video editor - %1").arg(QFileInfo(path).fileName()));
+    _frame = {};
+    _isStepped = false;
+    _isSeeking = !path.isEmpty();
+    _endings = 0;
+    _waitingSteps = 0;
+    _stepper->setSource(mediaUrl(path));
     _mediaPlayer->stop();
     _mediaPlayer->setSource(QUrl());
     _mediaPlayer->setSource(mediaUrl(path));
@@ -176,10 +207,15 @@ void VideoWidget::onFileNextPrev() {
 // --- player --------------------------------------------------------------------------------------
 
 void VideoWidget::onPlayPause() {
-    if (_mediaPlayer->playbackState() == QMediaPlayer::PlayingState)
+    if (_mediaPlayer->playbackState() == QMediaPlayer::PlayingState) {
         _mediaPlayer->pause();
-    else
-        _mediaPlayer->play();
+        return;
+    }
+    if (_endings > 0)
+        seek(0);
+    else if (_isStepped)
+        seek(position());
+    _mediaPlayer->play();
 }
 
 void VideoWidget::sourceChanged(QUrl media) {
@@ -188,12 +224,19 @@ void VideoWidget::sourceChanged(QUrl media) {
 
 void VideoWidget::durationChanged(qlonglong duration) {
     _ui->pBMediaPosition->setRange(0, static_cast<int>(duration));
+    showPosition();
 }
 
-void VideoWidget::positionChanged(qlonglong position) {
+void VideoWidget::positionChanged(qlonglong) {
+    showPosition();
+}
+
+void VideoWidget::showPosition() {
     const QSignalBlocker blocker(_ui->pBMediaPosition);
-    _ui->pBMediaPosition->setValue(static_cast<int>(position));
-    _ui->pBMediaPosition->setFormat(positionFormat(_mediaPlayer->position(), _mediaPlayer->duration()));
+    // Some containers tell less than the length of their pictures, and the bar takes no value beyond its
+    // range.
+    _ui->pBMediaPosition->setValue(qMin(static_cast<int>(position()), _ui->pBMediaPosition->maximum()));
+    _ui->pBMediaPosition->setFormat(positionFormat(position(), _mediaPlayer->duration()));
 }
 
 void VideoWidget::seekableChanged(bool seekable) {
@@ -207,6 +250,24 @@ void VideoWidget::playbackRateChanged(double rate) {
 void VideoWidget::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
     readFrameRate();
     showStatus(tr("Status: %1").arg(mediaStatusToString(status)));
+    // The end is handled queued, as frames are on their way and the player is still ending.
+    if (status == QMediaPlayer::InvalidMedia)
+        _isSeeking = false;
+    else if (status == QMediaPlayer::EndOfMedia)
+        QMetaObject::invokeMethod(this, &VideoWidget::stayAtEnd, Qt::QueuedConnection);
+}
+
+// A stopped player shows nothing of what it is sent to, so it waits at the last picture, or at the start
+// where the container leads behind that again.
+void VideoWidget::stayAtEnd() {
+    if (_mediaPlayer->mediaStatus() != QMediaPlayer::EndOfMedia || !_frame.isValid() || _endings > 1)
+        return;
+    const int endings = _endings + 1;
+    seek(endings == 1 ? positionOfFrame(_frame.startTime()) : 0);
+    _mediaPlayer->pause();
+    _isSeeking = false;
+    _endings = endings;
+    showPicture(_frame);
 }
 
 void VideoWidget::readFrameRate() {
@@ -259,39 +320,88 @@ void VideoWidget::showStatus(const QString& text) {
 
 // --- seeking -------------------------------------------------------------------------------------
 
+// The place that the window shows.
+qint64 VideoWidget::position() const {
+    return _isStepped ? positionOfFrame(_frame.startTime()) : _mediaPlayer->position();
+}
+
+void VideoWidget::seek(qint64 position) {
+    _stepper->cancel();
+    _waitingSteps = 0;
+    _isStepped = false;
+    _isSeeking = true;
+    _endings = 0;
+    _mediaPlayer->setPosition(position);
+}
+
 void VideoWidget::onFrameNext() {
-    if (_mediaPlayer->position() <= _mediaPlayer->duration())
+    if (position() <= _mediaPlayer->duration())
         stepFrames(1);
 }
 
 void VideoWidget::onFramePrev() {
-    if (_mediaPlayer->position() > 0)
+    if (position() > 0)
         stepFrames(-1);
 }
 
 void VideoWidget::stepFrames(int direction) {
     const bool shiftHeld = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
     const double step = frameStep(_fps, _seekSpeedModifier, shiftHeld);
-    _mediaPlayer->setPosition(steppedPosition(_mediaPlayer->position(), direction * step));
+    seek(steppedPosition(position(), direction * step));
 }
 
 void VideoWidget::onPositionChanged() {
-    _mediaPlayer->setPosition(_ui->pBMediaPosition->value());
+    seek(_ui->pBMediaPosition->value());
 }
 
 void VideoWidget::keyReleaseEvent(QKeyEvent* event) {
     _seekSpeedModifier = speedModifierOfKey(event->key()).value_or(_seekSpeedModifier);
     if (const auto position = positionOfKey(event->key(), _mediaPlayer->duration()))
-        _mediaPlayer->setPosition(*position);
+        seek(*position);
     QMainWindow::keyReleaseEvent(event);
 }
 
 void VideoWidget::wheelEvent(QWheelEvent* event) {
     const int factor = wheelSpeedFactor(event->modifiers());
     const double step = event->angleDelta().y() < 0 ? -factor * _fps : factor * _fps;
-    _mediaPlayer->setPosition(steppedPosition(_mediaPlayer->position(), step));
+    seek(steppedPosition(position(), step));
     showStatus(tr("Seek speed modifier: %1 at fps: %2").arg(factor).arg(_fps));
     QMainWindow::wheelEvent(event);
+}
+
+// --- single pictures -----------------------------------------------------------------------------
+
+void VideoWidget::stepPicture(bool forward) {
+    _mediaPlayer->pause();
+    if (_isSeeking)
+        _waitingSteps += forward ? 1 : -1;
+    else if (_frame.isValid())
+        _stepper->step(_frame.startTime(), forward);
+    else
+        showStatus(tr("No frame is shown."));
+}
+
+void VideoWidget::onFrameShown() {
+    QVideoSink* sink = _ui->videoWidget->videoSink();
+    const QVideoFrame frame = sink->videoFrame();
+    if (_isStepped || !frame.isValid()) {
+        // The player delivers what it was asked for before, or nothing from behind the last picture.
+        if (_frame.isValid() && frame != _frame)
+            sink->setVideoFrame(_frame);
+        return;
+    }
+    _frame = frame;
+    _isSeeking = false;
+    const int steps = std::exchange(_waitingSteps, 0);
+    for (int step = 0; step < qAbs(steps); ++step)
+        _stepper->step(frame.startTime(), steps > 0);
+}
+
+void VideoWidget::showPicture(const QVideoFrame& frame) {
+    _isStepped = true;
+    _frame = frame;
+    _ui->videoWidget->videoSink()->setVideoFrame(frame);
+    showPosition();
 }
 
 void VideoWidget::closeEvent(QCloseEvent* event) {

@@ -6,9 +6,11 @@
 #include <QMediaPlayer>
 #include <QString>
 #include <QUrl>
+#include <QVideoFrame>
 
 #include <memory>
 
+class FrameStepper;
 class VideoWidgetFrameGrabber;
 
 namespace Ui {
@@ -27,6 +29,8 @@ public:
     // Opens a path or URL, paused at its start.
     void openFile(const QString& path);
     [[nodiscard]] QString lastOpenPath() const { return _lastOpenPath; }
+    // Status bar text without time-out.
+    void showStatus(const QString& text);
 
 public slots:
     void onPlayPause();
@@ -70,11 +74,27 @@ private:
     void stepFrames(int direction);
     void readFrameRate();
     void ensureLastOpenPath();
-    void showStatus(const QString& text);
+    [[nodiscard]] qint64 position() const;
+    void seek(qint64 position);
+    void showPosition();
+    void onFrameShown();
+    void stayAtEnd();
+    void stepPicture(bool forward);
+    void showPicture(const QVideoFrame& frame);
     VideoWidgetFrameGrabber* makeFrameGrabber();
 
     std::unique_ptr<Ui::VideoWidget> _ui;
     QMediaPlayer* _mediaPlayer = nullptr;
+    FrameStepper* _stepper = nullptr;
+    // The last picture that was shown.
+    QVideoFrame _frame;
+    // The picture was not put there by the player, which is at another place.
+    bool _isStepped = false;
+    // A seek has not brought its picture yet, and steps wait for it; negative ones go back.
+    bool _isSeeking = false;
+    int _waitingSteps = 0;
+    // How often the end was reached since the last seek or step; playing starts over then.
+    int _endings = 0;
     // The playback rate until the media tells its frame rate.
     double _fps = -1.0;
     // Multiplies a frame step; 0 makes it a single millisecond.

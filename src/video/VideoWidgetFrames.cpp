@@ -8,6 +8,8 @@
 
 void VideoWidget::onGrabFrame() {
     const QImage image = _ui->videoWidget->videoSink()->videoFrame().toImage();
+    if (image.isNull())
+        showStatus(tr("No frame to grab."));
     emit imagePic(image, mediaPath(_mediaPlayer->source()));
 }
 
