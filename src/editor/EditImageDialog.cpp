@@ -1,6 +1,7 @@
 #include "editor/EditImageDialog.h"
 
 #include "app/services/PlainText.h"
+#include "app/services/StatusTipFilter.h"
 #include "app/services/Themes.h"
 #include "ui_EditImageDialog.h"
 
@@ -30,6 +31,7 @@ void setQuietly(Control* control, Value value) {
 EditImageDialog::EditImageDialog(QWidget* parent)
     : QMainWindow(parent), _ui(std::make_unique<Ui::EditImageDialog>()) {
     _ui->setupUi(this);
+    keepMessages(this);
     initActions();
     _ui->stackedWidget->hide();
     connect(Themes::instance(), &Themes::themeAccentChanged, this, &EditImageDialog::updateIcons);
