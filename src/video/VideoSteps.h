@@ -35,7 +35,7 @@
 struct SeriesStep {
     enum Kind {
         Seek,
-        // No frame of the series yet: the duration is not known.
+        // The duration is not known.
         Wait,
         EndOfFile
     };

@@ -115,8 +115,8 @@ void VideoWidgetFrameGrabber::grabFramesFromFile(QString fileName) {
     initPlayer();
     _frameCounter = 1;
     _runIsOn = false;
-    // Nothing of the run before is decoded any more.
-    _mediaPlayer->stop();
+    // Nothing of the run before is decoded any more, also when this is the same file.
+    _mediaPlayer->setSource(QUrl());
     _mediaPlayer->setSource(mediaUrl(fileName));
     ++_run;
     _runIsOn = true;
@@ -141,11 +141,14 @@ void VideoWidgetFrameGrabber::startAt(qint64 position) {
     _mediaPlayer->setPosition(position);
 }
 
-void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
+bool VideoWidgetFrameGrabber::isLoaded() const {
     const QMediaPlayer::MediaStatus status = _mediaPlayer->mediaStatus();
-    const bool loaded = status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferingMedia ||
-                        status == QMediaPlayer::BufferedMedia;
-    if (!_startIsPending || !loaded || _mediaPlayer->duration() <= 0)
+    return status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferingMedia ||
+           status == QMediaPlayer::BufferedMedia;
+}
+
+void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
+    if (!_startIsPending || !isLoaded() || _mediaPlayer->duration() <= 0)
         return;
     _startIsPending = false;
     _mediaPlayer->setPosition(_startPosition);
@@ -153,9 +156,11 @@ void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
 
 void VideoWidgetFrameGrabber::onMediaStatusChanged(QMediaPlayer::MediaStatus status) {
     askForStartWhenLoaded();
-    if (!_runIsOn || status != QMediaPlayer::EndOfMedia)
+    // The picture ends before the duration does, or there is only sound. A last frame may have been queued
+    // before this.
+    const bool isWithoutPicture = isLoaded() && !_mediaPlayer->hasVideo();
+    if (!_runIsOn || (status != QMediaPlayer::EndOfMedia && !isWithoutPicture))
         return;
-    // The picture ends before the duration does. A last frame may have been queued before this.
     const auto endThisRun = [this, run = _run] {
         if (_runIsOn && run == _run)
             endOfFile();
@@ -169,7 +174,9 @@ void VideoWidgetFrameGrabber::videoFrameChanged(QVideoFrame frame) {
         return;
     const SeriesStep step = nextSeriesStep(_mediaPlayer->duration(), _ui->sBFrameStart->value(),
                                            _ui->sBFrameNum->value(), _frameCounter + 1);
-    if (step.kind == SeriesStep::Wait)
+    // Media that is loaded and still without a duration has none: its first frame is all.
+    const bool isOnlyFrame = step.kind == SeriesStep::Wait && isLoaded();
+    if (step.kind == SeriesStep::Wait && !isOnlyFrame)
         return;
     addImageItem(frame.toImage());
     ++_frameCounter;

@@ -53,6 +53,7 @@ private:
     void initPlayer();
     void followFramesOfThisRun();
     void startAt(qint64 position);
+    [[nodiscard]] bool isLoaded() const;
     void askForStartWhenLoaded();
     void onMediaStatusChanged(QMediaPlayer::MediaStatus status);
     void endOfFile();
