@@ -4,10 +4,23 @@
 #include "ui_VideoPreviewWidget.h"
 
 #include <QAudioOutput>
+#include <QVideoFrame>
+#include <QVideoSink>
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::seconds kFramePatience{2};
+
+} // namespace
 
 VideoPreviewWidget::VideoPreviewWidget(QWidget* parent)
     : QWidget(parent), _ui(std::make_unique<Ui::VideoPreviewWidget>()) {
     _ui->setupUi(this);
+    _framePatience.setSingleShot(true);
+    _framePatience.setInterval(kFramePatience);
+    connect(&_framePatience, &QTimer::timeout, this, [this] { _mediaPlayer->stop(); });
 }
 
 VideoPreviewWidget::~VideoPreviewWidget() {
@@ -33,12 +46,27 @@ void VideoPreviewWidget::initPlayer() {
     connect(_mediaPlayer, &QMediaPlayer::mediaStatusChanged, this, &VideoPreviewWidget::mediaStatusChanged);
     connect(_mediaPlayer, &QMediaPlayer::playbackStateChanged, this,
             &VideoPreviewWidget::playbackStateChanged);
+    connect(_mediaPlayer, &QMediaPlayer::errorOccurred, this, &VideoPreviewWidget::onError);
+    connect(_ui->videoWidget->videoSink(), &QVideoSink::videoFrameChanged, this, [this] {
+        if (_ui->videoWidget->videoSink()->videoFrame().isValid()) {
+            _hasFrame = true;
+            _framePatience.stop();
+        }
+    });
+}
+
+// A clip that gives errors and no frame would be read from its start again and again.
+void VideoPreviewWidget::onError() {
+    if (!_hasFrame && !_framePatience.isActive())
+        _framePatience.start();
 }
 
 void VideoPreviewWidget::start(const QString& path) {
     _videoPath = path;
     initPlayer();
     _mediaPlayer->setSource(mediaUrl(path));
+    _framePatience.stop();
+    _hasFrame = false;
     _mediaPlayer->setLoops(QMediaPlayer::Infinite);
     _mediaPlayer->play();
 }

@@ -2,6 +2,7 @@
 
 #include <QMediaPlayer>
 #include <QString>
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
@@ -35,9 +36,13 @@ public slots:
 
 private:
     void initPlayer();
+    void onError();
 
     std::unique_ptr<Ui::VideoPreviewWidget> _ui;
     // Made by the first start.
     QMediaPlayer* _mediaPlayer = nullptr;
     QString _videoPath;
+    bool _hasFrame = false;
+    // Runs from the first error until a frame comes.
+    QTimer _framePatience;
 };

@@ -4,48 +4,37 @@
 #include "support/Clips.h"
 
 #include <QAudioOutput>
+#include <QSignalSpy>
 #include <QTest>
 
 class TestVideoPreview : public QObject {
     Q_OBJECT
 
 private slots:
-    void playsSilentLoopAndLetsGo() {
+    void playsSilentLoopsAndStops() {
         VideoPreviewWidget preview;
         auto* bar = preview.findChild<QProgressBar*>("progressBar");
         preview.stop({}); // before any start
-        QVERIFY(!preview.findChild<QMediaPlayer*>());
-
-        const QString path = clipPath("mpeg4.avi");
-        preview.start(path);
+        preview.start(clipPath("h264.mp4"));
+        QTRY_COMPARE(bar->maximum(), 10000);
         const auto* player = preview.findChild<QMediaPlayer*>();
         QCOMPARE(player->audioOutput()->volume(), 0.0F);
-        QTRY_COMPARE(bar->maximum(), 2000);
-        // The clip lasts two seconds; it starts over.
-        bool wentBack = false;
-        connect(player, &QMediaPlayer::positionChanged, this, [&, last = qint64(0)](qint64 position) mutable {
-            wentBack |= position < std::exchange(last, position);
-        });
-        QTRY_VERIFY_WITH_TIMEOUT(wentBack, 20000);
-
-        preview.stop(path + "x");
+        // Half of its pictures are missing, and with each loop it gives an error.
+        const QString path = clipPath("truncated.mp4");
+        preview.start(path);
+        const QSignalSpy errors(player, &QMediaPlayer::errorOccurred);
+        QTRY_VERIFY_WITH_TIMEOUT(errors.size() > 1, 20000);
         QCOMPARE(player->playbackState(), QMediaPlayer::PlayingState);
+        preview.stop(path + "x");
+        QVERIFY(!player->source().isEmpty());
         preview.stop(path.toUpper());
-        QCOMPARE(player->playbackState(), QMediaPlayer::StoppedState);
         QVERIFY(player->source().isEmpty());
-    }
 
-    void switchesVideos() {
-        VideoPreviewWidget preview;
-        preview.start(clipPath("mpeg4.avi"));
-        preview.start(clipPath("h264.mp4"));
-        QTRY_COMPARE(preview.findChild<QProgressBar*>("progressBar")->maximum(), 10000);
-        preview.start({});
-        const auto* player = preview.findChild<QMediaPlayer*>();
-        QVERIFY(player->source().isEmpty());
+        preview.start(clipPath("no-picture.mp4"));
+        QTRY_COMPARE(player->playbackState(), QMediaPlayer::PlayingState);
         QTRY_COMPARE(player->playbackState(), QMediaPlayer::StoppedState);
-        preview.start(clipPath("text.mp4"));
-        QTRY_COMPARE(player->mediaStatus(), QMediaPlayer::InvalidMedia);
+        preview.start({});
+        QVERIFY(player->source().isEmpty());
     }
 
     void seekBarFollowsMouse() {
