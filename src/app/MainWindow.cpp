@@ -4,7 +4,9 @@
 #include "app/services/LogService.h"
 #include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
+#include "app/services/StatusTipFilter.h"
 #include "app/services/Themes.h"
+#include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaFormats.h"
 #include "imaging/EffectList.h"
 #include "imaging/ImageFilterWidgetBase.h"
@@ -20,6 +22,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +54,7 @@ MainWindow::MainWindow(QWidget* parent)
     registerEffectListType();
     raiseImageAllocationLimit();
     ui->setupUi(this);
+    keepMessages(this);
     Settings::instance(this, settingsLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
     LogService::instance()->init({});
@@ -68,6 +73,8 @@ MainWindow::~MainWindow() {
     closeOptions();
     closeToolWindows();
     _recovery->close();
+    // Nothing makes a loader any more, and the log has to outlive its workers.
+    delete std::exchange(_imageLoader, nullptr);
     writeSettings();
     Settings::destroyInstance();
     Themes::destroyInstance();

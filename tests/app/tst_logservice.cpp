@@ -87,9 +87,12 @@ private slots:
             }));
             threads.back()->start();
         }
-        // The files are turned over while the others write.
-        for (int turn = 0; turn < 20; ++turn)
-            LogService::instance()->init({});
+        // The log is turned over, ends and starts while the others write.
+        for (int turn = 0; turn < 20; ++turn) {
+            if (turn % 2 == 0)
+                LogService::destroy();
+            start({});
+        }
         for (const auto& thread : threads)
             QVERIFY(thread->wait(60000));
         const QStringList lines = content("app-current.log").split('\n', Qt::SkipEmptyParts);

@@ -28,6 +28,8 @@ QString logLevelName(int level) {
 } // namespace
 
 std::atomic<LogService*> LogService::_instance = nullptr;
+// Not a member: a thread that is on its way into the handler needs it when the service is gone.
+QBasicMutex LogService::_mutex;
 
 int logLevelFromArguments(const QStringList& arguments) {
     if (arguments.contains("--no-log"_L1))
@@ -52,24 +54,19 @@ LogService* LogService::instance() {
 }
 
 void LogService::destroy() {
+    const QMutexLocker locker(&_mutex);
     LogService* service = _instance;
     if (!service)
         return;
-    {
-        const QMutexLocker locker(&service->_mutex);
-        if (service->_file) {
-            service->_stream.flush();
-            service->_stream.setDevice(nullptr);
-            service->_file->flush();
-            service->_file->close();
-            service->_file.reset();
-        }
+    if (service->_file) {
+        service->_stream.flush();
+        service->_stream.setDevice(nullptr);
+        service->_file->flush();
+        service->_file->close();
+        service->_file.reset();
     }
     qInstallMessageHandler(nullptr);
     _instance = nullptr;
-    // A worker that outlives the window may still stand in the handler; it leaves through the mutex.
-    service->_mutex.lock();
-    service->_mutex.unlock();
     delete service;
 }
 
@@ -145,11 +142,12 @@ void LogService::writeHeader(const QStringList& arguments) {
 }
 
 void LogService::messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    const int requiredLevel = type == QtInfoMsg ? Verbose : Default;
+    const QMutexLocker locker(&_mutex);
     LogService* service = _instance;
+    // A thread was on its way here while the log ended.
     if (!service)
         return;
-    const int requiredLevel = type == QtInfoMsg ? Verbose : Default;
-    const QMutexLocker locker(&service->_mutex);
     if (requiredLevel <= service->_logLevel && service->_stream.device()) {
         service->_stream << qFormatLogMessage(type, context, message) << '\n';
         service->_stream.flush();

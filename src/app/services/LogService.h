@@ -36,13 +36,13 @@ private:
     void report(const char* text, const QString& detail = {}) const;
 
     static std::atomic<LogService*> _instance;
+    // Guards the instance, its stream and its file; not recursive, so nothing may log while it is held.
+    static QBasicMutex _mutex;
 
     QString _logFilePath;
     std::unique_ptr<QFile> _file;
     QTextStream _stream;
     int _logLevel = Default;
-    // Guards the stream and the file; not recursive, so nothing may log while it is held.
-    QMutex _mutex;
     QString _logDirectory;
     QString _applicationName;
     QString _applicationVersion;
