@@ -49,7 +49,8 @@ void MainWindow::onOllamaIpChanged(const QString& txt) {
 }
 
 void MainWindow::ollamaConnectionStatus(bool connected) {
-    ui->pBOllamaGo->setEnabled(connected);
+    // A busy server may answer too late, and during a batch the button is the way to abort.
+    ui->pBOllamaGo->setEnabled(connected || _isOllamaSending);
 }
 
 void MainWindow::onOllamaSendPrompt() {
@@ -89,6 +90,7 @@ void MainWindow::ollamaSendPrompts() {
     onShowMessage(tr("Ollama processing done for %1").arg(_ollamaTotal));
     ui->pBOllamaGo->setText(tr("Send prompt"));
     _isOllamaSending = false;
+    ollamaConnectionStatus(_ollamaApi->isOnline());
 }
 
 void MainWindow::showOllamaProgress(int processed) {

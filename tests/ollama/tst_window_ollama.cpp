@@ -99,6 +99,9 @@ private slots:
             _driver->window().setImageTags(path("a.png"), {"old", "edited"});
             _driver->widget<QPlainTextEdit>("pTEPromptUser")->setPlainText("Anew");
             _driver->widget<QComboBox>("cBOllamaModels")->setCurrentIndex(0);
+            _peer->setAnswers("/api/version", {{{}, OllamaPeer::Closing}});
+            _driver->click("tBOllamaReconect");
+            QVERIFY(_driver->widget<QPushButton>("pBOllamaGo")->isEnabled());
             _driver->select({"f.png"});
             _peer->release();
         });
@@ -110,6 +113,7 @@ private slots:
         QCOMPARE(WindowDriver::logCount("Error, unable to open file:"), 1);
         QCOMPARE(WindowDriver::logCount("Error, image is null for:"), 3);
         QCOMPARE(_driver->widget<QPushButton>("pBOllamaGo")->text(), QString("Send prompt"));
+        QVERIFY(!_driver->widget<QPushButton>("pBOllamaGo")->isEnabled());
         QCOMPARE(responses(), QStringList({"<time>",
                                            "one, two,,three",
                                            "<time>",
