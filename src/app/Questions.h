@@ -1,7 +1,19 @@
 #pragma once
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QString>
+
+// Texts with paths, whose "<" and "&" mean themselves.
+inline void setPlainTexts(QMessageBox& box, const QString& text, const QString& informativeText = {}) {
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setInformativeText(informativeText);
+    // The format of the box is that of its first text alone.
+    const QList<QLabel*> labels = box.findChildren<QLabel*>();
+    for (QLabel* label : labels)
+        label->setTextFormat(Qt::PlainText);
+}
 
 // A modal question; the given default button is the harmless answer.
 [[nodiscard]] inline QMessageBox::StandardButton askUser(QWidget* parent, const QString& text,
@@ -9,9 +21,7 @@
                                                          QMessageBox::StandardButtons buttons,
                                                          QMessageBox::StandardButton defaultButton) {
     QMessageBox box(parent);
-    box.setText(text);
-    box.setInformativeText(informativeText);
-    box.setTextFormat(Qt::PlainText);
+    setPlainTexts(box, text, informativeText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(defaultButton);
     return static_cast<QMessageBox::StandardButton>(box.exec());
@@ -26,7 +36,6 @@
 // A modal message with an OK button.
 inline void tellUser(QWidget* parent, const QString& text) {
     QMessageBox box(parent);
-    box.setText(text);
-    box.setTextFormat(Qt::PlainText);
+    setPlainTexts(box, text);
     box.exec();
 }

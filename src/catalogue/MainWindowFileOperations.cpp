@@ -237,7 +237,8 @@ void MainWindow::openInNativeApp() {
     if (!wantsToOpenMany(files.size()))
         return;
     for (const QString& path : files)
-        QDesktopServices::openUrl(QUrl::fromUserInput(path));
+        if (!QDesktopServices::openUrl(QUrl::fromUserInput(path)))
+            onShowMessage(tr("Error, no application to open file: %1").arg(path));
 }
 
 void MainWindow::showPathInFileBrowser() {

@@ -82,8 +82,10 @@ private slots:
 
     void warnsWithoutFileManager() {
         const ModalAnswer answer(QMessageBox::Ok);
-        Utils::instance()->revealInFileBrowser("/gone/a.txt", true, nullptr);
-        QTRY_COMPARE(answer.text(), "Could not find explorer.exe in path to launch Windows Explorer.");
+        const MediaFolder folder;
+        Utils::instance()->revealInFileBrowser(folder.addFile("<b>&c/a.txt"), true, nullptr);
+        QTRY_COMPARE(answer.text(),
+                     "Could not find a file manager to show " + folder.filePath("<b>&c") + '.');
     }
 
     void asksFileManager() {

@@ -23,17 +23,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void warnWithoutFileManager(QWidget* parent) {
-    QMessageBox::warning(parent, Utils::tr("Launching Windows Explorer Failed"),
-                         Utils::tr("Could not find explorer.exe in path to launch Windows Explorer."),
-                         QMessageBox::Ok);
+void warn(QWidget* parent, const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Warning, title, {}, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.exec();
 }
 
 void openFolderOf(const QString& path, QWidget* parent) {
     const QFileInfo info(path);
     const QString folder = info.isDir() ? info.absoluteFilePath() : info.absolutePath();
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
-        warnWithoutFileManager(parent);
+        warn(parent, Utils::tr("No file manager"),
+             Utils::tr("Could not find a file manager to show %1.").arg(folder));
 }
 
 QDBusMessage fileManagerCall(const QString& path) {
@@ -124,7 +126,8 @@ void Utils::revealInFileBrowser(const QString& path, bool resolveExisting, QWidg
 void Utils::showInExplorer(const QString& path, QWidget* parent) {
     const QString explorer = findInPath(u"explorer.exe"_s);
     if (explorer.isEmpty()) {
-        warnWithoutFileManager(parent);
+        warn(parent, tr("Launching Windows Explorer Failed"),
+             tr("Could not find explorer.exe in path to launch Windows Explorer."));
         return;
     }
     QStringList arguments;
