@@ -174,9 +174,12 @@ void ImageLoaderThreaded::onVideoImageLoaded(const QString& videoFilePath, const
     }
     // A slot may stop the load, which takes the loader along.
     const QPointer<VideoImageLoader> guard(loader);
+    const auto isStopped = [this, &guard] { return !guard || !_videoThreads.contains(guard.get()); };
     emit loadedImage(videoFilePath, frame);
+    if (isStopped())
+        return;
     emit loadedVideoImageMeta(videoFilePath, loader->videoMeta());
-    if (!guard || !_videoThreads.contains(loader))
+    if (isStopped())
         return;
     loader->setRunning(false);
     processQueue();

