@@ -133,6 +133,5 @@ void MainWindow::showBlockingMessage(const QString& msg) {
 }
 
 void MainWindow::showBlockingProgress(const QString& text) {
-    _statusPanel->showProgress(text);
-    _statusPanel->repaintNow();
+    _statusPanel->showBlockingProgress(text);
 }

@@ -50,6 +50,8 @@ StatusPanel::StatusPanel(QWidget* parent) : QWidget(parent), _unsavedMenu(new QM
     _unsavedCount = addButton(u"tBUnsavedCount"_s, tr("Unsaved files"));
     _unsavedCount->setMenu(_unsavedMenu);
     _unsavedCount->setPopupMode(QToolButton::InstantPopup);
+    // The views above keep their height when the first button shows.
+    setMinimumHeight(_shownCount->sizeHint().height());
     connect(_shownCount, &QToolButton::clicked, this, &StatusPanel::showAllRequested);
     connect(_progress, &QToolButton::clicked, this, &StatusPanel::progressClicked);
     connect(_lastResult, &QToolButton::clicked, this, [this] {
@@ -106,6 +108,19 @@ void StatusPanel::fillUnsavedMenu(const Unsaved& unsaved) {
 }
 
 void StatusPanel::showProgress(const QString& text) {
+    _progressText = text;
+    updateProgress();
+}
+
+void StatusPanel::showBlockingProgress(const QString& text) {
+    _blockingText = text;
+    updateProgress();
+    if (!text.isEmpty())
+        repaintNow();
+}
+
+void StatusPanel::updateProgress() {
+    const QString& text = _blockingText.isEmpty() ? _progressText : _blockingText;
     _progress->setText(text);
     _progress->setVisible(!text.isEmpty());
 }

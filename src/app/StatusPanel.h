@@ -39,8 +39,11 @@ public:
     // Hidden files by reason, a line each.
     void showCounts(int shown, int total, const QStringList& reasons);
     void showUnsaved(const Unsaved& unsaved);
-    // Empty without a batch.
+    // How far a batch is that leaves the window alive; empty without one.
     void showProgress(const QString& text);
+    // How far an operation is that blocks the window, in place of the above until it is empty again. Painted
+    // at once.
+    void showBlockingProgress(const QString& text);
     void showResult(const OperationResult& result);
 
     // Paints the window of the panel's status bar in the middle of a blocking loop, at most 20 times a
@@ -59,6 +62,7 @@ signals:
 
 private:
     QToolButton* addButton(const QString& name, const QString& accessibleName);
+    void updateProgress();
     void fillUnsavedMenu(const Unsaved& unsaved);
 
     QToolButton* _shownCount;
@@ -66,6 +70,8 @@ private:
     QToolButton* _progress;
     QToolButton* _lastResult;
     QMenu* _unsavedMenu;
+    QString _progressText;
+    QString _blockingText;
     QStringList _failures;
     QElapsedTimer _sinceRepaint;
 };

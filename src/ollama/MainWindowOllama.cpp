@@ -1,12 +1,15 @@
 #include "app/MainWindow.h"
 
+#include "app/StatusPanel.h"
 #include "ollama/OllamaApi.h"
 #include "ollama/PromptImage.h"
+#include "ollama/PromptProgress.h"
 #include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
 #include <QDateTime>
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QPointer>
 
@@ -77,16 +80,28 @@ void MainWindow::ollamaSendPrompts() {
     const QPointer<MainWindow> self(this);
     _isOllamaSending = true;
     int processed = 0;
+    QList<qint64> answerTimes;
+    const auto showInPanel = [&](qsizetype underWay) {
+        const qsizetype done = _ollamaTotal - ollamaQueue.size() - underWay;
+        _statusPanel->showProgress(promptProgressText(done, _ollamaTotal, answerTimes));
+    };
     showOllamaProgress(processed);
     while (!ollamaQueue.isEmpty()) {
         const QString imgFilePath = ollamaQueue.takeFirst();
+        showInPanel(1);
+        QElapsedTimer timer;
+        timer.start();
         qDebug() << "in for loop ollamaQueue size:" << ollamaQueue.size() << "imgFilePath:" << imgFilePath;
         const bool isSent = ollamaSendPrompt(imgFilePath);
         if (!self)
             return;
-        if (isSent)
+        if (isSent) {
+            answerTimes.append(timer.elapsed());
             showOllamaProgress(++processed);
+        }
+        showInPanel(0);
     }
+    _statusPanel->showProgress({});
     onShowMessage(tr("Ollama processing done for %1").arg(_ollamaTotal));
     ui->pBOllamaGo->setText(tr("Send prompt"));
     _isOllamaSending = false;

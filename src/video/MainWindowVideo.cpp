@@ -1,7 +1,8 @@
 #include "app/MainWindow.h"
 
+#include "app/WindowPlace.h"
+#include "app/services/FileFailure.h"
 #include "app/services/ImageFile.h"
-#include "app/services/Settings.h"
 #include "app/services/SettingsKeys.h"
 #include "ui_MainWindow.h"
 #include "video/VideoTexts.h"
@@ -19,20 +20,8 @@ constexpr int frameQuality = 99;
 
 VideoWidget* MainWindow::showEditVideoWidget() {
     auto* window = new VideoWidget(this);
-    const Settings* settings = Settings::instance();
-    const QByteArray geometry = settings->data(keys::videoWidgetGeometry).toByteArray();
-    if (!geometry.isEmpty() && !window->restoreGeometry(geometry))
-        qDebug() << "Error, unable to restore geometry for:" << window;
-    const QByteArray state = settings->data(keys::videoWidgetState).toByteArray();
-    if (!state.isEmpty() && !window->restoreState(state))
-        qDebug() << "Error, unable to restore state for:" << window;
+    keepWindowPlace(window, keys::videoWidgetGeometry, keys::videoWidgetState);
     connect(window, &VideoWidget::imagePic, this, &MainWindow::onVideoPicCaptured);
-    connect(window, &VideoWidget::widgetGeometry, this, [](const QByteArray& saved) {
-        Settings::instance()->setData(keys::videoWidgetGeometry, saved, true);
-    });
-    connect(window, &VideoWidget::widgetState, this, [](const QByteArray& saved) {
-        Settings::instance()->setData(keys::videoWidgetState, saved, true);
-    });
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->show();
     return window;
@@ -61,13 +50,15 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
     const auto openedDirectory = window ? std::optional(window->lastOpenPath()) : std::nullopt;
     const QString path = grabbedFrameFilePath(
         directory, grabbedFrameBaseName(fileName, openedDirectory, QDateTime::currentDateTime()));
-    if (!writeImageFile(img, path, {.format = frameFormat, .quality = frameQuality})) {
+    if (QString error; !writeImageFile(img, path, {.format = frameFormat, .quality = frameQuality}, &error)) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
+        showResult(tr("grabbed"), 0, 1, {fileFailure(path, error)});
         answer(tr("Error, unable to save file to: %1").arg(path));
         return;
     }
     answer(tr("Saved frame to: %1").arg(path));
+    showResult(tr("grabbed"), 1, 1, {});
     addFileItem(path);
     reloadFile(path);
 }

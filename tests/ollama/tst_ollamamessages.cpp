@@ -1,5 +1,6 @@
 #include "ollama/OllamaMessages.h"
 #include "ollama/PromptImage.h"
+#include "ollama/PromptProgress.h"
 #include "support/Rows.h"
 
 class TestOllamaMessages : public QObject {
@@ -81,6 +82,16 @@ private slots:
         const auto& [size, keep, scaled] = row<QSize, bool, QSize>();
         QCOMPARE(scaledPromptImage(QImage(64, 32, QImage::Format_RGB32), size, keep).size(), scaled);
         QVERIFY(scaledPromptImage({}, size, keep).isNull());
+    }
+
+    void progressNamesTheTimeLeft() {
+        QCOMPARE(promptProgressText(0, 40, {}), QString("captions 0/40"));
+        QCOMPARE(promptProgressText(3, 40, {900000, 1000, 2000}), QString("captions 3/40, 3 h left"));
+        // The mean is that of the last ten.
+        QCOMPARE(promptProgressText(11, 41, QList<qint64>{900000} + QList<qint64>(10, 4000)),
+                 QString("captions 11/41, 2 min left"));
+        QCOMPARE(promptProgressText(39, 40, {1500}), QString("captions 39/40, 2 s left"));
+        QCOMPARE(promptProgressText(40, 40, {1500}), QString("captions 40/40"));
     }
 };
 
