@@ -3,7 +3,6 @@
 #include "app/services/ImageFile.h"
 #include "app/services/LogService.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "app/services/StatusTipFilter.h"
 #include "app/services/Themes.h"
 #include "catalogue/ImageLoaderThreaded.h"
@@ -133,9 +132,9 @@ void MainWindow::initActions() {
 void MainWindow::initThemes() {
     Themes* themes = Themes::instance(this);
     connect(themes, &Themes::themeChanged, this,
-            [](Themes::Theme theme) { Settings::instance()->setData(keys::appTheme, int(theme), true); });
+            [](Themes::Theme theme) { Settings::instance()->set(keys::appTheme, int(theme)); });
     connect(themes, &Themes::themeAccentChanged, this, &MainWindow::updateThemeIcons);
-    const auto theme = static_cast<Themes::Theme>(Settings::instance()->data(keys::appTheme, 0).toInt());
+    const auto theme = static_cast<Themes::Theme>(Settings::instance()->get(keys::appTheme));
     ui->menu_Themes->addActions(themes->themeActions(theme));
     updateThemeIcons(themes->isDarkTheme());
 }

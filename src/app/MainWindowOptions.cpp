@@ -2,17 +2,10 @@
 
 #include "app/OptionsDialog.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
-
-namespace {
-
-constexpr QSize defaultOptionsClosedGridSize(240, 240);
-
-} // namespace
 
 void MainWindow::initOptionsConnections() {
     connect(ui->action_Options, &QAction::triggered, this, &MainWindow::onOptions);
@@ -28,13 +21,13 @@ void MainWindow::onOptions() {
 void MainWindow::onOptionsClosed() {
     qDebug() << "MainWindow::onOptionsClosed";
     const Settings* settings = Settings::instance();
-    const QSize gridSize = settings->data(keys::gridSizeListView, defaultOptionsClosedGridSize).toSize();
+    const QSize gridSize = settings->get(keys::gridSizeListView);
     if (gridSize != ui->listView->gridSize()) {
         ui->listView->setGridSize(gridSize);
         openWorkingDirectory(ui->lEWorkingPath->text());
     }
     if (_imageLoader)
-        _imageLoader->setImageThreadCount(settings->data(keys::imagePreviewThreadCount, 4).toInt());
+        _imageLoader->setImageThreadCount(settings->get(keys::imagePreviewThreadCount));
 }
 
 // A dialog that still runs when the window goes must not start a scan any more.

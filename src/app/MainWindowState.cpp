@@ -1,7 +1,6 @@
 #include "app/MainWindow.h"
 
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/ViewSetup.h"
 #include "imaging/Profiles.h"
 #include "ui_MainWindow.h"
@@ -12,62 +11,136 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto defaultOllamaUrl = "http://127.0.0.1:11434/"_L1;
+// A value that is kept between runs: how it comes back, and how it is stored.
+struct KeptValue {
+    std::function<void(const Settings&)> read;
+    std::function<void(Settings&)> write;
+};
+
+template <typename T, typename Restore, typename Current>
+KeptValue kept(const Setting<T>& setting, Restore restore, Current current) {
+    return {[=](const Settings& settings) { restore(settings.get(setting)); },
+            [=](Settings& settings) { settings.set(setting, current()); }};
+}
+
+// A spin box or a slider.
+template <typename Box>
+KeptValue keptNumber(const Setting<int>& setting, Box* box) {
+    return kept(setting, [box](int value) { box->setValue(value); }, [box] { return box->value(); });
+}
+
+// The current entry of a combo box, tab widget or stack.
+template <typename Widget>
+KeptValue keptIndex(const Setting<int>& setting, Widget* widget) {
+    return kept(
+        setting, [widget](int index) { widget->setCurrentIndex(index); },
+        [widget] { return widget->currentIndex(); });
+}
+
+KeptValue kept(const Setting<bool>& setting, QCheckBox* box) {
+    return kept(setting, [box](bool on) { box->setChecked(on); }, [box] { return box->isChecked(); });
+}
+
+KeptValue kept(const Setting<QString>& setting, QLineEdit* edit) {
+    return kept(
+        setting, [edit](const QString& text) { edit->setText(text); }, [edit] { return edit->text(); });
+}
 
 // An empty stored prompt leaves the text of the form.
-void restorePrompt(QPlainTextEdit* edit, const QString& prompt) {
-    if (!prompt.isEmpty())
-        edit->setPlainText(prompt);
+KeptValue keptPrompt(const Setting<QString>& setting, QPlainTextEdit* edit) {
+    return kept(
+        setting,
+        [edit](const QString& prompt) {
+            if (!prompt.isEmpty())
+                edit->setPlainText(prompt);
+        },
+        [edit] { return edit->toPlainText(); });
+}
+
+KeptValue kept(const Setting<QByteArray>& setting, QSplitter* splitter) {
+    return kept(
+        setting, [splitter](const QByteArray& state) { splitter->restoreState(state); },
+        [splitter] { return splitter->saveState(); });
+}
+
+KeptValue kept(const Setting<QByteArray>& setting, QHeaderView* header, const char* failure = nullptr) {
+    return kept(
+        setting,
+        [=](const QByteArray& state) {
+            if (!restoreHeader(header, state) && failure)
+                qDebug() << failure;
+        },
+        [header] { return header->saveState(); });
+}
+
+void restoreProfiles(const QByteArray& stream) {
+    Profiles* profiles = Profiles::instance();
+    profiles->restore(stream);
+    if (profiles->isEmpty())
+        profiles->addProfile(profiles->uniqueProfile(u"Default"_s));
+}
+
+// The widgets' values in the order in which they are restored and stored.
+QList<KeptValue> keptWidgetValues(const Ui::MainWindow& ui, QString& lastOpenPathSafetensors) {
+    EditImageWidget* view = ui.imgWidget;
+    QListView* list = ui.listView;
+    return {
+        keptNumber(keys::ollamaScaleResW, ui.sBOllamaScaleResW),
+        keptNumber(keys::ollamaScaleResH, ui.sBOllamaScaleResH),
+        kept(keys::ollamaScaleKeepAspectRatio, ui.cBOllamaScaleKeepAspectRatio),
+        kept(keys::workingPath, ui.lEWorkingPath),
+        kept(keys::workingDirScanRecursive, ui.cBWorkingDirScanRecursive),
+        keptIndex(keys::currentToolsTabIndex, ui.tWTools),
+        keptIndex(keys::resizeSrcAspectRatio, ui.cBResizeSrcAspectRatio),
+        keptNumber(keys::resizeImgWriteQuality, ui.hSResizeImgWriteQuality),
+        keptIndex(keys::resizeSrcTransformationType, ui.cBResizeSrcTransformationType),
+        keptPrompt(keys::promptSystem, ui.pTEPromptSystem),
+        keptPrompt(keys::promptUser, ui.pTEPromptUser),
+        kept(keys::splitterTagsUpperState, ui.splitterTagsUpper),
+        kept(keys::splitterTagsLowerState, ui.splitterTagsLower),
+        kept(keys::splitterOllamaUpper, ui.splitterOllamaUpper),
+        kept(keys::splitterOllamaLower, ui.splitterOllamaLower),
+        kept(keys::ollamaIp, ui.lEOllamaIp),
+        kept(
+            keys::lastOpenPathSafetensors,
+            [&lastOpenPathSafetensors](const QString& path) { lastOpenPathSafetensors = path; },
+            [&lastOpenPathSafetensors] { return lastOpenPathSafetensors; }),
+        kept(keys::ollamaAddTags, ui.cBOllamaAddTags),
+        kept(keys::ollamaTagsSplitTag, ui.lETagsSplitTag),
+        kept(
+            keys::toolCutOutlineWidth, [view](int width) { view->setCutOutlineWidth(width); },
+            [view] { return view->cutOutlineWidth(); }),
+        kept(keys::scaleDirOutput, ui.lEScaleDirOutput),
+        kept(keys::filterProfiles, restoreProfiles, [] { return Profiles::instance()->save(); }),
+        keptIndex(keys::viewIdx, ui.stackedWidget),
+        kept(keys::treeViewHeaderState, ui.treeView->header(),
+             "Error, unable to restore tree view header state"),
+        kept(keys::tableViewHorizontalHeaderState, ui.tableView->horizontalHeader()),
+        kept(
+            keys::listViewViewMode,
+            [list](int mode) {
+                setStaticViewMode(list,
+                                  mode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
+            },
+            [list] { return int(list->viewMode()); }),
+    };
 }
 
 } // namespace
 
 void MainWindow::readSettings() {
-    const Settings* settings = Settings::instance();
-    const bool hasGeometry = restoreGeometry(settings->data(keys::appGeometry).toByteArray());
-    if (!restoreState(settings->data(keys::appState).toByteArray()))
+    const Settings& settings = *Settings::instance();
+    const bool hasGeometry = restoreGeometry(settings.get(keys::appGeometry));
+    if (!restoreState(settings.get(keys::appState)))
         makeRoomForTools(!hasGeometry);
-    ui->sBOllamaScaleResW->setValue(settings->data(keys::ollamaScaleResW, -1).toInt());
-    ui->sBOllamaScaleResH->setValue(settings->data(keys::ollamaScaleResH, -1).toInt());
-    ui->cBOllamaScaleKeepAspectRatio->setChecked(
-        settings->data(keys::ollamaScaleKeepAspectRatio, true).toBool());
-    ui->lEWorkingPath->setText(settings->data(keys::workingPath, QString()).toString());
-    ui->cBWorkingDirScanRecursive->setChecked(settings->data(keys::workingDirScanRecursive, false).toBool());
-    ui->tWTools->setCurrentIndex(settings->data(keys::currentToolsTabIndex, 0).toInt());
-    ui->cBResizeSrcAspectRatio->setCurrentIndex(settings->data(keys::resizeSrcAspectRatio, 1).toInt());
-    ui->hSResizeImgWriteQuality->setValue(settings->data(keys::resizeImgWriteQuality, 100).toInt());
-    ui->cBResizeSrcTransformationType->setCurrentIndex(
-        settings->data(keys::resizeSrcTransformationType, 1).toInt());
-    restorePrompt(ui->pTEPromptSystem, settings->data(keys::promptSystem).toString());
-    restorePrompt(ui->pTEPromptUser, settings->data(keys::promptUser).toString());
-    ui->splitterTagsUpper->restoreState(settings->data(keys::splitterTagsUpperState).toByteArray());
-    ui->splitterTagsLower->restoreState(settings->data(keys::splitterTagsLowerState).toByteArray());
-    ui->splitterOllamaUpper->restoreState(settings->data(keys::splitterOllamaUpper).toByteArray());
-    ui->splitterOllamaLower->restoreState(settings->data(keys::splitterOllamaLower).toByteArray());
-    ui->lEOllamaIp->setText(
-        QString::fromUtf8(settings->data(keys::ollamaIp, QString(defaultOllamaUrl)).toByteArray()));
-    _lastOpenPathSafetensors = settings->data(keys::lastOpenPathSafetensors).toString();
-    ui->cBOllamaAddTags->setChecked(settings->data(keys::ollamaAddTags, true).toBool());
-    ui->lETagsSplitTag->setText(settings->data(keys::ollamaTagsSplitTag, u","_s).toString());
-    ui->imgWidget->setCutOutlineWidth(settings->data(keys::toolCutOutlineWidth, 8).toInt());
-    ui->lEScaleDirOutput->setText(settings->data(keys::scaleDirOutput, u"./scaled"_s).toString());
-    Profiles* profiles = Profiles::instance();
-    profiles->restore(settings->data(keys::filterProfiles).toByteArray());
-    if (profiles->isEmpty())
-        profiles->addProfile(profiles->uniqueProfile(u"Default"_s));
-    ui->stackedWidget->setCurrentIndex(settings->data(keys::viewIdx, 0).toInt());
-    if (!restoreHeader(ui->treeView->header(), settings->data(keys::treeViewHeaderState).toByteArray()))
-        qDebug() << "Error, unable to restore tree view header state";
-    restoreHeader(ui->tableView->horizontalHeader(),
-                  settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
-    const int viewMode = settings->data(keys::listViewViewMode, int(QListView::IconMode)).toInt();
-    setStaticViewMode(ui->listView,
-                      viewMode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
+    for (const KeptValue& value : keptWidgetValues(*ui, _lastOpenPathSafetensors))
+        value.read(settings);
 }
 
 // A first start shows all tabs and the largest page whole, as far as the screen has room. Tab widget and
@@ -88,33 +161,9 @@ void MainWindow::makeRoomForTools(bool mayResize) {
 
 void MainWindow::writeSettings() {
     onFilterProfilesCurrentAboutToChange();
-    Settings* settings = Settings::instance();
-    settings->setData(keys::appGeometry, saveGeometry());
-    settings->setData(keys::appState, saveState());
-    settings->setData(keys::ollamaScaleResW, ui->sBOllamaScaleResW->value());
-    settings->setData(keys::ollamaScaleResH, ui->sBOllamaScaleResH->value());
-    settings->setData(keys::ollamaScaleKeepAspectRatio, ui->cBOllamaScaleKeepAspectRatio->isChecked());
-    settings->setData(keys::workingPath, ui->lEWorkingPath->text());
-    settings->setData(keys::workingDirScanRecursive, ui->cBWorkingDirScanRecursive->isChecked());
-    settings->setData(keys::currentToolsTabIndex, ui->tWTools->currentIndex());
-    settings->setData(keys::resizeSrcAspectRatio, ui->cBResizeSrcAspectRatio->currentIndex());
-    settings->setData(keys::resizeImgWriteQuality, ui->hSResizeImgWriteQuality->value());
-    settings->setData(keys::resizeSrcTransformationType, ui->cBResizeSrcTransformationType->currentIndex());
-    settings->setData(keys::promptSystem, ui->pTEPromptSystem->toPlainText());
-    settings->setData(keys::promptUser, ui->pTEPromptUser->toPlainText());
-    settings->setData(keys::splitterTagsUpperState, ui->splitterTagsUpper->saveState());
-    settings->setData(keys::splitterTagsLowerState, ui->splitterTagsLower->saveState());
-    settings->setData(keys::splitterOllamaUpper, ui->splitterOllamaUpper->saveState());
-    settings->setData(keys::splitterOllamaLower, ui->splitterOllamaLower->saveState());
-    settings->setData(keys::ollamaIp, ui->lEOllamaIp->text());
-    settings->setData(keys::lastOpenPathSafetensors, _lastOpenPathSafetensors);
-    settings->setData(keys::ollamaAddTags, ui->cBOllamaAddTags->isChecked());
-    settings->setData(keys::ollamaTagsSplitTag, ui->lETagsSplitTag->text());
-    settings->setData(keys::toolCutOutlineWidth, ui->imgWidget->cutOutlineWidth());
-    settings->setData(keys::scaleDirOutput, ui->lEScaleDirOutput->text());
-    settings->setData(keys::filterProfiles, Profiles::instance()->save());
-    settings->setData(keys::viewIdx, ui->stackedWidget->currentIndex());
-    settings->setData(keys::treeViewHeaderState, ui->treeView->header()->saveState());
-    settings->setData(keys::tableViewHorizontalHeaderState, ui->tableView->horizontalHeader()->saveState());
-    settings->setData(keys::listViewViewMode, int(ui->listView->viewMode()));
+    Settings& settings = *Settings::instance();
+    settings.set(keys::appGeometry, saveGeometry());
+    settings.set(keys::appState, saveState());
+    for (const KeptValue& value : keptWidgetValues(*ui, _lastOpenPathSafetensors))
+        value.write(settings);
 }

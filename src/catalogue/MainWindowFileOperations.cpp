@@ -4,7 +4,6 @@
 #include "app/WaitCursor.h"
 #include "app/services/FileFailure.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "app/services/Trash.h"
 #include "app/services/Utils.h"
 #include "catalogue/FileNaming.h"
@@ -181,8 +180,8 @@ void MainWindow::importFiles() {
     if (sources.isEmpty())
         return;
     _workingPath = QFileInfo(sources.first()).path();
-    const bool deleteSource = Settings::instance()->data(keys::importFilesDeleteSrc, false).toBool();
-    const bool autoRename = Settings::instance()->data(keys::importFilesAutoRename, false).toBool();
+    const bool deleteSource = Settings::instance()->get(keys::importFilesDeleteSrc);
+    const bool autoRename = Settings::instance()->get(keys::importFilesAutoRename);
     const WaitCursor waitCursor;
     QStringList failures;
     qsizetype done = 0;

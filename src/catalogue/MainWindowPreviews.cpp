@@ -1,7 +1,6 @@
 #include "app/MainWindow.h"
 
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/VideoMeta.h"
@@ -38,8 +37,7 @@ MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size
         connect(_imageLoader, &ImageLoaderThreaded::loadedVideoImageMeta, this,
                 &MainWindow::onItemVideoImageMetaLoaded);
         connect(_imageLoader, &ImageLoaderThreaded::showMessage, this, &MainWindow::onShowMessage);
-        _imageLoader->setImageThreadCount(
-            Settings::instance()->data(keys::imagePreviewThreadCount, 4).toInt());
+        _imageLoader->setImageThreadCount(Settings::instance()->get(keys::imagePreviewThreadCount));
         _imageLoader->setPreviewSize(size);
     }
     _imageLoader->enqueue(filePath, false);

@@ -3,7 +3,6 @@
 #include "app/Questions.h"
 #include "app/WaitCursor.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
@@ -86,9 +85,8 @@ void MainWindow::clearItemModel() {
                             tr("AudioCodec"), tr("VideoBitRate"), tr("VideoCodec"), tr("VideoFrameRate"),
                             tr("Comment"), tr("Suffix"), tr("Has txt file")});
     const Settings* settings = Settings::instance();
-    restoreHeader(ui->treeView->header(), settings->data(keys::treeViewHeaderState).toByteArray());
-    restoreHeader(ui->tableView->horizontalHeader(),
-                  settings->data(keys::tableViewHorizontalHeaderState).toByteArray());
+    restoreHeader(ui->treeView->header(), settings->get(keys::treeViewHeaderState));
+    restoreHeader(ui->tableView->horizontalHeader(), settings->get(keys::tableViewHorizontalHeaderState));
 }
 
 void MainWindow::addFileItem(const QString& filePath) {

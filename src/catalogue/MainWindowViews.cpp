@@ -1,7 +1,6 @@
 #include "app/MainWindow.h"
 
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/IconIdentityProxyModel.h"
 #include "catalogue/MediaFilter.h"
 #include "catalogue/MediaFormats.h"
@@ -23,7 +22,6 @@
 namespace {
 
 constexpr QSize smallIconSize(32, 32);
-constexpr QSize defaultGridSize(240, 240);
 
 void setUpMediaView(QAbstractItemView* view) {
     view->setItemDelegate(new ShortTextDelegate(view));
@@ -102,7 +100,7 @@ void MainWindow::initViews() {
 
 void MainWindow::initListView() {
     setStaticViewMode(ui->listView, QListView::IconMode);
-    const QSize gridSize = Settings::instance()->data(keys::gridSizeListView, defaultGridSize).toSize();
+    const QSize gridSize = Settings::instance()->get(keys::gridSizeListView);
     ui->listView->setGridSize(gridSize);
     ui->listView->setIconSize(gridSize);
     ui->listView->setResizeMode(QListView::Adjust);
@@ -112,14 +110,14 @@ void MainWindow::initListView() {
 }
 
 void MainWindow::initTreeView() {
-    ui->treeView->setIconSize(Settings::instance()->data(keys::gridSizeTreeView, smallIconSize).toSize());
+    ui->treeView->setIconSize(Settings::instance()->get(keys::gridSizeTreeView));
     ui->treeView->setRootIsDecorated(true);
     setUpMediaHeader(ui->treeView->header());
     ui->treeView->setSortingEnabled(true);
 }
 
 void MainWindow::initTableView() {
-    ui->tableView->setIconSize(Settings::instance()->data(keys::gridSizeTableView, smallIconSize).toSize());
+    ui->tableView->setIconSize(Settings::instance()->get(keys::gridSizeTableView));
     ui->tableView->setShowGrid(true);
     ui->tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui->tableView->setWordWrap(true);

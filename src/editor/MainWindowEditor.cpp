@@ -3,7 +3,6 @@
 #include "app/Questions.h"
 #include "app/WindowPlace.h"
 #include "app/services/FileFailure.h"
-#include "app/services/SettingsKeys.h"
 #include "app/services/Trash.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaItemModel.h"

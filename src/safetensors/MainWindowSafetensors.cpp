@@ -3,7 +3,6 @@
 #include "app/WaitCursor.h"
 #include "app/WindowPlace.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "editor/EditImageWidget.h"
 #include "safetensors/SafetensorsDialog.h"
 #include "ui_MainWindow.h"
@@ -17,15 +16,14 @@ namespace {
 
 void storeSafetensorsPlace(const SafetensorsDialog* dialog) {
     Settings* settings = Settings::instance();
-    settings->setData(keys::safetensorDialogGeometry, dialog->saveGeometry());
-    settings->setData(keys::safetensorDialogSplitterState, dialog->saveSplitterState());
+    settings->set(keys::safetensorDialogGeometry, dialog->saveGeometry());
+    settings->set(keys::safetensorDialogSplitterState, dialog->saveSplitterState());
 }
 
 void restoreSafetensorsPlace(SafetensorsDialog* dialog) {
     restoreWindow(dialog, keys::safetensorDialogGeometry);
     // Nothing stored restores nothing.
-    dialog->restoreSplitterState(
-        Settings::instance()->data(keys::safetensorDialogSplitterState).toByteArray());
+    dialog->restoreSplitterState(Settings::instance()->get(keys::safetensorDialogSplitterState));
 }
 
 } // namespace
@@ -45,8 +43,8 @@ void MainWindow::onInspectSafetensor() {
     }
     _lastOpenPathSafetensors = QFileInfo(files.first()).path();
     const Settings* settings = Settings::instance();
-    const bool includeTensorInfo = settings->data(keys::includeTensorInfo, false).toBool();
-    const bool includeMetaInfo = settings->data(keys::includeMetaInfo, true).toBool();
+    const bool includeTensorInfo = settings->get(keys::includeTensorInfo);
+    const bool includeMetaInfo = settings->get(keys::includeMetaInfo);
     for (const QString& file : files)
         openSafetensorsDialog(file, includeTensorInfo, includeMetaInfo);
 }

@@ -2,7 +2,6 @@
 
 #include "app/WaitCursor.h"
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/FileNaming.h"
 #include "tags/AddTagsDialog.h"
 #include "tags/ReplaceTextDialog.h"
@@ -18,10 +17,10 @@ namespace {
 // Window-modal without blocking; the dialog deletes itself and keeps its geometry.
 void openTagsDialog(AddTagsDialog* dialog) {
     QObject::connect(dialog, &AddTagsDialog::aboutToBeDestroyed, dialog, [dialog] {
-        Settings::instance()->setData(keys::addTagsDialogGeometry, dialog->saveGeometry(), true);
+        Settings::instance()->set(keys::addTagsDialogGeometry, dialog->saveGeometry());
     });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->restoreGeometry(Settings::instance()->data(keys::addTagsDialogGeometry).toByteArray());
+    dialog->restoreGeometry(Settings::instance()->get(keys::addTagsDialogGeometry));
     dialog->open();
 }
 

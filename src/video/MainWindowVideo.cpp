@@ -3,7 +3,6 @@
 #include "app/WindowPlace.h"
 #include "app/services/FileFailure.h"
 #include "app/services/ImageFile.h"
-#include "app/services/SettingsKeys.h"
 #include "ui_MainWindow.h"
 #include "video/VideoTexts.h"
 #include "video/VideoWidget.h"

@@ -1,7 +1,6 @@
 #include "video/VideoWidget.h"
 
 #include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "app/services/StatusTipFilter.h"
 #include "app/services/Themes.h"
 #include "catalogue/MediaFormats.h"
@@ -61,7 +60,7 @@ VideoWidget::VideoWidget(QWidget* parent) : QMainWindow(parent), _ui(std::make_u
     _ui->pBMediaPosition->setValue(0);
     _ui->pBMediaPosition->setFormat(positionFormat(0, 0));
     initActions();
-    _lastOpenPath = Settings::instance()->data(keys::videoLastOpenPath, QString()).toString();
+    _lastOpenPath = Settings::instance()->get(keys::videoLastOpenPath);
     initPlayer();
     _ui->tBPlayPause->setText(u">"_s);
     _ui->tBPlayPause->setIcon(QIcon(u":/resources/icons/play.svg"_s));
@@ -124,9 +123,8 @@ void VideoWidget::initPlayer() {
 
 void VideoWidget::initThemes() {
     const Themes* themes = Themes::instance();
-    connect(themes, &Themes::themeChanged, this, [](Themes::Theme theme) {
-        Settings::instance()->setData(keys::appTheme, static_cast<int>(theme));
-    });
+    connect(themes, &Themes::themeChanged, this,
+            [](Themes::Theme theme) { Settings::instance()->set(keys::appTheme, static_cast<int>(theme)); });
     connect(themes, &Themes::themeAccentChanged, this, &VideoWidget::updateIcons);
     updateIcons(themes->isDarkTheme());
 }
@@ -408,6 +406,6 @@ void VideoWidget::closeEvent(QCloseEvent* event) {
     _mediaPlayer->stop();
     emit widgetState(saveState());
     emit widgetGeometry(saveGeometry());
-    Settings::instance()->setData(keys::videoLastOpenPath, _lastOpenPath);
+    Settings::instance()->set(keys::videoLastOpenPath, _lastOpenPath);
     QMainWindow::closeEvent(event);
 }

@@ -109,12 +109,12 @@ private slots:
             }));
         }
         const QVariantHash stored = readSettings();
-        QCOMPARE(stored.value(keys::gridSizeListView), QVariant(QSize(9999, 16)));
-        QCOMPARE(stored.value(keys::imagePreviewThreadCount), QVariant(128));
-        QCOMPARE(stored.value(keys::importFilesDeleteSrc), QVariant(true));
-        QCOMPARE(stored.value(keys::importFilesAutoRename), QVariant(true));
-        QCOMPARE(stored.value(keys::includeMetaInfo), QVariant(false));
-        QCOMPARE(stored.value(keys::includeTensorInfo), QVariant(true));
+        QCOMPARE(stored.value(keys::gridSizeListView.key), QVariant(QSize(9999, 16)));
+        QCOMPARE(stored.value(keys::imagePreviewThreadCount.key), QVariant(128));
+        QCOMPARE(stored.value(keys::importFilesDeleteSrc.key), QVariant(true));
+        QCOMPARE(stored.value(keys::importFilesAutoRename.key), QVariant(true));
+        QCOMPARE(stored.value(keys::includeMetaInfo.key), QVariant(false));
+        QCOMPARE(stored.value(keys::includeTensorInfo.key), QVariant(true));
         const WindowDriver driver;
         QVERIFY(answerOptions(driver, [](QDialog* dialog) {
             QCOMPARE(dialog->size(), QSize(500, 650));
@@ -130,11 +130,11 @@ private slots:
     void badStoredSizesDoNoHarm() {
         const auto& [gridSize] = row<QVariant>();
         QSettings(settingsPath(), QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::gridSizeListView, gridSize},
-                                                   {keys::gridSizeTreeView, gridSize},
-                                                   {keys::gridSizeTableView, gridSize},
-                                                   {keys::optionDialogGeometry, "nonsense"},
-                                                   {keys::imagePreviewThreadCount, -3}});
+            .setValue("settingsData", QVariantHash{{keys::gridSizeListView.key, gridSize},
+                                                   {keys::gridSizeTreeView.key, gridSize},
+                                                   {keys::gridSizeTableView.key, gridSize},
+                                                   {keys::optionDialogGeometry.key, "nonsense"},
+                                                   {keys::imagePreviewThreadCount.key, -3}});
         const MediaFolder folder;
         folder.addImage("a.png");
         WindowDriver driver(folder.path());
@@ -157,7 +157,7 @@ private slots:
         }));
         QCOMPARE(WindowDriver::logCount("MainWindow::onOptionsClosed"), 0);
         QCOMPARE(WindowDriver::logCount(scanLog), scans);
-        QCOMPARE(readSettings().value(keys::gridSizeListView), QVariant(QSize(99, 240)));
+        QCOMPARE(readSettings().value(keys::gridSizeListView.key), QVariant(QSize(99, 240)));
     }
 
     void theSettingsEditorRemovesRows() {

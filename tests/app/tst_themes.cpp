@@ -218,13 +218,13 @@ private slots:
     void aStoredNumberThatIsNoThemeIsKept() {
         const auto& [number] = row<int>();
         QSettings(QCoreApplication::applicationDirPath() + "/settings.data", QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::appTheme, number}});
+            .setValue("settingsData", QVariantHash{{keys::appTheme.key, number}});
         const QPalette look = foreignLook();
         const WindowDriver driver;
         QCOMPARE(QApplication::palette(), look);
         QCOMPARE(QApplication::style()->name(), QString("windows"));
         QVERIFY(!Themes::instance()->isDarkTheme());
-        QCOMPARE(Settings::instance()->data(keys::appTheme).toInt(), number);
+        QCOMPARE(Settings::instance()->data(keys::appTheme.key).toInt(), number);
         for (const QAction* action : driver.widget<QMenu>("menu_Themes")->actions())
             QVERIFY(!action->isChecked());
     }

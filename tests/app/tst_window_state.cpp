@@ -148,14 +148,14 @@ private slots:
     }
 
     void valuesOutOfRangeDoNoHarm() {
-        writeSettings({{keys::viewIdx, 99},
-                       {keys::currentToolsTabIndex, -7},
-                       {keys::listViewViewMode, 55},
-                       {keys::appGeometry, QByteArray("nonsense")},
-                       {keys::appTheme, 99},
-                       {keys::resizeSrcAspectRatio, QString("text")},
-                       {keys::gridSizeListView, QString("text")},
-                       {keys::imagePreviewThreadCount, -1}});
+        writeSettings({{keys::viewIdx.key, 99},
+                       {keys::currentToolsTabIndex.key, -7},
+                       {keys::listViewViewMode.key, 55},
+                       {keys::appGeometry.key, QByteArray("nonsense")},
+                       {keys::appTheme.key, 99},
+                       {keys::resizeSrcAspectRatio.key, QString("text")},
+                       {keys::gridSizeListView.key, QString("text")},
+                       {keys::imagePreviewThreadCount.key, -1}});
         MediaFolder folder;
         folder.addImage("a.png");
         WindowDriver driver(folder.path());
@@ -172,12 +172,13 @@ private slots:
                 .value("settingsData")
                 .toHash();
         for (const QLatin1StringView key :
-             {keys::appGeometry, keys::appState, keys::ollamaScaleResW, keys::workingPath, keys::promptSystem,
-              keys::ollamaIp, keys::toolCutOutlineWidth, keys::scaleDirOutput, keys::viewIdx,
-              keys::treeViewHeaderState, keys::tableViewHorizontalHeaderState, keys::listViewViewMode})
+             {keys::appGeometry.key, keys::appState.key, keys::ollamaScaleResW.key, keys::workingPath.key,
+              keys::promptSystem.key, keys::ollamaIp.key, keys::toolCutOutlineWidth.key,
+              keys::scaleDirOutput.key, keys::viewIdx.key, keys::treeViewHeaderState.key,
+              keys::tableViewHorizontalHeaderState.key, keys::listViewViewMode.key})
             QVERIFY2(stored.contains(key), key.data());
-        QVERIFY(!stored.contains(keys::gridSizeTreeView));
-        QCOMPARE(stored.value(keys::ollamaIp).toString(), QString("http://127.0.0.1:11434/"));
+        QVERIFY(!stored.contains(keys::gridSizeTreeView.key));
+        QCOMPARE(stored.value(keys::ollamaIp.key).toString(), QString("http://127.0.0.1:11434/"));
     }
 
 private:

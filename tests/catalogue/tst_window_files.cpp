@@ -161,12 +161,12 @@ private slots:
         import({source.filePath("a.png")});
         QCOMPARE(driver.statusText(), "Unable to import file from " + source.filePath("a.png") +
                                           ", file already exist at: " + folder.filePath("a.png"));
-        Settings::instance()->setData(keys::importFilesAutoRename, true);
+        Settings::instance()->setData(keys::importFilesAutoRename.key, true);
         source.addImage("b.png");
         folder.addImage("b.png");
         import({source.filePath("b.png")});
         QVERIFY(folder.exists("b_0.png") && source.exists("b.png"));
-        Settings::instance()->setData(keys::importFilesDeleteSrc, true);
+        Settings::instance()->setData(keys::importFilesDeleteSrc.key, true);
         import({source.filePath("a.png")});
         QVERIFY(folder.exists("a_1.png") && !source.exists("a.png"));
         QTRY_VERIFY(driver.catalogueNames().contains("a_1.png"));
@@ -174,7 +174,7 @@ private slots:
         import({source.filePath("none")});
         QVERIFY(folder.exists("none."));
         // A file imported onto itself gets a name of its own, and nothing is lost.
-        Settings::instance()->setData(keys::importFilesDeleteSrc, false);
+        Settings::instance()->setData(keys::importFilesDeleteSrc.key, false);
         import({folder.filePath("a.png")});
         QVERIFY(folder.exists("a.png") && folder.exists("a_2.png"));
         QCOMPARE(WindowDriver::logCount("unable to move to trash file"), 0);

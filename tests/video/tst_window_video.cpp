@@ -201,7 +201,7 @@ private slots:
         driver.close();
         WindowDriver later(folder.path());
         QCOMPARE(later.window().showEditVideoWidget()->size(), QSize(700, 500));
-        QVERIFY(!Settings::instance()->data(keys::videoWidgetState).toByteArray().isEmpty());
+        QVERIFY(!Settings::instance()->data(keys::videoWidgetState.key).toByteArray().isEmpty());
     }
 
     void leavingDuringAProbe() {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "app/services/SettingsKeys.h"
+
 #include <QHash>
 #include <QObject>
 #include <QString>
 #include <QVariant>
 
 #include <memory>
+#include <type_traits>
 
 class QSettings;
 
@@ -28,6 +31,17 @@ public:
     // A key that is present with an invalid value yields that value, not the default.
     [[nodiscard]] QVariant data(const QString& key, const QVariant& defaultValue = {}) const;
     bool setData(const QString& key, const QVariant& value, bool persistent = true);
+
+    // The same by type; a value of another type is converted as QVariant does it.
+    template <typename T>
+    [[nodiscard]] T get(const Setting<T>& setting) const {
+        const QVariant fallback = setting.fallback ? QVariant::fromValue(*setting.fallback) : QVariant();
+        return data(setting.key, fallback).template value<T>();
+    }
+    template <typename T>
+    void set(const Setting<T>& setting, const std::type_identity_t<T>& value) {
+        setData(setting.key, QVariant::fromValue(value));
+    }
     [[nodiscard]] QString filePath() const { return _filePath; }
 
 private:

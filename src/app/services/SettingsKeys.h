@@ -1,57 +1,78 @@
 #pragma once
 
+#include <QByteArray>
 #include <QLatin1StringView>
+#include <QSize>
+#include <QString>
 
-// The keys of the settings table. A value is kept under its key from one release to the next: never rename
-// one.
+#include <optional>
+
+// One value of the settings table: its key, its type and what a first start has in its place. Without a
+// fallback that is an empty value.
+template <typename T>
+struct Setting {
+    QLatin1StringView key;
+    std::optional<T> fallback = std::nullopt;
+};
+
+// All values that the program keeps between runs. A value is kept under its key from one release to the next:
+// never rename one.
 namespace keys {
 
-inline constexpr QLatin1StringView appGeometry{"appGeometry"};
-inline constexpr QLatin1StringView appState{"appState"};
-inline constexpr QLatin1StringView ollamaScaleResW{"sBOllamaScaleResW"};
-inline constexpr QLatin1StringView ollamaScaleResH{"sBOllamaScaleResH"};
-inline constexpr QLatin1StringView ollamaScaleKeepAspectRatio{"cBOllamaScaleKeepAspectRatio"};
-inline constexpr QLatin1StringView workingPath{"workingPath"};
-inline constexpr QLatin1StringView workingDirScanRecursive{"workingDirScanRecursive"};
-inline constexpr QLatin1StringView currentToolsTabIndex{"currentToolsTabIndex"};
-inline constexpr QLatin1StringView resizeSrcAspectRatio{"resizeSrcAspectRatio"};
-inline constexpr QLatin1StringView resizeImgWriteQuality{"resizeImgWriteQuality"};
-inline constexpr QLatin1StringView resizeSrcTransformationType{"resizeSrcTransformationType"};
-inline constexpr QLatin1StringView promptSystem{"promptSystem"};
-inline constexpr QLatin1StringView promptUser{"promptUser"};
-inline constexpr QLatin1StringView splitterTagsUpperState{"splitterTagsUpperState"};
-inline constexpr QLatin1StringView splitterTagsLowerState{"splitterTagsLowerState"};
-inline constexpr QLatin1StringView splitterOllamaUpper{"splitterOllamaUpper"};
-inline constexpr QLatin1StringView splitterOllamaLower{"splitterOllamaLower"};
-inline constexpr QLatin1StringView ollamaIp{"lEOllamaIp"};
-inline constexpr QLatin1StringView lastOpenPathSafetensors{"lastOpenPathSafetensors"};
-inline constexpr QLatin1StringView ollamaAddTags{"cBOllamaAddTags"};
-inline constexpr QLatin1StringView ollamaTagsSplitTag{"ollamaTagsSplitTag"};
-inline constexpr QLatin1StringView toolCutOutlineWidth{"toolCutOutlineWidth"};
-inline constexpr QLatin1StringView scaleDirOutput{"scaleDirOutput"};
-inline constexpr QLatin1StringView filterProfiles{"filterProfiles"};
-inline constexpr QLatin1StringView viewIdx{"viewIdx"};
-inline constexpr QLatin1StringView treeViewHeaderState{"treeViewHeaderState"};
-inline constexpr QLatin1StringView tableViewHorizontalHeaderState{"tableViewHorizontalHeaderState"};
-inline constexpr QLatin1StringView listViewViewMode{"listViewViewMode"};
+// Kept by widgets of the main window.
+inline const Setting<QByteArray> appGeometry{QLatin1StringView("appGeometry")};
+inline const Setting<QByteArray> appState{QLatin1StringView("appState")};
+inline constexpr Setting<int> ollamaScaleResW{QLatin1StringView("sBOllamaScaleResW"), -1};
+inline constexpr Setting<int> ollamaScaleResH{QLatin1StringView("sBOllamaScaleResH"), -1};
+inline constexpr Setting<bool> ollamaScaleKeepAspectRatio{QLatin1StringView("cBOllamaScaleKeepAspectRatio"),
+                                                          true};
+inline const Setting<QString> workingPath{QLatin1StringView("workingPath"), QString()};
+inline constexpr Setting<bool> workingDirScanRecursive{QLatin1StringView("workingDirScanRecursive"), false};
+inline constexpr Setting<int> currentToolsTabIndex{QLatin1StringView("currentToolsTabIndex"), 0};
+inline constexpr Setting<int> resizeSrcAspectRatio{QLatin1StringView("resizeSrcAspectRatio"), 1};
+inline constexpr Setting<int> resizeImgWriteQuality{QLatin1StringView("resizeImgWriteQuality"), 100};
+inline constexpr Setting<int> resizeSrcTransformationType{QLatin1StringView("resizeSrcTransformationType"),
+                                                          1};
+inline const Setting<QString> promptSystem{QLatin1StringView("promptSystem")};
+inline const Setting<QString> promptUser{QLatin1StringView("promptUser")};
+inline const Setting<QByteArray> splitterTagsUpperState{QLatin1StringView("splitterTagsUpperState")};
+inline const Setting<QByteArray> splitterTagsLowerState{QLatin1StringView("splitterTagsLowerState")};
+inline const Setting<QByteArray> splitterOllamaUpper{QLatin1StringView("splitterOllamaUpper")};
+inline const Setting<QByteArray> splitterOllamaLower{QLatin1StringView("splitterOllamaLower")};
+inline const Setting<QString> ollamaIp{QLatin1StringView("lEOllamaIp"),
+                                       QStringLiteral("http://127.0.0.1:11434/")};
+inline const Setting<QString> lastOpenPathSafetensors{QLatin1StringView("lastOpenPathSafetensors")};
+inline constexpr Setting<bool> ollamaAddTags{QLatin1StringView("cBOllamaAddTags"), true};
+inline const Setting<QString> ollamaTagsSplitTag{QLatin1StringView("ollamaTagsSplitTag"),
+                                                 QStringLiteral(",")};
+inline constexpr Setting<int> toolCutOutlineWidth{QLatin1StringView("toolCutOutlineWidth"), 8};
+inline const Setting<QString> scaleDirOutput{QLatin1StringView("scaleDirOutput"), QStringLiteral("./scaled")};
+inline const Setting<QByteArray> filterProfiles{QLatin1StringView("filterProfiles")};
+inline constexpr Setting<int> viewIdx{QLatin1StringView("viewIdx"), 0};
+inline const Setting<QByteArray> treeViewHeaderState{QLatin1StringView("treeViewHeaderState")};
+inline const Setting<QByteArray> tableViewHorizontalHeaderState{
+    QLatin1StringView("tableViewHorizontalHeaderState")};
+inline constexpr Setting<int> listViewViewMode{QLatin1StringView("listViewViewMode"), 1};
 
-inline constexpr QLatin1StringView gridSizeListView{"gridSizeListView"};
-inline constexpr QLatin1StringView gridSizeTreeView{"gridSizeTreeView"};
-inline constexpr QLatin1StringView gridSizeTableView{"gridSizeTableView"};
-inline constexpr QLatin1StringView imagePreviewThreadCount{"imagePreviewThreadCount"};
-inline constexpr QLatin1StringView includeTensorInfo{"includeTensorInfo"};
-inline constexpr QLatin1StringView includeMetaInfo{"includeMetaInfo"};
-inline constexpr QLatin1StringView importFilesDeleteSrc{"importFilesDeleteSrc"};
-inline constexpr QLatin1StringView importFilesAutoRename{"importFilesAutoRename"};
-inline constexpr QLatin1StringView optionDialogGeometry{"optionDialogGeometry"};
-inline constexpr QLatin1StringView appTheme{"appTheme"};
-inline constexpr QLatin1StringView addTagsDialogGeometry{"addTagsDialogGeometry"};
-inline constexpr QLatin1StringView editImageWidgetGeometry{"editImageWidgetGeometry"};
-inline constexpr QLatin1StringView editImageWidgetState{"editImageWidgetState"};
-inline constexpr QLatin1StringView videoWidgetGeometry{"videoWidgetGeometry"};
-inline constexpr QLatin1StringView videoWidgetState{"videoWidgetState"};
-inline constexpr QLatin1StringView videoLastOpenPath{"videoLastOpenPath"};
-inline constexpr QLatin1StringView safetensorDialogGeometry{"safetensorDialogGeometry"};
-inline constexpr QLatin1StringView safetensorDialogSplitterState{"safetensorDialogSplitterState"};
+// Kept by dialogs and tool windows.
+inline constexpr Setting<QSize> gridSizeListView{QLatin1StringView("gridSizeListView"), QSize(240, 240)};
+inline constexpr Setting<QSize> gridSizeTreeView{QLatin1StringView("gridSizeTreeView"), QSize(32, 32)};
+inline constexpr Setting<QSize> gridSizeTableView{QLatin1StringView("gridSizeTableView"), QSize(32, 32)};
+inline constexpr Setting<int> imagePreviewThreadCount{QLatin1StringView("imagePreviewThreadCount"), 4};
+inline constexpr Setting<bool> includeTensorInfo{QLatin1StringView("includeTensorInfo"), false};
+inline constexpr Setting<bool> includeMetaInfo{QLatin1StringView("includeMetaInfo"), true};
+inline constexpr Setting<bool> importFilesDeleteSrc{QLatin1StringView("importFilesDeleteSrc"), false};
+inline constexpr Setting<bool> importFilesAutoRename{QLatin1StringView("importFilesAutoRename"), false};
+inline const Setting<QByteArray> optionDialogGeometry{QLatin1StringView("optionDialogGeometry")};
+inline constexpr Setting<int> appTheme{QLatin1StringView("appTheme"), 0};
+inline const Setting<QByteArray> addTagsDialogGeometry{QLatin1StringView("addTagsDialogGeometry")};
+inline const Setting<QByteArray> editImageWidgetGeometry{QLatin1StringView("editImageWidgetGeometry")};
+inline const Setting<QByteArray> editImageWidgetState{QLatin1StringView("editImageWidgetState")};
+inline const Setting<QByteArray> videoWidgetGeometry{QLatin1StringView("videoWidgetGeometry")};
+inline const Setting<QByteArray> videoWidgetState{QLatin1StringView("videoWidgetState")};
+inline const Setting<QString> videoLastOpenPath{QLatin1StringView("videoLastOpenPath"), QString()};
+inline const Setting<QByteArray> safetensorDialogGeometry{QLatin1StringView("safetensorDialogGeometry")};
+inline const Setting<QByteArray> safetensorDialogSplitterState{
+    QLatin1StringView("safetensorDialogSplitterState")};
 
 } // namespace keys
