@@ -30,27 +30,41 @@ ImageLoaderThread::ImageLoaderThread() {
     setObjectName(QLatin1StringView("ImageLoaderThread"));
 }
 
-void ImageLoaderThread::setJob(const QString& imgFilePath, const QSize& size) {
+void ImageLoaderThread::begin(const QString& imgFilePath, const QSize& size) {
     _imgFilePath = imgFilePath;
     _size = size;
+    _busy = true;
+    _jobs.release();
+    if (!isRunning())
+        start(QThread::InheritPriority);
+}
+
+void ImageLoaderThread::requestStop() {
+    _stop = true;
+    _jobs.release();
 }
 
 void ImageLoaderThread::run() {
+    for (;;) {
+        _jobs.acquire();
+        if (_stop)
+            return;
+        load();
+        if (!_stop)
+            emit imageLoaded();
+    }
+}
+
+void ImageLoaderThread::load() {
     _image = {};
     _error.clear();
     if (_imgFilePath.isEmpty()) {
         _error = tr("Image file path empty.");
-        return;
-    }
-    if (_stop)
-        return;
-    if (supportedImageFormats().contains(QFileInfo(_imgFilePath).suffix().toLower())) {
+    } else if (supportedImageFormats().contains(QFileInfo(_imgFilePath).suffix().toLower())) {
         PreviewResult result = decodePreview(_imgFilePath, _size);
         _image = std::move(result.image);
         _error = std::move(result.error);
     } else {
         qDebug() << "Unsupported file format:" << _imgFilePath;
     }
-    if (!_stop)
-        emit imageLoaded();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QSemaphore>
 #include <QSize>
 #include <QString>
 #include <QThread>
@@ -15,16 +16,19 @@ struct PreviewResult {
 // Decodes a file at full size and scales it into the given size, keeping its aspect ratio.
 [[nodiscard]] PreviewResult decodePreview(const QString& filePath, const QSize& size);
 
-// Decodes one file per run. The coordinator on the GUI thread hands out the job before start and takes the
-// result after finished; only the stop flag is shared while it runs.
+// Decodes one file after another. The coordinator on the GUI thread begins a job and takes its result after
+// imageLoaded; only the stop flag is shared in between. The thread waits for the next job, as starting one
+// costs as much as a small picture.
 class ImageLoaderThread : public QThread {
     Q_OBJECT
 
 public:
     ImageLoaderThread();
 
-    void setJob(const QString& imgFilePath, const QSize& size);
-    void requestStop() { _stop = true; }
+    // Neither busy nor stopped.
+    void begin(const QString& imgFilePath, const QSize& size);
+    // The thread ends after the job under way.
+    void requestStop();
     [[nodiscard]] bool isBusy() const { return _busy; }
     void setBusy(bool busy) { _busy = busy; }
     [[nodiscard]] QString imgFilePath() const { return _imgFilePath; }
@@ -32,16 +36,20 @@ public:
     [[nodiscard]] QString error() const { return _error; }
 
 signals:
+    // Queued to other threads, once a job unless stopped.
     void imageLoaded();
 
 protected:
     void run() override;
 
 private:
+    void load();
+
     QString _imgFilePath;
     QString _error;
     QSize _size;
     QImage _image;
     bool _busy = false;
     std::atomic<bool> _stop = false;
+    QSemaphore _jobs;
 };

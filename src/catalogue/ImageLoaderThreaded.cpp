@@ -58,9 +58,18 @@ void ImageLoaderThreaded::processQueue() {
     }
     const QString headSuffix = queueSuffix(_queue.constFirst());
     if (_videoFormats.contains(headSuffix)) {
-        dispatchVideos();
+        createVideoThreads();
+        dispatch(_videoThreads, _videoFormats, "video", &VideoImageLoader::isRunning,
+                 [](VideoImageLoader* loader, const QString& filePath) {
+                     loader->setRunning(true);
+                     loader->grabFrame(filePath, 0);
+                 });
     } else if (_imageFormats.contains(headSuffix)) {
-        dispatchImages();
+        createImageThreads();
+        dispatch(_imageThreads, _imageFormats, "image", &ImageLoaderThread::isBusy,
+                 [this](ImageLoaderThread* worker, const QString& filePath) {
+                     worker->begin(filePath, _previewSize);
+                 });
     } else {
         qDebug() << "Error, neither image nor video:" << _queue.takeFirst();
         processQueue();
@@ -84,28 +93,10 @@ void ImageLoaderThreaded::createImageThreads() {
         return;
     while (_imageThreads.size() < _imageThreadCount) {
         auto* worker = new ImageLoaderThread;
-        connect(worker, &QThread::finished, this, &ImageLoaderThreaded::onImageLoaded);
+        connect(worker, &ImageLoaderThread::imageLoaded, this, &ImageLoaderThreaded::onImageLoaded);
         _imageThreads.append(worker);
     }
     qDebug() << "Created image threads:" << _imageThreads.size();
-}
-
-void ImageLoaderThreaded::dispatchImages() {
-    createImageThreads();
-    for (qsizetype tries = 0; tries < _imageThreads.size() && !_queue.isEmpty(); ++tries) {
-        const auto idle = std::ranges::find_if_not(_imageThreads, &ImageLoaderThread::isBusy);
-        if (idle == _imageThreads.end()) {
-            qDebug() << "Info, got null image thread.";
-            return;
-        }
-        const QString filePath = takeFirstOf(_imageFormats);
-        if (filePath.isEmpty())
-            return;
-        ImageLoaderThread* worker = *idle;
-        worker->setBusy(true);
-        worker->setJob(filePath, _previewSize);
-        worker->start(QThread::InheritPriority);
-    }
 }
 
 void ImageLoaderThreaded::createVideoThreads() {
@@ -121,19 +112,20 @@ void ImageLoaderThreaded::createVideoThreads() {
     qDebug() << "Created video threads:" << _videoThreads.size();
 }
 
-void ImageLoaderThreaded::dispatchVideos() {
-    createVideoThreads();
-    for (qsizetype tries = 0; tries < _videoThreads.size() && !_queue.isEmpty(); ++tries) {
-        const auto idle = std::ranges::find_if_not(_videoThreads, &VideoImageLoader::isRunning);
-        if (idle == _videoThreads.end()) {
-            qDebug() << "Info, got null video thread.";
+// Hands files of the given kind to the idle ones of a pool.
+template <typename Worker, typename IsBusy, typename Begin>
+void ImageLoaderThreaded::dispatch(const QList<Worker*>& pool, const QStringList& suffixes, const char* kind,
+                                   IsBusy isBusy, Begin begin) {
+    for (qsizetype tries = 0; tries < pool.size() && !_queue.isEmpty(); ++tries) {
+        const auto idle = std::ranges::find_if_not(pool, isBusy);
+        if (idle == pool.end()) {
+            qDebug("Info, got null %s thread.", kind);
             return;
         }
-        const QString filePath = takeFirstOf(_videoFormats);
+        const QString filePath = takeFirstOf(suffixes);
         if (filePath.isEmpty())
             return;
-        (*idle)->setRunning(true);
-        (*idle)->grabFrame(filePath, 0);
+        begin(*idle, filePath);
     }
 }
 
@@ -144,7 +136,7 @@ QString ImageLoaderThreaded::takeFirstOf(const QStringList& suffixes) {
 }
 
 void ImageLoaderThreaded::onImageLoaded() {
-    // A finished signal that was queued before a stop arrives without its worker.
+    // A signal that was queued before a stop arrives without its worker.
     auto* worker = qobject_cast<ImageLoaderThread*>(sender());
     if (!worker) {
         qDebug() << "Error, unable to case to thread!";
@@ -200,9 +192,8 @@ void ImageLoaderThreaded::destroyPools() {
 
 void ImageLoaderThreaded::destroyImageThreads() {
     for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {
-        disconnect(worker, &QThread::finished, this, &ImageLoaderThreaded::onImageLoaded);
+        worker->disconnect(this);
         worker->requestStop();
-        worker->quit();
     }
     const QDeadlineTimer deadline(stopDeadlineMs);
     for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {

@@ -44,10 +44,11 @@ public slots:
 private:
     [[nodiscard]] bool isAnythingRunning() const;
     void finishLoad();
-    void dispatchImages();
     void createImageThreads();
-    void dispatchVideos();
     void createVideoThreads();
+    template <typename Worker, typename IsBusy, typename Begin>
+    void dispatch(const QList<Worker*>& pool, const QStringList& suffixes, const char* kind, IsBusy isBusy,
+                  Begin begin);
     [[nodiscard]] QString takeFirstOf(const QStringList& suffixes);
     void destroyPools();
     void destroyImageThreads();
