@@ -1,9 +1,7 @@
-#include "catalogue/ImageLoaderThread.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "support/MediaFolder.h"
 #include "support/Rows.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 
@@ -12,21 +10,7 @@ class TestPreviewLoading : public QObject {
     Q_OBJECT
 
 private slots:
-    void decodingKeepsTheAspect() {
-        const MediaFolder folder;
-        QCOMPARE(decodePreview(folder.addImage("wide.png", {400, 100}), {100, 100}).image.size(),
-                 QSize(100, 25));
-        QCOMPARE(decodePreview(folder.addImage("small.png", {4, 4}), {100, 50}).image.size(), QSize(50, 50));
-        const PreviewResult broken = decodePreview(folder.addFile("broken.png", "nothing"), {100, 100});
-        QVERIFY(broken.image.isNull());
-        QVERIFY(broken.error.startsWith("Image read error: "));
-        QCOMPARE(decodePreview(folder.filePath("small.png"), {0, 10}).error,
-                 QString("Unable to allocate image."));
-    }
-
-    void everyFileGetsItsResult_data() {
-        addRows<int>({{"1 thread", 1}, {"4 threads", 4}, {"16 threads", 16}});
-    }
+    void everyFileGetsItsResult_data() { addRows<int>({{"1 thread", 1}, {"16 threads", 16}}); }
     void everyFileGetsItsResult() {
         const auto& [threads] = row<int>();
         const MediaFolder folder;
@@ -36,24 +20,26 @@ private slots:
         const QSignalSpy messages(&loader, &ImageLoaderThreaded::showMessage);
         loader.start(); // nothing to do
         QCOMPARE(messages.count(), 1);
-        QSet<QString> waiting;
+        QHash<QString, QSize> expected;
         for (int number = 0; number < 40; ++number) {
             const QString name = QString("%1.png").arg(number);
-            waiting.insert(number % 8 == 3 ? folder.addFile(name, "broken")
-                                           : folder.addImage(name, {50, 40}));
+            if (number % 8 == 3)
+                expected.insert(folder.addFile(name, "broken"), QSize());
+            else
+                expected.insert(folder.addImage(name, {50, number + 10}),
+                                QSize(50, number + 10).scaled(20, 20, Qt::KeepAspectRatio));
         }
-        for (const QString& path : std::as_const(waiting))
+        for (const QString& path : expected.keys())
             loader.enqueue(path, false);
-        int nulls = 0;
+        QHash<QString, QSize> loaded;
         connect(&loader, &ImageLoaderThreaded::loadedImage, this,
                 [&](const QString& path, const QImage& image) {
-                    QVERIFY(waiting.remove(path));
-                    nulls += image.isNull() ? 1 : 0;
+                    QVERIFY(!loaded.contains(path));
+                    loaded.insert(path, image.isNull() ? QSize() : image.size());
                 });
         loader.start();
         QTRY_COMPARE(messages.count(), 2);
-        QVERIFY(waiting.isEmpty());
-        QCOMPARE(nulls, 5);
+        QCOMPARE(loaded, expected);
         QVERIFY(messages.last().first().toString().startsWith("Loaded all media previews in: "));
     }
 
@@ -74,10 +60,7 @@ private slots:
         for (int round = 0; round < 3; ++round) {
             for (int number = 0; number < 12; ++number)
                 loader->enqueue(large, true);
-            QElapsedTimer timer;
-            timer.start();
             loader->stop();
-            QVERIFY2(timer.elapsed() < 5000, "all workers share one deadline");
             const int seen = results;
             QCoreApplication::processEvents();
             QCOMPARE(results, seen);

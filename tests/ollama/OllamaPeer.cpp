@@ -1,7 +1,5 @@
 #include "ollama/OllamaPeer.h"
 
-#include <QMutexLocker>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 
@@ -20,54 +18,30 @@ PeerRequest parsedRequest(const QByteArray& head) {
     return request;
 }
 
+void drip(QTcpSocket* socket, const QByteArray& bytes) {
+    if (bytes.isEmpty())
+        return;
+    socket->write(bytes.first(1));
+    QTimer::singleShot(dripMs, socket, [socket, bytes] { drip(socket, bytes.sliced(1)); });
+}
+
 } // namespace
 
 OllamaPeer::OllamaPeer() {
-    _worker.moveToThread(&_thread);
-    _thread.start();
-    QMetaObject::invokeMethod(
-        &_worker,
-        [this] {
-            auto* server = new QTcpServer(&_worker);
-            if (!server->listen(QHostAddress::LocalHost))
-                qFatal("no port for the peer");
-            _port = server->serverPort();
-            QObject::connect(server, &QTcpServer::newConnection, &_worker, [this, server] {
-                QTcpSocket* socket = server->nextPendingConnection();
-                QObject::connect(socket, &QTcpSocket::readyRead, &_worker,
-                                 [this, socket] { readFrom(socket); });
-                QObject::connect(socket, &QTcpSocket::disconnected, &_worker, [this, socket] {
-                    _held.remove(socket);
-                    _received.remove(socket);
-                    socket->deleteLater();
-                });
-            });
-        },
-        Qt::BlockingQueuedConnection);
-}
-
-OllamaPeer::~OllamaPeer() {
-    QMetaObject::invokeMethod(
-        &_worker,
-        [this] {
-            for (const auto* server : _worker.findChildren<QTcpServer*>()) {
-                for (QTcpSocket* socket : server->findChildren<QTcpSocket*>())
-                    socket->disconnect(&_worker);
-                delete server;
-            }
-        },
-        Qt::BlockingQueuedConnection);
-    _thread.quit();
-    _thread.wait();
-}
-
-void OllamaPeer::setAnswers(const QByteArray& path, const QList<Answer>& answers) {
-    const QMutexLocker lock(&_mutex);
-    _answers.insert(path, answers);
+    if (!listen(QHostAddress::LocalHost))
+        qFatal("no port for the peer");
+    connect(this, &QTcpServer::newConnection, this, [this] {
+        QTcpSocket* socket = nextPendingConnection();
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { readFrom(socket); });
+        connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+            _held.remove(socket);
+            _received.remove(socket);
+            socket->deleteLater();
+        });
+    });
 }
 
 QList<PeerRequest> OllamaPeer::requests(const QByteArray& path) const {
-    const QMutexLocker lock(&_mutex);
     QList<PeerRequest> found;
     for (const PeerRequest& request : _requests) {
         if (request.line.split(' ').value(1) == path)
@@ -77,11 +51,8 @@ QList<PeerRequest> OllamaPeer::requests(const QByteArray& path) const {
 }
 
 void OllamaPeer::release() {
-    QMetaObject::invokeMethod(&_worker, [this] {
-        for (const auto& [socket, bytes] : std::as_const(_held).asKeyValueRange())
-            socket->write(bytes);
-        _held.clear();
-    });
+    for (const auto& [socket, bytes] : std::exchange(_held, {}).asKeyValueRange())
+        socket->write(bytes);
 }
 
 void OllamaPeer::readFrom(QTcpSocket* socket) {
@@ -95,15 +66,12 @@ void OllamaPeer::readFrom(QTcpSocket* socket) {
         return;
     request.body = received.sliced(end + 4);
     received.clear();
-    const QByteArray path = request.line.split(' ').value(1);
-    QMutexLocker lock(&_mutex);
     _requests.append(request);
-    QList<Answer>& answers = _answers[path];
-    const Answer answer = answers.size() > 1 ? answers.takeFirst() : answers.value(0);
+    QList<Answer>& answers = _answers[request.line.split(' ').value(1)];
+    answerTo(socket, answers.size() > 1 ? answers.takeFirst() : answers.value(0));
+    // Queued, as a receiver may wait for further requests.
     const auto count = static_cast<int>(_requests.size());
-    lock.unlock();
-    answerTo(socket, answer);
-    emit requested(count);
+    QMetaObject::invokeMethod(this, [this, count] { emit requested(count); }, Qt::QueuedConnection);
 }
 
 void OllamaPeer::answerTo(QTcpSocket* socket, const Answer& answer) {
@@ -122,11 +90,4 @@ void OllamaPeer::answerTo(QTcpSocket* socket, const Answer& answer) {
     } else if (answer.manner == Closing) {
         socket->disconnectFromHost();
     }
-}
-
-void OllamaPeer::drip(QTcpSocket* socket, const QByteArray& bytes) {
-    if (bytes.isEmpty())
-        return;
-    socket->write(bytes.first(1));
-    QTimer::singleShot(dripMs, socket, [socket, bytes] { drip(socket, bytes.sliced(1)); });
 }

@@ -3,12 +3,9 @@
 #include <QByteArray>
 #include <QHash>
 #include <QList>
-#include <QMutex>
-#include <QObject>
 #include <QString>
-#include <QThread>
+#include <QTcpServer>
 
-class QTcpServer;
 class QTcpSocket;
 
 struct PeerRequest {
@@ -17,8 +14,8 @@ struct PeerRequest {
     QByteArray body;
 };
 
-// An HTTP server on a loopback port of its own, in a thread of its own.
-class OllamaPeer : public QObject {
+// An HTTP server on a loopback port, served by the event loop in which the client waits.
+class OllamaPeer : public QTcpServer {
     Q_OBJECT
 
 public:
@@ -32,31 +29,22 @@ public:
     };
 
     OllamaPeer();
-    ~OllamaPeer() override;
-    Q_DISABLE_COPY_MOVE(OllamaPeer)
 
-    [[nodiscard]] QString url() const { return QString("http://127.0.0.1:%1/").arg(_port); }
+    [[nodiscard]] QString url() const { return QString("http://127.0.0.1:%1/").arg(serverPort()); }
     // One answer a request; the last stays.
-    void setAnswers(const QByteArray& path, const QList<Answer>& answers);
+    void setAnswers(const QByteArray& path, const QList<Answer>& answers) { _answers.insert(path, answers); }
     [[nodiscard]] QList<PeerRequest> requests(const QByteArray& path) const;
     void release();
 
 signals:
-    // Sent before the answer; a receiver in another thread gets it queued.
     void requested(int count);
 
 private:
     void readFrom(QTcpSocket* socket);
     void answerTo(QTcpSocket* socket, const Answer& answer);
-    static void drip(QTcpSocket* socket, const QByteArray& bytes);
 
-    mutable QMutex _mutex;
     QHash<QByteArray, QList<Answer>> _answers;
     QList<PeerRequest> _requests;
-    // Of the peer's thread alone.
     QHash<QTcpSocket*, QByteArray> _received;
     QHash<QTcpSocket*, QByteArray> _held;
-    QObject _worker;
-    QThread _thread;
-    quint16 _port = 0;
 };

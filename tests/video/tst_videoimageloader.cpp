@@ -2,7 +2,6 @@
 
 #include "support/Clips.h"
 
-#include <QMediaFormat>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTest>
@@ -74,15 +73,6 @@ private slots:
         QTRY_COMPARE(otherFrames.count(), 1);
         QCOMPARE(otherFrames.first().at(1).value<QImage>().size(), QSize(32, 80));
         QVERIFY(frames.isEmpty() && failures.isEmpty());
-    }
-
-    void metaDataHasBothNames() {
-        QMediaMetaData metaData;
-        metaData.insert(QMediaMetaData::AudioBitRate, 128000);
-        metaData.insert(QMediaMetaData::VideoFrameRate, qQNaN());
-        const QString shown = QMediaMetaData::metaDataKeyToString(QMediaMetaData::AudioBitRate);
-        QCOMPARE(videoMetaHash(metaData),
-                 (QHash<QString, QVariant>{{shown, 128000}, {"AudioBitRate", 128000}}));
     }
 };
 

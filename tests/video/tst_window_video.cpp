@@ -8,13 +8,8 @@
 #include "video/VideoWidget.h"
 #include "video/VideoWidgetFrameGrabber.h"
 
-#include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -25,64 +20,14 @@
 
 namespace {
 
-// What another program tells of a clip, in the words of the catalogue.
-struct ClipFacts {
-    bool hasPicture = false;
-    QSize resolution;
-    bool isRotated = false;
-    qint64 duration = 0;
-    double frameRate = 0.0;
-    QString videoCodec;
-    QString audioCodec;
-};
-
-QString codecText(const QString& name) {
-    static const QHash<QString, QString> texts{{"h264", "H264"},     {"vp9", "VP9"},
-                                               {"mpeg4", "MPEG4"},   {"aac", "AAC"},
-                                               {"theora", "Theora"}, {"mpeg2video", "MPEG2"}};
-    return texts.value(name, "Unspecified");
-}
-
-ClipFacts probedByFfprobe(const QString& path) {
-    QProcess probe;
-    probe.start("ffprobe",
-                {"-v", "quiet", "-count_frames", "-show_streams", "-show_format", "-of", "json", path});
-    if (!probe.waitForFinished())
-        qFatal("ffprobe did not end");
-    const QJsonObject told = QJsonDocument::fromJson(probe.readAllStandardOutput()).object();
-    ClipFacts facts;
-    facts.duration = qRound64(told["format"]["duration"].toString().toDouble() * 1000);
-    for (const QJsonValue& stream : told["streams"].toArray()) {
-        const QString codec = codecText(stream["codec_name"].toString());
-        if (stream["codec_type"].toString() == "audio") {
-            facts.audioCodec = codec;
-            continue;
-        }
-        facts.hasPicture = stream["nb_read_frames"].toString().toInt() > 0;
-        facts.resolution = QSize(stream["width"].toInt(), stream["height"].toInt());
-        facts.isRotated = !stream["side_data_list"].toArray().isEmpty() &&
-                          qAbs(stream["side_data_list"][0]["rotation"].toInt()) == 90;
-        const QStringList rate = stream["avg_frame_rate"].toString().split('/');
-        if (rate.at(1) != "0")
-            facts.frameRate = rate.at(0).toDouble() / rate.at(1).toDouble();
-        facts.videoCodec = codec;
-    }
-    return facts;
-}
-
 // The part of a row's canvas that shows the frame.
-QImage shownFrame(const WindowDriver& driver, const QString& name, const ClipFacts& facts) {
+QImage shownFrame(const WindowDriver& driver, const QString& name, bool isRotated) {
     const auto canvas = driver.cellData(name, ColName, Qt::DecorationRole).value<QImage>();
-    const QSize frame = facts.isRotated ? facts.resolution.transposed() : facts.resolution;
-    QRect place(QPoint(), frame.scaled(canvas.size(), Qt::KeepAspectRatio));
+    QRect place(QPoint(), QSize(160, 64).scaled(canvas.size(), Qt::KeepAspectRatio));
+    if (isRotated)
+        place.setSize(place.size().transposed());
     place.moveCenter(canvas.rect().center());
-    return canvas.copy(place).transformed(QTransform().rotate(facts.isRotated ? 90 : 0));
-}
-
-bool isTransparent(const QImage& canvas) {
-    QImage empty(canvas.size(), QImage::Format_ARGB32_Premultiplied);
-    empty.fill(Qt::transparent);
-    return canvas == empty;
+    return canvas.copy(place).transformed(QTransform().rotate(isRotated ? 90 : 0));
 }
 
 } // namespace
@@ -95,41 +40,45 @@ private slots:
     void init() { WindowDriver::forgetSettings(); }
 
     void everyClipGetsItsFrameAndColumns() {
+        // Milliseconds, frames a second, codecs.
+        const std::tuple<QString, qint64, double, QString, QString> readable[] = {
+            {"flash.flv", 2000, 25, "Unspecified", ""}, {"fps60.mp4", 2000, 60, "H264", ""},
+            {"h264.mp4", 10000, 25, "H264", ""},        {"mpeg2.mpg", 1768, 29.97, "MPEG2", ""},
+            {"mpeg4.avi", 2000, 25, "MPEG4", ""},       {"odd #1 100%25 what? 😀.mp4", 10000, 25, "H264", ""},
+            {"rotated.mp4", 1080, 25, "H264", ""},      {"sound.mp4", 2000, 29.97, "H264", "AAC"},
+            {"truncated.mp4", 10000, 25, "H264", ""},   {"vp9.webm", 2002, 23.976, "VP9", ""},
+        };
         const MediaFolder folder;
-        const QStringList clips = QDir(clipPath({})).entryList({"*.*"}, QDir::Files);
-        for (const QString& clip : clips) {
+        const QStringList unreadable{"no-index.mp4", "no-picture.mp4", "sound-only.ogg", "text.mp4"};
+        for (const QString& clip : unreadable)
             QVERIFY(QFile::copy(clipPath(clip), folder.filePath(clip)));
-            folder.addImage(clip + ".png");
-        }
+        for (const auto& clip : readable)
+            QVERIFY(QFile::copy(clipPath(std::get<0>(clip)), folder.filePath(std::get<0>(clip))));
+        folder.addImage("a.png");
         const WindowDriver driver(folder.path());
-        QStringList unreadable;
-        for (const QString& clip : clips) {
-            const ClipFacts facts = probedByFfprobe(clipPath(clip));
-            if (!facts.hasPicture) {
-                unreadable.append(clip);
-                QVERIFY2(isTransparent(driver.cellData(clip, ColName, Qt::DecorationRole).value<QImage>()),
-                         qPrintable(clip));
-                QCOMPARE(driver.cell(clip, ColResolution), "-1x-1");
-                continue;
-            }
-            const QByteArray row = clip.toUtf8();
-            const auto value = [&](MediaColumn column) { return driver.cellData(clip, column, RoleValue); };
-            QVERIFY2(frameNumber(shownFrame(driver, clip, facts)) == 0, row.constData());
-            QCOMPARE(driver.cell(clip, ColResolution), resolutionText(facts.resolution));
-            QCOMPARE(value(ColResolution).toInt(), facts.resolution.width() * facts.resolution.height());
-            QVERIFY2(qAbs(value(ColDuration).toLongLong() - facts.duration) < 50, row.constData());
-            QVERIFY2(qAbs(value(ColVideoFrameRate).toDouble() - facts.frameRate) < 0.01, row.constData());
-            QCOMPARE(driver.cell(clip, ColVideoCodec), facts.videoCodec);
-            QCOMPARE(driver.cell(clip, ColAudioCodec), facts.audioCodec);
+        for (const QString& clip : unreadable) {
+            const auto canvas = driver.cellData(clip, ColName, Qt::DecorationRole).value<QImage>();
+            QImage empty(canvas.size(), QImage::Format_ARGB32_Premultiplied);
+            empty.fill(Qt::transparent);
+            QVERIFY2(canvas == empty, qPrintable(clip));
+            QCOMPARE(driver.cell(clip, ColResolution), "-1x-1");
         }
-        QCOMPARE(unreadable, (QStringList{"no-index.mp4", "no-picture.mp4", "sound-only.ogg", "text.mp4"}));
+        for (const auto& [clip, duration, rate, videoCodec, audioCodec] : readable) {
+            const auto value = [&](MediaColumn column) { return driver.cellData(clip, column, RoleValue); };
+            QVERIFY2(frameNumber(shownFrame(driver, clip, clip == "rotated.mp4")) == 0, qPrintable(clip));
+            QCOMPARE(driver.cell(clip, ColResolution), "160x64");
+            QCOMPARE(value(ColResolution).toInt(), 160 * 64);
+            QVERIFY2(qAbs(value(ColDuration).toLongLong() - duration) < 50, qPrintable(clip));
+            QVERIFY2(qAbs(value(ColVideoFrameRate).toDouble() - rate) < 0.01, qPrintable(clip));
+            QCOMPARE(driver.cell(clip, ColVideoCodec), videoCodec);
+            QCOMPARE(driver.cell(clip, ColAudioCodec), audioCodec);
+        }
         QCOMPARE(driver.cell("h264.mp4", ColComment), "Yes");
         QCOMPARE(driver.cell("fps60.mp4", ColComment), "No");
     }
 
     void aSeriesBecomesRows() {
         const MediaFolder folder;
-        folder.addImage("a.png");
         WindowDriver driver(folder.path());
         VideoWidget* video = driver.window().showEditVideoWidget();
         video->openFile(clipPath("h264.mp4"));
@@ -138,31 +87,15 @@ private slots:
         grabber->findChild<QPushButton*>("pBGrabFrames")->click();
         QTRY_COMPARE(grabber->findChild<QListWidget*>()->count(), 10);
         grabber->findChild<QPushButton*>("pBAddAll")->click();
-
         const QStringList rows = driver.window().allFilePaths();
         QList<int> numbers;
-        for (const QString& row : rows.mid(1)) {
-            QVERIFY(QFileInfo(row).fileName().startsWith("h264_"));
+        for (const QString& row : rows) {
             numbers.append(frameNumber(QImage(row)));
+            QTRY_COMPARE(frameNumber(shownFrame(driver, QFileInfo(row).fileName(), false)), numbers.last());
         }
-        QList<int> expected{0};
-        for (int k = 2; k <= 10; ++k)
-            expected.append(999 * k / 40);
-        QCOMPARE(numbers, expected);
-
-        ClipFacts facts;
-        facts.resolution = {160, 64};
-        for (qsizetype number = 1; number < rows.size(); ++number) {
-            const QString name = QFileInfo(rows.at(number)).fileName();
-            QTRY_COMPARE(frameNumber(shownFrame(driver, name, facts)), expected.at(number - 1));
-            driver.window().setImageTags(rows.at(number), {QString::number(number)});
-        }
+        QCOMPARE(numbers, (QList<int>{0, 49, 74, 99, 124, 149, 174, 199, 224, 249}));
         // The watcher has met the new files too.
         QCOMPARE(driver.window().allFilePaths(), rows);
-        driver.window().onSaveTags();
-        driver.rescan();
-        for (qsizetype number = 1; number < rows.size(); ++number)
-            QCOMPARE(driver.window().imageTags(rows.at(number)), QStringList(QString::number(number)));
     }
 
     void aGrabbedFrameBecomesARow() {
