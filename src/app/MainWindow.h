@@ -13,7 +13,6 @@
 
 class BatchWriter;
 class EditImageDialog;
-class IconIdentityProxyModel;
 class ImageFilterWidgetBase;
 class ImageFilters;
 class ImageLoaderThreaded;
@@ -126,9 +125,12 @@ private:
     MediaItemModel* _itemModel = nullptr;
     // Where the next file dialog starts: the directory last opened, or the one last chosen.
     QString _workingPath;
-    QString _openedPath;
+    struct Scan {
+        QString path;
+        int generation = 0;
+    };
+    Scan _lastScan;
     QStringList _supportedFormats;
-    int _scanGeneration = 0;
 
     // --- Previews (catalogue) --------------------------------------------------------------------
 public slots:
@@ -164,15 +166,14 @@ private:
     void initModels();
     void initViewConnections();
     [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
-    enum class HiddenBy { Filter, Tags, Saved };
-    // Hides the files for which the predicate of row and file key holds, and shows all others.
-    void hideFiles(HiddenBy reason, const std::function<bool(int row, const QString& filePath)>& isHidden);
+    // Hides the files for which the predicate of row and file key holds, and shows all others. The reason is
+    // shown with their number, "%1".
+    void hideFiles(const QString& reason,
+                   const std::function<bool(int row, const QString& filePath)>& isHidden);
     void showMediaPreview(const QString& filePath);
 
     SortFilterProxyModel* _proxyModel = nullptr;
-    IconIdentityProxyModel* _iconProxyModel = nullptr;
     SelectionWatcher* _selection = nullptr;
-    HiddenBy _hiddenBy = HiddenBy::Filter;
 
     // --- Context menu of the views (catalogue) ---------------------------------------------------
 public slots:
@@ -324,8 +325,8 @@ private:
     // The files of the running batch that have not been taken yet.
     QStringList ollamaQueue;
     int _ollamaTotal = 0;
+    // The number of the running batch; 0 without one.
     int _ollamaBatch = 0;
-    bool _isOllamaSending = false;
 
     // --- Effects (imaging) -----------------------------------------------------------------------
 public slots:

@@ -71,18 +71,7 @@ void MainWindow::initStatusPanelConnections() {
 }
 
 void MainWindow::updateShownCount() {
-    const int shown = _proxyModel->rowCount();
-    const int total = _itemModel->rowCount();
-    QStringList reasons;
-    // The filter that ran last decides which files are hidden.
-    if (_hiddenBy == HiddenBy::Filter)
-        reasons = {tr("%1 hidden by the filter \"%2\"")
-                       .arg(QString::number(total - shown), ui->leFilterImages->text())};
-    else if (_hiddenBy == HiddenBy::Tags)
-        reasons = {tr("%1 hidden by the tag search").arg(total - shown)};
-    else if (_hiddenBy == HiddenBy::Saved)
-        reasons = {tr("%1 hidden as they are saved").arg(total - shown)};
-    _statusPanel->showCounts(shown, total, reasons);
+    _statusPanel->showCounts(_proxyModel->rowCount(), _itemModel->rowCount());
 }
 
 void MainWindow::updateUnsavedCount() {
@@ -111,7 +100,7 @@ void MainWindow::onShowAllFiles() {
 }
 
 void MainWindow::onShowUnsavedFiles() {
-    hideFiles(HiddenBy::Saved,
+    hideFiles(tr("%1 hidden as they are saved"),
               [this](int /*row*/, const QString& filePath) { return !_imageTags->isUnsaved(filePath); });
 }
 

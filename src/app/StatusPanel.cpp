@@ -72,9 +72,10 @@ QToolButton* StatusPanel::addButton(const QString& name, const QString& accessib
     return button;
 }
 
-void StatusPanel::showCounts(int shown, int total, const QStringList& reasons) {
+void StatusPanel::showCounts(int shown, int total) {
     _shownCount->setText(tr("%1 of %2 shown").arg(shown).arg(total));
-    _shownCount->setToolTip(linesToolTip(reasons + QStringList{tr("Click to show all files.")}, 0));
+    const QString reason = QString(_hidingReason).replace("%1"_L1, QString::number(total - shown));
+    _shownCount->setToolTip(reason + u'\n' + tr("Click to show all files."));
     _shownCount->setVisible(shown < total);
 }
 

@@ -36,8 +36,9 @@ public:
 
     explicit StatusPanel(QWidget* parent = nullptr);
 
-    // Hidden files by reason, a line each.
-    void showCounts(int shown, int total, const QStringList& reasons);
+    // Why files are hidden; "%1" stands for their number.
+    void setHidingReason(const QString& reason) { _hidingReason = reason; }
+    void showCounts(int shown, int total);
     void showUnsaved(const Unsaved& unsaved);
     // How far a batch is that leaves the window alive; empty without one.
     void showProgress(const QString& text);
@@ -70,6 +71,7 @@ private:
     QToolButton* _progress;
     QToolButton* _lastResult;
     QMenu* _unsavedMenu;
+    QString _hidingReason;
     QString _progressText;
     QString _blockingText;
     QStringList _failures;

@@ -43,7 +43,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
     _imageTags->clear();
     unbindTagFile();
     _workingPath = path;
-    _openedPath = path;
+    _lastScan.path = path;
     onShowMessage(tr("Checking directory: %1").arg(path));
     const QStringList files =
         scanDirectory(path, mediaNameFilters(), ui->cBWorkingDirScanRecursive->isChecked());
@@ -55,8 +55,8 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         addFileItems(files);
     }
     // A scan that comes before the slow half replaces it.
-    QTimer::singleShot(0, this, [this, files, generation = ++_scanGeneration] {
-        if (generation == _scanGeneration)
+    QTimer::singleShot(0, this, [this, files, generation = ++_lastScan.generation] {
+        if (generation == _lastScan.generation)
             populateUiImage(files);
     });
 }
@@ -131,7 +131,7 @@ void MainWindow::populateUiImage(const QStringList& files) {
     }
     watchWorkingDirectory();
     onFilterImages(ui->leFilterImages->text());
-    _recovery->open(_openedPath);
+    _recovery->open(_lastScan.path);
 }
 
 QStringList MainWindow::allFilePaths() const {

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/StatusPanel.h"
 #include "app/services/Settings.h"
 #include "catalogue/IconIdentityProxyModel.h"
 #include "catalogue/MediaFilter.h"
@@ -134,11 +135,11 @@ void MainWindow::initModels() {
     _proxyModel->setSourceModel(_itemModel);
     _proxyModel->setSortRole(RoleValue);
     _proxyModel->setFilterKeyColumn(-1);
-    _iconProxyModel = new IconIdentityProxyModel(smallIconSize, this);
-    _iconProxyModel->setSourceModel(_proxyModel);
+    auto* iconProxyModel = new IconIdentityProxyModel(smallIconSize, this);
+    iconProxyModel->setSourceModel(_proxyModel);
     setMediaModel(ui->listView, _proxyModel);
-    setMediaModel(ui->treeView, _iconProxyModel);
-    setMediaModel(ui->tableView, _iconProxyModel);
+    setMediaModel(ui->treeView, iconProxyModel);
+    setMediaModel(ui->tableView, iconProxyModel);
     _selection = new SelectionWatcher(ui->stackedWidget, mediaViews(), this);
 }
 
@@ -182,12 +183,12 @@ void MainWindow::onDockWidgetImagePreviewCustomMenu() {
     menu.exec(QCursor::pos());
 }
 
-void MainWindow::hideFiles(HiddenBy reason,
+void MainWindow::hideFiles(const QString& reason,
                            const std::function<bool(int row, const QString& filePath)>& isHidden) {
     // Hidden rows leave the selection without a signal.
     const SelectionWatcher::Hold hold(*_selection);
     const UpdatesOff updatesOff(mediaViews());
-    _hiddenBy = reason;
+    _statusPanel->setHidingReason(reason);
     _itemModel->hideRows(isHidden);
     _proxyModel->refilter();
 }
@@ -195,7 +196,7 @@ void MainWindow::hideFiles(HiddenBy reason,
 void MainWindow::onFilterImages(const QString& txt) {
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt);
-    hideFiles(HiddenBy::Filter, [&](int row, const QString& filePath) {
+    hideFiles(tr("%1 hidden by the filter line"), [&](int row, const QString& filePath) {
         if (txt.isEmpty())
             return false;
         if (wantsMissingTxt)

@@ -41,7 +41,7 @@ void MainWindow::watchWorkingDirectory() {
 void MainWindow::onWorkingDirectoryChanged(const QString& path) {
     qDebug() << "FW Directory changed:" << path;
     // A change that was queued before another directory was opened is none of its files.
-    if (path != _openedPath)
+    if (path != _lastScan.path)
         return;
     const QStringList listing =
         scanDirectory(path, mediaNameFilters(), ui->cBWorkingDirScanRecursive->isChecked());

@@ -53,11 +53,11 @@ void MainWindow::onOllamaIpChanged(const QString& txt) {
 
 void MainWindow::ollamaConnectionStatus(bool connected) {
     // A busy server may answer too late, and during a batch the button is the way to abort.
-    ui->pBOllamaGo->setEnabled(connected || _isOllamaSending);
+    ui->pBOllamaGo->setEnabled(connected || _ollamaBatch != 0);
 }
 
 void MainWindow::onOllamaSendPrompt() {
-    if (_isOllamaSending) {
+    if (_ollamaBatch != 0) {
         // During the last request nothing waits any more, and a click changes nothing.
         onShowMessage(tr("Ollama aborting for %1").arg(ollamaQueue.size()));
         dropOllamaQueue();
@@ -66,7 +66,7 @@ void MainWindow::onOllamaSendPrompt() {
     _ollamaApi->setModel(ui->cBOllamaModels->currentText());
     ollamaQueue = selectedFilePaths();
     _ollamaTotal = static_cast<int>(ollamaQueue.size());
-    ++_ollamaBatch;
+    _ollamaBatch = TagRecord::newBatch();
     ui->pBOllamaGo->setText(tr("Abort prompt"));
     ollamaSendPrompts();
 }
@@ -78,7 +78,6 @@ void MainWindow::dropOllamaQueue() {
 
 void MainWindow::ollamaSendPrompts() {
     const QPointer<MainWindow> self(this);
-    _isOllamaSending = true;
     int processed = 0;
     QList<qint64> answerTimes;
     const auto showInPanel = [&](qsizetype underWay) {
@@ -104,7 +103,7 @@ void MainWindow::ollamaSendPrompts() {
     _statusPanel->showProgress({});
     onShowMessage(tr("Ollama processing done for %1").arg(_ollamaTotal));
     ui->pBOllamaGo->setText(tr("Send prompt"));
-    _isOllamaSending = false;
+    _ollamaBatch = 0;
     ollamaConnectionStatus(_ollamaApi->isOnline());
 }
 

@@ -138,7 +138,7 @@ void MainWindow::onAllImagesTagSelectedChanged() {
     const QStringList tags = selectedTagTexts(ui->lwAllImagesTags);
     TagMatcher matcher(tags);
     int found = 0;
-    hideFiles(HiddenBy::Tags, [&](int /*row*/, const QString& filePath) {
+    hideFiles(tr("%1 hidden by the tag search"), [&](int /*row*/, const QString& filePath) {
         const bool matches = matcher.matchesAny(_imageTags->tags(filePath));
         found += matches ? 1 : 0;
         return !tags.isEmpty() && !matches;

@@ -141,6 +141,11 @@ void TagRecord::appendAnswer(const QString& key, const QStringList& tags, int ba
     finish(std::move(step), TagChange::Stored);
 }
 
+int TagRecord::newBatch() {
+    static int lastBatch = 0;
+    return ++lastBatch;
+}
+
 qsizetype TagRecord::restore(const Tags& tags) {
     Step step{tr("restore %1 files"), {}};
     for (const auto& [key, restored] : tags.asKeyValueRange()) {

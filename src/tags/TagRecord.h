@@ -79,6 +79,7 @@ public:
     // Appends the tags of an answer. A file that has left the record first gets those of its sidecar, or the
     // next save would replace them by the answer alone. Answers of one batch in a row are one step.
     void appendAnswer(const QString& key, const QStringList& tags, int batch);
+    [[nodiscard]] static int newBatch();
     // Takes over what was recovered; keys without an entry are left out. Returns how many were changed.
     qsizetype restore(const Tags& tags);
 
