@@ -4,11 +4,13 @@
 #include "support/ModalAnswer.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QLineEdit>
-#include <QListView>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -33,6 +35,15 @@ WindowDriver::WindowDriver(const QString& workingPath) : _window(std::make_uniqu
 }
 
 WindowDriver::~WindowDriver() = default;
+
+void WindowDriver::restart() {
+    _window.reset();
+    _readLog = 0;
+    _window = std::make_unique<MainWindow>();
+    _window->show();
+    if (!waitForLoad())
+        qFatal("the directory did not load after a restart");
+}
 
 bool WindowDriver::waitForLoad() {
     return QTest::qWaitFor(
@@ -59,6 +70,46 @@ void WindowDriver::click(const char* buttonName) const {
     button->click();
 }
 
+void WindowDriver::trigger(const char* name) const {
+    const QList<QAction*> actions = _window->findChildren<QAction*>();
+    for (QAction* action : actions) {
+        if (action->objectName() == QLatin1StringView(name) ||
+            action->data().toString() == QLatin1StringView(name))
+            return action->trigger();
+    }
+    qFatal("no action %s", name);
+}
+
+bool WindowDriver::choose(const char* widgetName, const QString& entry) const {
+    const ModalAnswer answer(entry);
+    emit widget<QWidget>(widgetName)->customContextMenuRequested({});
+    return answer.isUsed();
+}
+
+QWidget* WindowDriver::toolWindow(const char* name) const {
+    const QList<QWidget*> windows = _window->findChildren<QWidget*>(QLatin1StringView(name));
+    for (qsizetype number = windows.size() - 1; number >= 0; --number) {
+        if (windows[number]->isVisible())
+            return windows[number];
+    }
+    qFatal("no window %s", name);
+}
+
+QString WindowDriver::text(const char* name) const {
+    const auto* shown = widget<QWidget>(name);
+    const QVariant plain = shown->property("plainText");
+    return (plain.isValid() ? plain : shown->property("text")).toString();
+}
+
+void WindowDriver::settle() {
+    constexpr int patience = 10'000;
+    for (int round = 0; round < patience; ++round) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+            return;
+    }
+}
+
 QString WindowDriver::statusText() const {
     return _window->statusBar()->currentMessage();
 }
@@ -70,6 +121,18 @@ QString WindowDriver::log() {
 
 qsizetype WindowDriver::logCount(const QString& text) {
     return log().count(text);
+}
+
+QStringList WindowDriver::freshLog() {
+    QFile file(QCoreApplication::applicationDirPath() + "/app-current.log");
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(_readLog))
+        return {};
+    const QByteArray fresh = file.readAll();
+    _readLog += fresh.size();
+    QStringList lines = QString::fromUtf8(fresh).split('\n', Qt::SkipEmptyParts);
+    for (QString& line : lines)
+        line.remove(0, line.indexOf("] ") + 2);
+    return lines;
 }
 
 QAbstractItemModel* WindowDriver::catalogue() const {
@@ -99,17 +162,31 @@ QStringList WindowDriver::catalogueNames() const {
     return names;
 }
 
-QStringList WindowDriver::shownNames() const {
+QStringList WindowDriver::shownNames(const char* viewName) const {
     QStringList names;
-    const QAbstractItemModel* model = widget<QListView>("listView")->model();
+    const QAbstractItemModel* model = widget<QAbstractItemView>(viewName)->model();
     for (int row = 0; row < model->rowCount(); ++row)
         names.append(model->index(row, ColName).data().toString());
     return names;
 }
 
+QAbstractItemView* WindowDriver::currentView() const {
+    return widget<QStackedWidget>("stackedWidget")->currentWidget()->findChild<QAbstractItemView*>();
+}
+
+QStringList WindowDriver::selectedNames() const {
+    QStringList names;
+    const QModelIndexList cells = currentView()->selectionModel()->selectedIndexes();
+    for (const QModelIndex& cell : cells) {
+        if (cell.column() == ColName)
+            names.append(cell.data().toString());
+    }
+    names.sort();
+    return names;
+}
+
 void WindowDriver::select(const QStringList& fileNames) const {
-    auto* stack = widget<QStackedWidget>("stackedWidget");
-    auto* view = stack->currentWidget()->findChild<QAbstractItemView*>();
+    const QAbstractItemView* view = currentView();
     const QAbstractItemModel* model = view->model();
     QItemSelection selection;
     for (const QString& name : fileNames) {
@@ -121,11 +198,13 @@ void WindowDriver::select(const QStringList& fileNames) const {
     view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
-QStringList WindowDriver::tagTexts(const char* listName) const {
+QStringList WindowDriver::tagTexts(const char* listName, bool onlySelected) const {
     QStringList texts;
     const auto* list = widget<QListWidget>(listName);
-    for (int row = 0; row < list->count(); ++row)
-        texts.append(list->item(row)->text());
+    for (int row = 0; row < list->count(); ++row) {
+        if (!onlySelected || list->item(row)->isSelected())
+            texts.append(list->item(row)->text());
+    }
     return texts;
 }
 

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QAbstractItemModel;
+class QAbstractItemView;
 
 // Drives the real main window by the object names of its widgets.
 class WindowDriver {
@@ -24,6 +25,8 @@ public:
 
     [[nodiscard]] MainWindow& window() { return *_window; }
     void close() { _window.reset(); }
+    // Ends the program and starts it again with what it stored.
+    void restart();
 
     template <typename T>
     [[nodiscard]] T* widget(const char* name) const {
@@ -38,23 +41,38 @@ public:
     void rescan();
 
     void click(const char* buttonName) const;
+    // Triggers an action of a menu or of the tool bar, by its object name or its data.
+    void trigger(const char* name) const;
+    // Opens the context menu of a widget and picks an entry; false if no menu came.
+    bool choose(const char* widgetName, const QString& entry) const;
+    // The tool window or dialog of that object name which is open and was opened last.
+    [[nodiscard]] QWidget* toolWindow(const char* name) const;
+    // What a label, button, line or text edit shows.
+    [[nodiscard]] QString text(const char* name) const;
+    // Until no event waits any more, also none of the watched directory.
+    static void settle();
     [[nodiscard]] QString statusText() const;
     [[nodiscard]] static QString log();
     [[nodiscard]] static qsizetype logCount(const QString& text);
+    // The lines, without their times, that came since the last call.
+    [[nodiscard]] QStringList freshLog();
 
     [[nodiscard]] QAbstractItemModel* catalogue() const;
     // Texts of one column of the catalogue by file name.
     [[nodiscard]] QString cell(const QString& fileName, int column, int role = Qt::DisplayRole) const;
     [[nodiscard]] QVariant cellData(const QString& fileName, int column, int role) const;
     [[nodiscard]] QStringList catalogueNames() const;
-    // File names in the order that the list view shows.
-    [[nodiscard]] QStringList shownNames() const;
+    // File names in the order of a view.
+    [[nodiscard]] QStringList shownNames(const char* viewName = "listView") const;
+    [[nodiscard]] QStringList selectedNames() const;
+    [[nodiscard]] QAbstractItemView* currentView() const;
     void select(const QStringList& fileNames) const;
-    [[nodiscard]] QStringList tagTexts(const char* listName) const;
+    [[nodiscard]] QStringList tagTexts(const char* listName, bool onlySelected = false) const;
 
     // Opens the context menu of the media views and picks an entry.
     bool chooseFromMediaMenu(const QString& entry) const;
 
 private:
     std::unique_ptr<MainWindow> _window;
+    qsizetype _readLog = 0;
 };

@@ -1,0 +1,817 @@
+#include "journeys/CatalogueJourney.h"
+
+#include "catalogue/MediaModel.h"
+#include "support/ModalAnswer.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QImageReader>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QTreeWidget>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList mediaSuffixes{"png", "jpg", "jpeg", "bmp", "mp4"};
+const QStringList words{"bridge", "Bridge", "night_sky", "harbour", "two words",
+                        "crème",  "fog",    "old_fog",   " x"};
+const QStringList colours{"red", "lime", "blue", "yellow", "magenta", "cyan"};
+
+QString suffixOf(const QString& name) {
+    return name.section('.', -1).toLower();
+}
+
+QString txtNameOf(const QString& name) {
+    return name.section('.', 0, -2) + ".txt";
+}
+
+// The text of a sidecar as tags; a typed entry keeps its blanks.
+QStringList pieces(const QString& text, bool trims) {
+    static const QRegularExpression separators("[,\n]");
+    QStringList found = text.split(separators, Qt::SkipEmptyParts);
+    for (QString& piece : found)
+        piece = trims ? piece.trimmed() : piece;
+    return found;
+}
+
+QString sorted(QStringList texts) {
+    texts.sort();
+    return texts.join(" | ");
+}
+
+// Messages with a time in them are compared without it.
+QString timeless(QString message) {
+    static const QRegularExpression seconds(R"(in: [\d.e-]+ s$)");
+    return message.replace(seconds, "in: T s");
+}
+
+template <typename T>
+T pick(QRandomGenerator& random, const QList<T>& from) {
+    return from.at(random.bounded(from.size()));
+}
+
+QStringList some(QRandomGenerator& random, QStringList from, int atMost) {
+    std::shuffle(from.begin(), from.end(), random);
+    return from.first(std::min<qsizetype>(from.size(), random.bounded(1, atMost + 1)));
+}
+
+} // namespace
+
+struct CatalogueJourney::Verb {
+    void (CatalogueJourney::*perform)(const Arguments&);
+    int weight; // of random steps
+};
+
+const QMap<QString, CatalogueJourney::Verb>& CatalogueJourney::verbs() {
+    using J = CatalogueJourney;
+    static const QMap<QString, Verb> all{
+        {"select", {&J::select, 20}},
+        {"filter", {&J::filter, 12}},
+        {"search tags", {&J::searchTags, 6}},
+        {"filter tags", {&J::filterTags, 3}},
+        {"add tags", {&J::addTags, 10}},
+        {"delete tag", {&J::deleteTag, 5}},
+        {"delete tag everywhere", {&J::deleteTagEverywhere, 3}},
+        {"delete listed tags", {&J::deleteListedTags, 2}},
+        {"replace", {&J::replaceText, 3}},
+        {"split", {&J::splitText, 2}},
+        {"save", {&J::save, 6}},
+        {"check", {&J::check, 2}},
+        {"type and save", {&J::typeAndSave, 5}},
+        {"edit tag file", {&J::editTagFile, 3}},
+        {"write outside", {&J::writeOutside, 6}},
+        {"remove outside", {&J::removeOutside, 3}},
+        {"rename outside", {&J::renameOutside, 3}},
+        {"delete file", {&J::deleteFiles, 2}},
+        {"sort", {&J::sort, 5}},
+        {"view", {&J::view, 4}},
+        {"refresh", {&J::refresh, 2}},
+        {"restart", {&J::restart, 1}},
+    };
+    return all;
+}
+
+namespace {
+
+// A directory as people have them.
+void fill(const MediaFolder& folder) {
+    const QStringList names{"IMG_0001.JPG",
+                            "IMG_0002.JPG",
+                            "portrait of a cat.png",
+                            "naïve café.png",
+                            "spaces # 100% %1 😀.png",
+                            "a&b <i>bold<.png",
+                            "many.dots.in.it.png",
+                            "-dash.png",
+                            "two  blanks.bmp",
+                            "quote'd \"name\".png",
+                            "back\\slash.png",
+                            "ÜBER.PNG",
+                            "bridge 7.jpeg",
+                            "[1].png",
+                            "1.png",
+                            "2.png",
+                            "10.png",
+                            "very long name " + QString(120, 'n') + ".png"};
+    for (qsizetype number = 0; number < names.size(); ++number) {
+        const QHash<QString, QString> texts{{"parameters", QString("seed %1 <b>&amp;").arg(number)}};
+        folder.addImage(names[number], QSize(20 + 3 * int(number), 40 + int(number)),
+                        QColor(colours[number % colours.size()]),
+                        number % 4 == 0 && names[number].endsWith("png") ? texts : QHash<QString, QString>());
+    }
+    folder.addFile("empty.png");
+    folder.addFile("mislabelled.jpg", folder.content("1.png"));
+    folder.addFile("truncated.png", folder.content("2.png").first(60));
+    folder.addFile("no video.mp4", "text");
+    folder.addFile("notes.md", "not listed");
+    folder.addFile("stray.txt", "a text of no picture");
+    folder.addTags("IMG_0001.JPG", "bridge, night_sky\nfog");
+    folder.addTags("IMG_0002.JPG", "Bridge,bridge,,fog , fog");
+    folder.addTags("naïve café.png", "crème\r\nbrûlée\r\n");
+    folder.addTags("a&b <i>bold<.png", "<b>bold</b>,a&b");
+    folder.addTags("many.dots.in.it.png", "dots");
+    folder.addTags("1.png", "");
+    folder.addTags("no video.mp4", "clip");
+}
+
+} // namespace
+
+CatalogueJourney::CatalogueJourney()
+    : driver([this] {
+        fill(folder);
+        WindowDriver::forgetSettings();
+        return folder.path();
+    }()) {
+    for (const QString& name : folder.names())
+        _disk.insert(name, folder.content(name));
+    _label = "Current selection tags:";
+    _preview = "Media preview none";
+    scanned();
+    resolveBinding();
+}
+
+QString CatalogueJourney::perform(const QString& step) {
+    const QString verb = step.section(": ", 0, 0);
+    const QString arguments = step.section(": ", 1);
+    const QStringList names = _disk.keys();
+    _namesBefore = {names.cbegin(), names.cend()};
+    static_cast<void>(driver.freshLog());
+    _log.clear();
+    _complaints.clear();
+    _added = _removed = 0;
+    _bindings.clear();
+    _isPreviewDue = false;
+    (this->*verbs()[verb].perform)(arguments.isEmpty() ? Arguments() : arguments.split('|'));
+    QString differs;
+    const bool isSame = QTest::qWaitFor(
+        [&] {
+            WindowDriver::settle();
+            differs = difference();
+            return differs.isEmpty();
+        },
+        10000);
+    return isSame ? QString() : differs;
+}
+
+QString CatalogueJourney::difference() {
+    return ::difference(expected(), seen());
+}
+
+// --- steps ---------------------------------------------------------------------------------------
+
+void CatalogueJourney::select(const Arguments& names) {
+    driver.select(names);
+    const QSet<QString> before = std::exchange(selected(), {names.cbegin(), names.cend()});
+    if (selected() != before)
+        selectionChanged();
+}
+
+void CatalogueJourney::filter(const Arguments& text) {
+    select({});
+    driver.widget<QLineEdit>("leFilterImages")->setText(text.value(0));
+    if (_filter == text.value(0))
+        return;
+    _filter = text.value(0);
+    applyFilter();
+}
+
+void CatalogueJourney::searchTags(const Arguments& tags) {
+    select({});
+    auto* list = driver.widget<QListWidget>("lwAllImagesTags");
+    QItemSelection items;
+    for (int row = 0; row < list->count(); ++row) {
+        if (tags.contains(list->item(row)->text()))
+            items.select(list->model()->index(row, 0), list->model()->index(row, 0));
+    }
+    list->selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+    if (_searched.isEmpty() && tags.isEmpty())
+        return;
+    _searched = tags;
+    QSet<QString> missed;
+    int found = 0;
+    for (const auto& [name, row] : std::as_const(_rows).asKeyValueRange()) {
+        const bool hits = std::ranges::any_of(
+            tags, [&row](const QString& tag) { return row.tags.contains(tag, Qt::CaseInsensitive); });
+        found += hits ? 1 : 0;
+        if (!hits && !tags.isEmpty())
+            missed.insert(name);
+    }
+    hide(missed);
+    say(QString("Found %1 images for tag: %2")
+            .arg(found)
+            .arg(driver.tagTexts("lwAllImagesTags", true).join(',')));
+}
+
+void CatalogueJourney::filterTags(const Arguments& text) {
+    driver.widget<QLineEdit>("leFilterAllTags")->setText(text.value(0));
+    _tagFilterCounts = _tagFilterCounts || _tagFilter != text.value(0);
+    _tagFilter = text.value(0);
+}
+
+void CatalogueJourney::addTags(const Arguments& text) {
+    driver.trigger("addTag");
+    const QWidget* dialog = driver.toolWindow("AddTagsDialog");
+    const QString entry = text.value(0).replace("\\n", "\n");
+    dialog->findChild<QPlainTextEdit*>()->setPlainText(entry);
+    dialog->findChild<QPushButton*>("pBAdd")->click();
+    if (selected().isEmpty())
+        _complaints = {"Error, selection is empty...", "Error, selection is empty..."};
+    for (const QString& name : std::as_const(selected()))
+        _rows[name].tags += pieces(entry, false);
+    tagsChanged();
+    selectionChanged();
+}
+
+void CatalogueJourney::deleteTag(const Arguments& tags) {
+    for (QListWidgetItem* item :
+         driver.widget<QListWidget>("lwImageTags")->findItems(tags[0], Qt::MatchExactly))
+        item->setSelected(item->text() == tags[0]);
+    driver.choose("lwImageTags", "&Delete");
+    removeTags(selected().values(), tags);
+}
+
+void CatalogueJourney::deleteTagEverywhere(const Arguments& tags) {
+    for (QListWidgetItem* item :
+         driver.widget<QListWidget>("lwImageTags")->findItems(tags[0], Qt::MatchExactly))
+        item->setSelected(item->text() == tags[0]);
+    driver.choose("lwImageTags", "Delete &all");
+    removeTags(_rows.keys(), tags);
+}
+
+void CatalogueJourney::deleteListedTags(const Arguments& tags) {
+    searchTags(tags);
+    driver.choose("lwAllImagesTags", "&Delete");
+    removeTags(_rows.keys(), tags);
+}
+
+void CatalogueJourney::replaceText(const Arguments& texts) {
+    const ModalAnswer answer(ModalAnswer::DialogAnswer([&](QDialog* dialog) {
+        dialog->findChild<QLineEdit*>("lESrcText")->setText(texts[0]);
+        dialog->findChild<QLineEdit*>("lEDstText")->setText(texts.value(1));
+        dialog->findChild<QPushButton*>("pBOk")->click();
+    }));
+    driver.choose("lwAllImagesTags", "R&eplace text");
+    if (texts.value(1).isEmpty()) {
+        say(QString("Unable to replace text, source \"%1\" or replacement \"\" is empty").arg(texts[0]));
+        return;
+    }
+    say(QString("Replacing text \"%1\" with \"%2\".").arg(texts[0], texts[1]));
+    for (Row& row : _rows)
+        row.tags.replaceInStrings(texts[0], texts[1]);
+    tagsChanged();
+    selectionChanged();
+}
+
+void CatalogueJourney::splitText(const Arguments& text) {
+    const ModalAnswer answer(ModalAnswer::DialogAnswer([&](QDialog* dialog) {
+        dialog->findChild<QLineEdit*>("lESrcText")->setText(text[0]);
+        dialog->findChild<QPushButton*>("pBOk")->click();
+    }));
+    driver.choose("lwAllImagesTags", "Spli&t text");
+    say(QString("Splitting text by \"%1\".").arg(text[0]));
+    for (Row& row : _rows) {
+        const QStringList before = std::exchange(row.tags, {});
+        QStringList split;
+        for (const QString& tag : before) {
+            if (tag.contains(text[0], Qt::CaseInsensitive))
+                split = tag.split(text[0], Qt::SkipEmptyParts) + split;
+            else
+                row.tags.append(tag);
+        }
+        row.tags += split;
+    }
+    tagsChanged();
+    selectionChanged();
+}
+
+void CatalogueJourney::save(const Arguments&) {
+    select({});
+    driver.click("tBSaveTags");
+    for (const auto& [name, row] : std::as_const(_rows).asKeyValueRange()) {
+        QStringList tags = row.tags;
+        if (!_keepsDuplicates)
+            tags.removeDuplicates();
+        for (QString& tag : tags)
+            tag = tag.trimmed();
+        writeSidecar(txtNameOf(name), tags.join(','));
+    }
+    applyFilter();
+}
+
+void CatalogueJourney::check(const Arguments& boxName) {
+    driver.click(boxName[0].toUtf8().constData());
+    bool& isOn = boxName[0] == "cBBackupTxt" ? _makesBackups : _keepsDuplicates;
+    isOn = !isOn;
+}
+
+void CatalogueJourney::typeAndSave(const Arguments& text) {
+    auto* edit = driver.widget<QPlainTextEdit>("pTETagsFromFile");
+    edit->selectAll();
+    edit->insertPlainText(text.value(0));
+    driver.click("tBSaveTagTxtFile");
+    writeSidecar(txtNameOf(_editorFile), text.value(0));
+    _editorText = text.value(0);
+    _rows[_editorFile].tags = pieces(text.value(0), true);
+    _shownTags = _rows[_editorFile].tags;
+    tagsChanged();
+}
+
+void CatalogueJourney::editTagFile(const Arguments& nameAndText) {
+    select({nameAndText[0]});
+    driver.choose(_view.toUtf8().constData(), "Edit &tag file");
+    const QWidget* dialog = driver.toolWindow("AddTagsDialog");
+    dialog->findChild<QPlainTextEdit*>()->setPlainText(nameAndText[1]);
+    dialog->findChild<QPushButton*>("pBAdd")->click();
+    writeSidecar(txtNameOf(nameAndText[0]), nameAndText[1]);
+    _rows[nameAndText[0]].tags = pieces(nameAndText[1], true);
+    _shownTags = _rows[nameAndText[0]].tags;
+    tagsChanged();
+    bindEditor({nameAndText[0]});
+}
+
+// A picture as "COLOUR WIDTHxHEIGHT", or a text.
+void CatalogueJourney::writeOutside(const Arguments& nameAndContent) {
+    const QString& name = nameAndContent[0];
+    const QString content = nameAndContent.value(1);
+    if (mediaSuffixes.contains(suffixOf(name))) {
+        const QStringList size = content.section(' ', 1).split('x');
+        folder.addImage(name, QSize(size[0].toInt(), size[1].toInt()), QColor(content.section(' ', 0, 0)));
+    } else {
+        folder.addFile(name, content.toUtf8());
+    }
+    _disk.insert(name, folder.content(name));
+    addRows(mediaSuffixes.contains(suffixOf(name)) && !_rows.contains(name) ? QStringList(name)
+                                                                            : QStringList());
+}
+
+void CatalogueJourney::removeOutside(const Arguments& names) {
+    select({});
+    for (const QString& name : names) {
+        QFile::remove(folder.filePath(name));
+        _disk.remove(name);
+    }
+    removeRows(names);
+}
+
+void CatalogueJourney::renameOutside(const Arguments& names) {
+    select({});
+    QFile::rename(folder.filePath(names[0]), folder.filePath(names[1]));
+    _disk.insert(names[1], _disk.take(names[0]));
+    addRows({names[1]});
+    removeRows({names[0]});
+}
+
+void CatalogueJourney::deleteFiles(const Arguments&) {
+    const ModalAnswer answer(QMessageBox::Ok);
+    driver.choose(_view.toUtf8().constData(), "&Delete file");
+    const QStringList names = selected().values();
+    for (const QString& name : names)
+        _disk.remove(name);
+    removeRows(names);
+    _removed = 0;
+}
+
+void CatalogueJourney::sort(const Arguments& entry) {
+    static const QMap<QString, int> columns{
+        {"&Name", ColName}, {"&Path", ColPath}, {"&Resolution", ColResolution}};
+    driver.choose(_view.toUtf8().constData(), "&Sort/" + entry[0]);
+    _sorting->column = columns[entry[0]];
+    _sorting->order = _sorting->order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+}
+
+void CatalogueJourney::view(const Arguments& entry) {
+    driver.choose(_view.toUtf8().constData(), "&View/" + entry[0]);
+    _view = entry[0] == "&List" ? "treeView" : entry[0] == "&Table" ? "tableView" : "listView";
+    if (_view == "listView")
+        _viewMode = entry[0] == "&Icon" ? "icon" : "list";
+    select({shown().constFirst()});
+}
+
+void CatalogueJourney::refresh(const Arguments& answer) {
+    select({});
+    const ModalAnswer question(answer[0] == "Yes" ? QMessageBox::Yes : QMessageBox::No);
+    driver.click("tBRefreshOpenFilePath");
+    if (answer[0] == "Yes")
+        scanned();
+}
+
+void CatalogueJourney::restart(const Arguments&) {
+    driver.restart();
+    _storedSorting = _sorting;
+    _filter.clear();
+    _tagFilter.clear();
+    _shownTags.clear();
+    _metadata.clear();
+    _searched.clear();
+    _makesBackups = _keepsDuplicates = false;
+    _label = "Current selection tags:";
+    _preview = "Media preview none";
+    scanned();
+}
+
+// --- the model -----------------------------------------------------------------------------------
+
+void CatalogueJourney::scanned() {
+    _rows.clear();
+    _selected.clear();
+    _searched.clear();
+    for (const QString& name : _disk.keys()) {
+        if (mediaSuffixes.contains(suffixOf(name)))
+            _rows.insert(name, makeRow(name));
+    }
+    if (_sorting)
+        _sorting = _storedSorting.value_or(Sorting{-1, _sorting->order});
+    else
+        _sorting = {-1, driver.widget<QTableView>("tableView")->horizontalHeader()->sortIndicatorOrder()};
+    bindEditor(_rows.keys());
+    tagsChanged();
+    say("Loaded all media previews in: T s");
+    applyFilter();
+}
+
+void CatalogueJourney::addRows(const QStringList& names) {
+    for (const QString& name : names)
+        _rows.insert(name, makeRow(name));
+    _added += int(names.size());
+    if (names.isEmpty())
+        return;
+    bindEditor(names);
+    tagsChanged();
+}
+
+void CatalogueJourney::removeRows(const QStringList& names) {
+    bool isRowGone = false;
+    bool isSelectedGone = false;
+    for (const QString& name : names) {
+        isRowGone = isRowGone || _rows.contains(name);
+        _removed += int(_rows.remove(name));
+        _hidden.remove(name);
+        for (QSet<QString>& chosen : _selected)
+            isSelectedGone = chosen.remove(name) || isSelectedGone;
+    }
+    if (isSelectedGone)
+        selectionChanged();
+    if (isRowGone)
+        tagsChanged();
+}
+
+void CatalogueJourney::selectionChanged() {
+    const QSet<QString>& names = selected();
+    _label = QString("Current selection [%1] tags:").arg(names.size());
+    _shownTags.clear();
+    if (names.isEmpty())
+        return;
+    QStringList texts;
+    for (const QString& name : names) {
+        _shownTags += _rows[name].tags;
+        texts.append(name + _rows[name].texts);
+    }
+    _metadata = sorted(texts);
+    bindEditor(names.values());
+    _isPreviewDue = true;
+    say(QString("Selected: %1 items").arg(names.size()));
+}
+
+// The list of all tags is built anew, which drops a search by it.
+void CatalogueJourney::tagsChanged() {
+    _tagFilterCounts = false;
+    if (_searched.isEmpty())
+        return;
+    _searched.clear();
+    hide({});
+    say("Found 0 images for tag: ");
+}
+
+void CatalogueJourney::removeTags(const QStringList& fromFiles, const QStringList& tags) {
+    for (const QString& name : fromFiles)
+        _rows[name].tags.removeIf([&](const QString& tag) { return tags.contains(tag); });
+    tagsChanged();
+    selectionChanged();
+}
+
+void CatalogueJourney::applyFilter() {
+    QSet<QString> missed;
+    for (const auto& [name, row] : std::as_const(_rows).asKeyValueRange()) {
+        const bool hits =
+            _filter.compare(":missingtxt", Qt::CaseInsensitive) == 0
+                ? _disk.value(txtNameOf(name)).isEmpty()
+                : (row.searched + '\n' + row.tags.join('\n')).contains(_filter, Qt::CaseInsensitive);
+        if (!hits)
+            missed.insert(name);
+    }
+    hide(_filter.isEmpty() ? QSet<QString>() : missed);
+}
+
+void CatalogueJourney::hide(const QSet<QString>& names) {
+    _hidden = names;
+    for (QSet<QString>& chosen : _selected)
+        chosen -= names;
+}
+
+void CatalogueJourney::writeSidecar(const QString& txtName, const QString& text) {
+    if (_makesBackups && _disk.contains(txtName)) {
+        int number = 0;
+        while (_disk.contains(txtName.chopped(4) + QString("_backup_%1.txt").arg(number)))
+            ++number;
+        _disk.insert(txtName.chopped(4) + QString("_backup_%1.txt").arg(number), _disk.take(txtName));
+    }
+    _disk.insert(txtName, text.toUtf8());
+}
+
+CatalogueJourney::Row CatalogueJourney::makeRow(const QString& name) const {
+    const QImage image(folder.filePath(name));
+    QImageReader reader(folder.filePath(name));
+    const QSize size = reader.size();
+    const QString resolution = QString("%1x%2").arg(size.width()).arg(size.height());
+    const QString toolTip =
+        resolution + ' ' + name.section('.', -1).toUpper() + '\n' + name + '\n' + folder.path();
+    Row row;
+    row.tags = pieces(textOf(txtNameOf(name)), true);
+    for (const QString& key : reader.textKeys())
+        row.texts += " " + key + "=" + reader.text(key);
+    row.searched = toolTip + '\n' + folder.filePath(name);
+    row.cells = QStringList{name,
+                            toolTip,
+                            resolution,
+                            row.texts.isEmpty() ? "No" : "Yes",
+                            name.section('.', -1),
+                            _disk.value(txtNameOf(name)).isEmpty() ? "No" : "Yes",
+                            middleColour(image)}
+                    .join(" | ");
+    row.preview = suffixOf(name) == "mp4" ? QString("Video preview none")
+                                          : QString("Image %1x%2 preview %3")
+                                                .arg(image.width())
+                                                .arg(image.height())
+                                                .arg(middleColour(image));
+    return row;
+}
+
+QStringList CatalogueJourney::shown() const {
+    QStringList names = _rows.keys();
+    names.removeIf([this](const QString& name) { return _hidden.contains(name); });
+    return names;
+}
+
+QString CatalogueJourney::textOf(const QString& txtName) const {
+    return QString::fromUtf8(_disk.value(txtName));
+}
+
+bool CatalogueJourney::isTagHidden(const QString& tag) const {
+    return _tagFilterCounts && !tag.contains(_tagFilter, Qt::CaseInsensitive);
+}
+
+// --- what can be seen ----------------------------------------------------------------------------
+
+Facts CatalogueJourney::expected() {
+    Facts facts;
+    for (const auto& [name, content] : std::as_const(_disk).asKeyValueRange())
+        facts["disk " + name] = contentFact(content);
+    const QStringList names = shown();
+    for (const char* view : {"listView", "treeView", "tableView"}) {
+        facts[QString(view) + " rows"] = sorted(names);
+        facts[QString(view) + " order"] = "sorted";
+    }
+    for (const QString& name : names)
+        facts["row " + name] = _rows[name].cells;
+    if (_sorting->column >= 0)
+        facts["sorted by"] = QString("%1 %2").arg(_sorting->column).arg(int(_sorting->order));
+    facts["view"] = _view + ' ' + _viewMode;
+    facts["selection"] = sorted(selected().values());
+    facts["label of the selection"] = _label;
+    facts["tags of the selection"] = sorted(_shownTags);
+    QMap<QString, int> counts;
+    for (const Row& row : std::as_const(_rows)) {
+        for (const QString& tag : row.tags)
+            ++counts[tag];
+    }
+    for (const auto& [tag, count] : std::as_const(counts).asKeyValueRange()) {
+        facts["tag " + tag] = QString("Count: %1%2").arg(count).arg(isTagHidden(tag) ? " hidden" : "");
+    }
+    facts["searched tags"] = sorted(_searched);
+    resolveBinding();
+    facts["editor label"] = (_isSidecarThere ? "File: " : "File tag, txt, missing for: ") +
+                            folder.filePath(txtNameOf(_editorFile));
+    facts["editor"] = _editorText;
+    facts["preview"] = _preview;
+    facts["metadata"] = _metadata;
+    facts["status"] = acceptableStatus();
+    facts["complaints"] = _complaints.join('\n');
+    facts["added, removed"] = QString("%1, %2").arg(_added).arg(_removed);
+    facts["new previews"] = _added > 0 ? "loaded" : "";
+    return facts;
+}
+
+void CatalogueJourney::resolveBinding() {
+    if (_bindings.isEmpty())
+        return;
+    const QString label = driver.text("labelTagsFromFile");
+    const auto isShown = [&](const QString& name) {
+        return label.endsWith(' ' + folder.filePath(txtNameOf(name)));
+    };
+    const auto shown = std::ranges::find_if(_bindings, isShown);
+    _editorFile = shown == _bindings.end() ? _bindings.first() : *shown;
+    _isSidecarThere = _disk.contains(txtNameOf(_editorFile));
+    _editorText = textOf(txtNameOf(_editorFile)).replace("\r\n", "\n");
+    if (_isPreviewDue)
+        _preview = _rows[_editorFile].preview;
+}
+
+// The watcher's messages and the end of a load may follow what the step itself says.
+QString CatalogueJourney::acceptableStatus() {
+    QStringList acceptable{_status};
+    const QStringList names = _disk.keys();
+    if (_namesBefore != QSet<QString>(names.cbegin(), names.cend()))
+        acceptable.append({"Removed 0 missing items.", QString("Removed %1 missing items.").arg(_removed)});
+    if (_added > 0)
+        acceptable.append("Loaded all media previews in: T s");
+    const QString status = timeless(driver.statusText());
+    if (acceptable.contains(status))
+        _status = status;
+    return _status;
+}
+
+Facts CatalogueJourney::seen() {
+    Facts facts = diskFacts(folder.path());
+    for (const char* view : {"listView", "treeView", "tableView"}) {
+        facts[QString(view) + " rows"] = sorted(driver.shownNames(view));
+        facts[QString(view) + " order"] = isInOrder(view) ? "sorted" : driver.shownNames(view).join(" | ");
+    }
+    const QAbstractItemModel* rows = driver.widget<QAbstractItemView>("listView")->model();
+    for (int row = 0; row < rows->rowCount(); ++row)
+        facts["row " + rows->index(row, ColName).data().toString()] = cellsOf(rows->index(row, ColName));
+    const QHeaderView* header = driver.widget<QTableView>("tableView")->horizontalHeader();
+    if (_sorting->column >= 0)
+        facts["sorted by"] =
+            QString("%1 %2").arg(header->sortIndicatorSection()).arg(int(header->sortIndicatorOrder()));
+    facts["view"] =
+        driver.currentView()->objectName() +
+        (driver.widget<QListView>("listView")->viewMode() == QListView::IconMode ? " icon" : " list");
+    facts["selection"] = sorted(driver.selectedNames());
+    facts["label of the selection"] = driver.text("labelCurrentSelectionTags");
+    facts["tags of the selection"] = sorted(driver.tagTexts("lwImageTags"));
+    const auto* tags = driver.widget<QListWidget>("lwAllImagesTags");
+    for (int row = 0; row < tags->count(); ++row)
+        facts["tag " + tags->item(row)->text()] +=
+            tags->item(row)->toolTip() + (tags->isRowHidden(row) ? " hidden" : "");
+    facts["searched tags"] = sorted(driver.tagTexts("lwAllImagesTags", true));
+    facts["editor label"] = driver.text("labelTagsFromFile");
+    facts["editor"] = driver.text("pTETagsFromFile");
+    const QString title =
+        driver.widget<QDockWidget>("dockWidget_ImgPreview")->windowTitle().section(" [", 0, 0);
+    const QImage preview = driver.widget<QWidget>("imgWidget")->grab().toImage();
+    facts["preview"] = title + ' ' + (title == "Video preview" ? "none" : middleColour(preview));
+    QStringList texts;
+    const auto* metadata = driver.widget<QTreeWidget>("tWComments");
+    for (int top = 0; top < metadata->topLevelItemCount(); ++top) {
+        texts.append(metadata->topLevelItem(top)->text(0));
+        for (int row = 0; row < metadata->topLevelItem(top)->childCount(); ++row) {
+            const QTreeWidgetItem* item = metadata->topLevelItem(top)->child(row);
+            texts.last() += " " + item->text(0) + "=" + item->text(1);
+        }
+    }
+    facts["metadata"] = sorted(texts);
+    facts["status"] = timeless(driver.statusText());
+    // A start without a server, and files that are no pictures, have theirs.
+    static const QRegularExpression complaint(
+        "^(?!.*(empty\\.png|truncated\\.png|no video\\.mp4|get reply error|not JSON|header state))"
+        "(Error|Failed|Unable|Warning)");
+    _log += driver.freshLog();
+    facts["complaints"] = _log.filter(complaint).join('\n');
+    facts["added, removed"] = QString("%1, %2")
+                                  .arg(countedInLog("^Added (\\d+) new items"))
+                                  .arg(countedInLog("^Removed (\\d+) missing items"));
+    const bool areLoaded = !_log.filter("Loaded all media previews in").isEmpty();
+    facts["new previews"] = _added > 0 && areLoaded ? "loaded" : "";
+    return facts;
+}
+
+QString CatalogueJourney::cellsOf(const QModelIndex& row) const {
+    QStringList cells{row.data().toString(), row.data(Qt::ToolTipRole).toString()};
+    for (const int column : {ColResolution, ColComment, ColSuffix, ColHasTxtFile})
+        cells.append(row.siblingAtColumn(column).data().toString());
+    cells.append(middleColour(row.data(Qt::DecorationRole).value<QImage>()));
+    return cells.join(" | ");
+}
+
+bool CatalogueJourney::isInOrder(const char* viewName) const {
+    if (_sorting->column < 0)
+        return true;
+    const QAbstractItemModel* model = driver.widget<QAbstractItemView>(viewName)->model();
+    for (int row = 1; row < model->rowCount(); ++row) {
+        const QVariant before = model->index(row - 1, _sorting->column).data(RoleValue);
+        const QVariant here = model->index(row, _sorting->column).data(RoleValue);
+        const auto comparison = QVariant::compare(before, here);
+        if (comparison ==
+            (_sorting->order == Qt::AscendingOrder ? QPartialOrdering::Greater : QPartialOrdering::Less))
+            return false;
+    }
+    return true;
+}
+
+int CatalogueJourney::countedInLog(const QString& pattern) const {
+    const QRegularExpression expression(pattern);
+    int count = 0;
+    for (const QString& line : _log)
+        count += expression.match(line).captured(1).toInt();
+    return count;
+}
+
+// --- random steps --------------------------------------------------------------------------------
+
+QString CatalogueJourney::randomStep(QRandomGenerator& random) const {
+    QStringList names;
+    for (const auto& [name, verb] : verbs().asKeyValueRange())
+        names += QStringList(verb.weight, name);
+    const QString verb = pick(random, names);
+    const QStringList listed = driver.tagTexts("lwAllImagesTags");
+    const QStringList ofSelection = driver.tagTexts("lwImageTags");
+    const QStringList chosen = driver.selectedNames();
+    QStringList visible = listed;
+    visible.removeIf([this](const QString& tag) { return isTagHidden(tag); });
+    const QString free = QString("new %1.png").arg(random.generate());
+    const QStringList filters{"",     "",     "bridge",          "fog", "SKY", ":missingTxt",
+                              ".jpg", "23x4", "nothing has this"};
+    QStringList arguments;
+    if (verb == "select" && !shown().isEmpty())
+        arguments = random.bounded(6) == 0 ? QStringList() : some(random, shown(), 4);
+    else if (verb == "filter" || verb == "filter tags")
+        arguments = {pick(random, filters)};
+    else if (verb == "search tags" && !visible.isEmpty())
+        arguments = random.bounded(3) == 0 ? QStringList() : some(random, visible, 2);
+    else if (verb == "add tags")
+        arguments = {pick(random, words) + "," + pick(random, words) + "\\n" + pick(random, words)};
+    else if ((verb == "delete tag" || verb == "delete tag everywhere") && !ofSelection.isEmpty() &&
+             !chosen.isEmpty())
+        arguments = {pick(random, ofSelection)};
+    else if (verb == "delete listed tags" && visible.size() > 6)
+        arguments = some(random, visible, 2);
+    else if (verb == "replace")
+        arguments = {pick(random, words), pick(random, words)};
+    else if (verb == "split")
+        arguments = {pick(random, QStringList{"_", " ", "og"})};
+    else if (verb == "check")
+        arguments = {pick(random, QStringList{"cBBackupTxt", "cBSaveTagsDuplicates"})};
+    else if (verb == "type and save" && _rows.contains(_editorFile))
+        arguments = {pick(random, words) + " , " + pick(random, words)};
+    else if (verb == "write outside")
+        arguments = random.bounded(3) > 0 && _rows.size() < 40
+                        ? QStringList{free, QString("%1 %2x%3")
+                                                .arg(pick(random, colours))
+                                                .arg(random.bounded(20, 90))
+                                                .arg(random.bounded(20, 90))}
+                        : QStringList{txtNameOf(pick(random, _rows.keys())), pick(random, words)};
+    else if (verb == "remove outside" && _rows.size() > 15)
+        arguments = some(random, _rows.keys(), 2);
+    else if (verb == "rename outside")
+        arguments = {pick(random, _rows.keys()), free};
+    else if (verb == "sort" && !chosen.isEmpty())
+        arguments = {pick(random, QStringList{"&Name", "&Path", "&Resolution"})};
+    else if (verb == "view" && !chosen.isEmpty())
+        arguments = {pick(random, QStringList{"&Icon", "&List simple", "&List", "&Table"})};
+    else if (verb == "refresh")
+        arguments = {pick(random, QStringList{"Yes", "No"})};
+    else if (verb == "edit tag file") {
+        QStringList filled = shown();
+        filled.removeIf([this](const QString& name) { return _disk.value(txtNameOf(name)).isEmpty(); });
+        if (!filled.isEmpty())
+            arguments = {pick(random, filled), pick(random, words) + "," + pick(random, words)};
+    }
+    const bool needsNoArguments = verb == "save" || verb == "restart" ||
+                                  (verb == "delete file" && chosen.size() == 1 && _rows.size() > 15);
+    if (arguments.isEmpty() && !needsNoArguments)
+        return "select: ";
+    return verb + ": " + arguments.join('|');
+}
