@@ -90,7 +90,8 @@ const QMap<QString, CatalogueJourney::Verb>& CatalogueJourney::verbs() {
         {"split", {&J::splitText, 2}},
         {"save", {&J::save, 6}},
         {"check", {&J::check, 2}},
-        {"type and save", {&J::typeAndSave, 5}},
+        {"type", {&J::type, 5}},
+        {"save typed", {&J::saveTyped, 5}},
         {"edit tag file", {&J::editTagFile, 3}},
         {"write outside", {&J::writeOutside, 6}},
         {"remove outside", {&J::removeOutside, 3}},
@@ -171,6 +172,7 @@ QString CatalogueJourney::perform(const QString& step) {
     static_cast<void>(driver.freshLog());
     _log.clear();
     _complaints.clear();
+    _said = {timeless(driver.statusText())};
     _added = _removed = 0;
     _bindings.clear();
     _isPreviewDue = false;
@@ -194,13 +196,11 @@ QString CatalogueJourney::difference() {
 
 void CatalogueJourney::select(const Arguments& names) {
     driver.select(names);
-    const QSet<QString> before = std::exchange(selected(), {names.cbegin(), names.cend()});
-    if (selected() != before)
-        selectionChanged();
+    selected() = {names.cbegin(), names.cend()};
+    compareSelection();
 }
 
 void CatalogueJourney::filter(const Arguments& text) {
-    select({});
     driver.widget<QLineEdit>("leFilterImages")->setText(text.value(0));
     if (_filter == text.value(0))
         return;
@@ -209,7 +209,6 @@ void CatalogueJourney::filter(const Arguments& text) {
 }
 
 void CatalogueJourney::searchTags(const Arguments& tags) {
-    select({});
     auto* list = driver.widget<QListWidget>("lwAllImagesTags");
     QItemSelection items;
     for (int row = 0; row < list->count(); ++row) {
@@ -318,7 +317,6 @@ void CatalogueJourney::splitText(const Arguments& text) {
 }
 
 void CatalogueJourney::save(const Arguments&) {
-    select({});
     driver.click("tBSaveTags");
     for (const auto& [name, row] : std::as_const(_rows).asKeyValueRange()) {
         QStringList tags = row.tags;
@@ -337,16 +335,19 @@ void CatalogueJourney::check(const Arguments& boxName) {
     isOn = !isOn;
 }
 
-void CatalogueJourney::typeAndSave(const Arguments& text) {
+void CatalogueJourney::type(const Arguments& text) {
     auto* edit = driver.widget<QPlainTextEdit>("pTETagsFromFile");
     edit->selectAll();
-    edit->insertPlainText(text.value(0));
+    edit->insertPlainText(text[0]);
+    _editorText = text[0];
+    _isTyped = true;
+}
+
+void CatalogueJourney::saveTyped(const Arguments&) {
     driver.click("tBSaveTagTxtFile");
-    writeSidecar(txtNameOf(_editorFile), text.value(0));
-    _editorText = text.value(0);
-    _rows[_editorFile].tags = pieces(text.value(0), true);
-    _shownTags = _rows[_editorFile].tags;
-    tagsChanged();
+    writeSidecar(txtNameOf(_editorFile), _editorText);
+    _isTyped = false;
+    takeTags(_editorFile, _editorText);
 }
 
 void CatalogueJourney::editTagFile(const Arguments& nameAndText) {
@@ -356,9 +357,7 @@ void CatalogueJourney::editTagFile(const Arguments& nameAndText) {
     dialog->findChild<QPlainTextEdit*>()->setPlainText(nameAndText[1]);
     dialog->findChild<QPushButton*>("pBAdd")->click();
     writeSidecar(txtNameOf(nameAndText[0]), nameAndText[1]);
-    _rows[nameAndText[0]].tags = pieces(nameAndText[1], true);
-    _shownTags = _rows[nameAndText[0]].tags;
-    tagsChanged();
+    takeTags(nameAndText[0], nameAndText[1]);
     bindEditor({nameAndText[0]});
 }
 
@@ -378,7 +377,6 @@ void CatalogueJourney::writeOutside(const Arguments& nameAndContent) {
 }
 
 void CatalogueJourney::removeOutside(const Arguments& names) {
-    select({});
     for (const QString& name : names) {
         QFile::remove(folder.filePath(name));
         _disk.remove(name);
@@ -387,7 +385,6 @@ void CatalogueJourney::removeOutside(const Arguments& names) {
 }
 
 void CatalogueJourney::renameOutside(const Arguments& names) {
-    select({});
     QFile::rename(folder.filePath(names[0]), folder.filePath(names[1]));
     _disk.insert(names[1], _disk.take(names[0]));
     addRows({names[1]});
@@ -417,11 +414,10 @@ void CatalogueJourney::view(const Arguments& entry) {
     _view = entry[0] == "&List" ? "treeView" : entry[0] == "&Table" ? "tableView" : "listView";
     if (_view == "listView")
         _viewMode = entry[0] == "&Icon" ? "icon" : "list";
-    select({shown().constFirst()});
+    compareSelection();
 }
 
 void CatalogueJourney::refresh(const Arguments& answer) {
-    select({});
     const ModalAnswer question(answer[0] == "Yes" ? QMessageBox::Yes : QMessageBox::No);
     driver.click("tBRefreshOpenFilePath");
     if (answer[0] == "Yes")
@@ -437,6 +433,7 @@ void CatalogueJourney::restart(const Arguments&) {
     _metadata.clear();
     _searched.clear();
     _makesBackups = _keepsDuplicates = false;
+    _reported.clear();
     _label = "Current selection tags:";
     _preview = "Media preview none";
     scanned();
@@ -448,6 +445,8 @@ void CatalogueJourney::scanned() {
     _rows.clear();
     _selected.clear();
     _searched.clear();
+    _isTyped = false;
+    compareSelection();
     for (const QString& name : _disk.keys()) {
         if (mediaSuffixes.contains(suffixOf(name)))
             _rows.insert(name, makeRow(name));
@@ -468,28 +467,32 @@ void CatalogueJourney::addRows(const QStringList& names) {
     _added += int(names.size());
     if (names.isEmpty())
         return;
-    bindEditor(names);
+    if (!_isTyped)
+        bindEditor(names);
     tagsChanged();
 }
 
 void CatalogueJourney::removeRows(const QStringList& names) {
-    bool isRowGone = false;
-    bool isSelectedGone = false;
     for (const QString& name : names) {
-        isRowGone = isRowGone || _rows.contains(name);
         _removed += int(_rows.remove(name));
         _hidden.remove(name);
         for (QSet<QString>& chosen : _selected)
-            isSelectedGone = chosen.remove(name) || isSelectedGone;
+            chosen.remove(name);
     }
-    if (isSelectedGone)
-        selectionChanged();
-    if (isRowGone)
+    compareSelection();
+    if (_removed > 0)
         tagsChanged();
+}
+
+// The window looks again where what is selected is not what it has shown.
+void CatalogueJourney::compareSelection() {
+    if (selected() != _reported)
+        selectionChanged();
 }
 
 void CatalogueJourney::selectionChanged() {
     const QSet<QString>& names = selected();
+    _reported = names;
     _label = QString("Current selection [%1] tags:").arg(names.size());
     _shownTags.clear();
     if (names.isEmpty())
@@ -513,6 +516,12 @@ void CatalogueJourney::tagsChanged() {
     _searched.clear();
     hide({});
     say("Found 0 images for tag: ");
+}
+
+void CatalogueJourney::takeTags(const QString& name, const QString& text) {
+    _rows[name].tags = pieces(text, true);
+    _shownTags = _rows[name].tags;
+    tagsChanged();
 }
 
 void CatalogueJourney::removeTags(const QStringList& fromFiles, const QStringList& tags) {
@@ -539,6 +548,7 @@ void CatalogueJourney::hide(const QSet<QString>& names) {
     _hidden = names;
     for (QSet<QString>& chosen : _selected)
         chosen -= names;
+    compareSelection();
 }
 
 void CatalogueJourney::writeSidecar(const QString& txtName, const QString& text) {
@@ -642,25 +652,27 @@ void CatalogueJourney::resolveBinding() {
         return label.endsWith(' ' + folder.filePath(txtNameOf(name)));
     };
     const auto shown = std::ranges::find_if(_bindings, isShown);
-    _editorFile = shown == _bindings.end() ? _bindings.first() : *shown;
-    _isSidecarThere = _disk.contains(txtNameOf(_editorFile));
-    _editorText = textOf(txtNameOf(_editorFile)).replace("\r\n", "\n");
+    const QString before = std::exchange(_editorFile, shown == _bindings.end() ? _bindings.first() : *shown);
     if (_isPreviewDue)
         _preview = _rows[_editorFile].preview;
+    _isTyped = _isTyped && before == _editorFile;
+    if (_isTyped)
+        return;
+    _isSidecarThere = _disk.contains(txtNameOf(_editorFile));
+    _editorText = textOf(txtNameOf(_editorFile)).replace("\r\n", "\n");
 }
 
 // The watcher's messages and the end of a load may follow what the step itself says.
 QString CatalogueJourney::acceptableStatus() {
-    QStringList acceptable{_status};
+    // Two messages of one step come in an order of the window's choice.
+    QStringList acceptable = _said.size() == 1 ? _said : _said.mid(std::max<qsizetype>(1, _said.size() - 2));
     const QStringList names = _disk.keys();
     if (_namesBefore != QSet<QString>(names.cbegin(), names.cend()))
         acceptable.append({"Removed 0 missing items.", QString("Removed %1 missing items.").arg(_removed)});
     if (_added > 0)
         acceptable.append("Loaded all media previews in: T s");
     const QString status = timeless(driver.statusText());
-    if (acceptable.contains(status))
-        _status = status;
-    return _status;
+    return acceptable.contains(status) ? status : acceptable.constFirst();
 }
 
 Facts CatalogueJourney::seen() {
@@ -784,7 +796,7 @@ QString CatalogueJourney::randomStep(QRandomGenerator& random) const {
         arguments = {pick(random, QStringList{"_", " ", "og"})};
     else if (verb == "check")
         arguments = {pick(random, QStringList{"cBBackupTxt", "cBSaveTagsDuplicates"})};
-    else if (verb == "type and save" && _rows.contains(_editorFile))
+    else if (verb == "type" && _rows.contains(_editorFile))
         arguments = {pick(random, words) + " , " + pick(random, words)};
     else if (verb == "write outside")
         arguments = random.bounded(3) > 0 && _rows.size() < 40
@@ -810,7 +822,8 @@ QString CatalogueJourney::randomStep(QRandomGenerator& random) const {
             arguments = {pick(random, filled), pick(random, words) + "," + pick(random, words)};
     }
     const bool needsNoArguments = verb == "save" || verb == "restart" ||
-                                  (verb == "delete file" && chosen.size() == 1 && _rows.size() > 15);
+                                  (verb == "save typed" && _isTyped && _rows.contains(_editorFile)) ||
+                                  (verb == "delete file" && !chosen.isEmpty() && _rows.size() > 15);
     if (arguments.isEmpty() && !needsNoArguments)
         return "select: ";
     return verb + ": " + arguments.join('|');

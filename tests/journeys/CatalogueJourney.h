@@ -56,7 +56,8 @@ private:
     void splitText(const Arguments& text);
     void save(const Arguments&);
     void check(const Arguments& boxName);
-    void typeAndSave(const Arguments& text);
+    void type(const Arguments& text);
+    void saveTyped(const Arguments&);
     void editTagFile(const Arguments& nameAndText);
     void writeOutside(const Arguments& nameAndContent);
     void removeOutside(const Arguments& names);
@@ -71,15 +72,17 @@ private:
     void scanned();
     void addRows(const QStringList& names);
     void removeRows(const QStringList& names);
+    void compareSelection();
     void selectionChanged();
     void tagsChanged();
+    void takeTags(const QString& name, const QString& text);
     void removeTags(const QStringList& fromFiles, const QStringList& tags);
     void applyFilter();
     void hide(const QSet<QString>& names);
     void bindEditor(const QStringList& candidates) { _bindings = candidates; }
     void resolveBinding();
     void writeSidecar(const QString& txtName, const QString& text);
-    void say(const QString& message) { _status = message; }
+    void say(const QString& message) { _said.append(message); }
     [[nodiscard]] Row makeRow(const QString& name) const;
     [[nodiscard]] QSet<QString>& selected() { return _selected[_view]; }
     [[nodiscard]] QStringList shown() const;
@@ -96,6 +99,7 @@ private:
     QMap<QString, Row> _rows;
     QSet<QString> _hidden;
     QMap<QString, QSet<QString>> _selected; // by view
+    QSet<QString> _reported;
     QString _view = "listView";
     QString _viewMode = "icon";
     QString _filter;
@@ -108,19 +112,20 @@ private:
     QString _editorFile;
     QString _editorText;
     bool _isSidecarThere = false;
+    bool _isTyped = false; // and not yet saved
     QString _preview;
     // Which of several files comes first is the window's choice, so one of these.
     QStringList _bindings;
     bool _isPreviewDue = false;
     std::optional<Sorting> _sorting;
     std::optional<Sorting> _storedSorting;
-    QString _status;
     bool _keepsDuplicates = false;
     bool _makesBackups = false;
     // Of the running step.
     QSet<QString> _namesBefore;
     QStringList _log;
     QStringList _complaints;
+    QStringList _said; // what the status bar showed before, and the messages since
     int _added = 0;
     int _removed = 0;
 };
