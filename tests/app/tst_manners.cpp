@@ -17,11 +17,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDockWidget>
-#include <QFile>
 #include <QGroupBox>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
@@ -87,20 +83,7 @@ class MannersTest : public QObject {
     Q_OBJECT
 
 public:
-    // The offscreen platform's own screen is smaller than any desktop.
-    static void initMain() {
-        const QByteArray name = "screen.json";
-        const QJsonObject screen{{"name", "small"},
-                                 {"width", smallScreen.width()},
-                                 {"height", smallScreen.height()},
-                                 {"logicalDpi", 96},
-                                 {"dpr", 1}};
-        QFile file(QString::fromLatin1(name));
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("cannot write %s", name.data());
-        file.write(QJsonDocument(QJsonObject{{"screens", QJsonArray{screen}}}).toJson());
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + name);
-    }
+    static void initMain() { WindowDriver::useScreen(smallScreen); }
 
 private slots:
     void initTestCase() {

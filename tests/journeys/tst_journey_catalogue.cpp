@@ -57,7 +57,7 @@ private slots:
                  "refresh: Yes",
                  "select: 10.png",
                  "view: &List simple",
-                 "select: empty.png",
+                 "select: truncated.png",
                  "sort: &Path",
                  "restart: ",
                  "select: quote'd \"name\".png|back\\slash.png",

@@ -10,6 +10,9 @@
 #include <QDir>
 #include <QFile>
 #include <QItemSelectionModel>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStackedWidget>
@@ -24,6 +27,16 @@ QString WindowDriver::emptyDirectory() {
     const QString path = QCoreApplication::applicationDirPath() + "/empty";
     QDir().mkpath(path);
     return path;
+}
+
+void WindowDriver::useScreen(QSize size) {
+    QFile file("screen.json");
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write screen.json");
+    const QJsonObject screen{
+        {"name", "desk"}, {"width", size.width()}, {"height", size.height()}, {"logicalDpi", 96}, {"dpr", 1}};
+    file.write(QJsonDocument(QJsonObject{{"screens", QJsonArray{screen}}}).toJson());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screen.json");
 }
 
 WindowDriver::WindowDriver(const QString& workingPath) : _window(std::make_unique<MainWindow>()) {

@@ -17,6 +17,8 @@ public:
     // Removes what an earlier run left beside the executable.
     static void forgetSettings();
     [[nodiscard]] static QString emptyDirectory();
+    // Before the application is made: the offscreen platform's own screen is smaller than any desktop.
+    static void useScreen(QSize size);
 
     // Opens the window on a directory, as its start does. With an empty path on an empty one.
     explicit WindowDriver(const QString& workingPath = {});
