@@ -88,7 +88,9 @@ private slots:
         QCOMPARE(view->iconSize(), iconSize);
     }
 
-    void everyWayOfClosingStores_data() {
+    // Each setting of the dialog, found by walking it, changes what the program does, at once and after a
+    // restart.
+    void everySettingHasItsEffect_data() {
         using Leave = ModalAnswer::DialogAnswer;
         addRows<Leave>({
             {"the button", Leave(close)},
@@ -96,32 +98,56 @@ private slots:
             {"Escape", Leave([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); })},
         });
     }
-    void everyWayOfClosingStores() {
+    void everySettingHasItsEffect() {
         const auto& [leave] = row<ModalAnswer::DialogAnswer>();
-        {
-            const WindowDriver driver;
-            QVERIFY(answerOptions(driver, [&leave = leave](QDialog* dialog) {
-                set(dialog, 9999, 16, 128);
-                for (QCheckBox* box : dialog->findChildren<QCheckBox*>())
-                    box->toggle();
-                dialog->resize(500, 650);
-                leave(dialog);
-            }));
-        }
-        const QVariantHash stored = readSettings();
-        QCOMPARE(stored.value(keys::gridSizeListView.key), QVariant(QSize(9999, 16)));
-        QCOMPARE(stored.value(keys::imagePreviewThreadCount.key), QVariant(128));
-        QCOMPARE(stored.value(keys::importFilesDeleteSrc.key), QVariant(true));
-        QCOMPARE(stored.value(keys::importFilesAutoRename.key), QVariant(true));
-        QCOMPARE(stored.value(keys::includeMetaInfo.key), QVariant(false));
-        QCOMPARE(stored.value(keys::includeTensorInfo.key), QVariant(true));
-        const WindowDriver driver;
-        QVERIFY(answerOptions(driver, [](QDialog* dialog) {
-            QCOMPARE(dialog->size(), QSize(500, 650));
-            QCOMPARE(shown(dialog), QString("9999 16 128 cBImportFilesDeleteSrc cBImportFilesAutoRename "
-                                            "cBSafetensorsIncTensors"));
-            close(dialog);
+        const MediaFolder folder;
+        const MediaFolder source;
+        folder.addImage("a.png");
+        WindowDriver driver(folder.path());
+        QStringList settings;
+        QVERIFY(answerOptions(driver, [&settings, &leave = leave](QDialog* dialog) {
+            set(dialog, 100, 80, 9);
+            for (QCheckBox* box : dialog->findChildren<QCheckBox*>())
+                box->toggle();
+            for (const QSpinBox* box : dialog->findChildren<QSpinBox*>())
+                settings.append(box->objectName());
+            for (const QCheckBox* box : dialog->findChildren<QCheckBox*>())
+                settings.append(box->objectName());
+            leave(dialog);
         }));
+        QVERIFY(driver.waitForLoad());
+        for (const bool isRestarted : {false, true}) {
+            if (isRestarted)
+                driver.restart();
+            else
+                driver.rescan();
+            QMap<QString, QString> effects;
+            const QSize grid = driver.widget<QListView>("listView")->gridSize();
+            effects["sBGridSizeW"] = QString::number(grid.width());
+            effects["sBGridSizeH"] = QString::number(grid.height());
+            const QStringList threads = driver.freshLog().filter("Created image threads:");
+            effects["sBPreviewThreadCount"] = threads.isEmpty() ? QString() : threads.last().section(' ', -1);
+            source.addImage("a.png");
+            const ModalAnswer files(chooseFiles({source.filePath("a.png")}));
+            driver.trigger("action_Import_files");
+            const QString name = isRestarted ? "a_1.png" : "a_0.png";
+            effects["cBImportFilesAutoRename"] = folder.exists(name) ? "renamed" : "refused";
+            effects["cBImportFilesDeleteSrc"] = source.exists("a.png") ? "kept" : "deleted";
+            source.addFile("model.safetensors", QByteArray("\x02\0\0\0\0\0\0\0{}", 10));
+            const ModalAnswer models(chooseFiles({source.filePath("model.safetensors")}));
+            driver.trigger("action_InspectSafetensor");
+            const QWidget* inspector = driver.toolWindow("SafetensorsDialog");
+            const auto isOn = [&](const char* box) {
+                return inspector->findChild<QCheckBox*>(box)->isChecked();
+            };
+            effects["cBSafetensorsIncMeta"] = isOn("cBMetainfo") ? "shown" : "left out";
+            effects["cBSafetensorsIncTensors"] = isOn("cBTensor") ? "shown" : "left out";
+            settings.sort();
+            QCOMPARE(effects.keys(), settings);
+            QCOMPARE(effects.values(),
+                     (QStringList{"renamed", "deleted", "left out", "shown", "80", "100", "9"}));
+            QTRY_VERIFY(driver.shownNames().contains(name));
+        }
     }
 
     void badStoredSizesDoNoHarm_data() {
@@ -130,11 +156,11 @@ private slots:
     void badStoredSizesDoNoHarm() {
         const auto& [gridSize] = row<QVariant>();
         QSettings(settingsPath(), QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::gridSizeListView.key, gridSize},
-                                                   {keys::gridSizeTreeView.key, gridSize},
-                                                   {keys::gridSizeTableView.key, gridSize},
-                                                   {keys::optionDialogGeometry.key, "nonsense"},
-                                                   {keys::imagePreviewThreadCount.key, -3}});
+            .setValue("settingsData", QVariantHash{{keys::gridSizeListView, gridSize},
+                                                   {keys::gridSizeTreeView, gridSize},
+                                                   {keys::gridSizeTableView, gridSize},
+                                                   {keys::optionDialogGeometry, "nonsense"},
+                                                   {keys::imagePreviewThreadCount, -3}});
         const MediaFolder folder;
         folder.addImage("a.png");
         WindowDriver driver(folder.path());
@@ -157,7 +183,7 @@ private slots:
         }));
         QCOMPARE(WindowDriver::logCount("MainWindow::onOptionsClosed"), 0);
         QCOMPARE(WindowDriver::logCount(scanLog), scans);
-        QCOMPARE(readSettings().value(keys::gridSizeListView.key), QVariant(QSize(99, 240)));
+        QCOMPARE(readSettings().value(keys::gridSizeListView), QVariant(QSize(99, 240)));
     }
 
     void theSettingsEditorRemovesRows() {
