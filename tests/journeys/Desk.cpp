@@ -29,6 +29,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QUrl>
 #include <QVideoFrame>
@@ -192,6 +193,8 @@ QString Desk::perform(const Step& step) {
     _asked.clear();
     _sorts = _sortsTags = false;
     _opened.clear();
+    static_cast<void>(driver.freshLog());
+    _log.clear();
     const Facts before = world();
     _sorts = parts.first().contains("&Sort/");
     _sortsTags = parts.first() == "lwAllImagesTags > &Sort";
@@ -291,6 +294,13 @@ void Desk::act(const QString& what) {
             tabs->setCurrentIndex(value.toInt());
         else
             target->setProperty(target->property("value").isValid() ? "value" : "text", value);
+    } else if (auto* tool = qobject_cast<QToolButton*>(
+                   what.contains(" > ") ? widget(what.section(" > ", 0, 0)) : nullptr)) {
+        _used.insert(tool->objectName());
+        for (QAction* action : tool->menu()->actions()) {
+            if (action->text() == what.section(" > ", 1))
+                return action->trigger();
+        }
     } else if (what.contains(" > ")) {
         const ModalAnswer answer(what.section(" > ", 1));
         emit widget(what.section(" > ", 0, 0))->customContextMenuRequested({});
@@ -365,7 +375,7 @@ QString Desk::fileFact(const QString& name, const QByteArray& content) {
         versions.append(content);
     const QImage image = QImage::fromData(content);
     const QString shown =
-        frameNumber(image) >= 0 ? QString("frame %1").arg(frameNumber(image))
+        !image.isNull() && frameNumber(image) >= 0 ? QString("frame %1").arg(frameNumber(image))
         : image.isNull()
             ? contentFact(content)
             : QString("%1x%2 %3").arg(image.width()).arg(image.height()).arg(middleColour(image));
@@ -437,6 +447,12 @@ Facts Desk::world() {
     }
     if (_sortsTags)
         facts["order of tags"] = driver.tagTexts("lwAllImagesTags").join('|');
+    static const QRegularExpression complaint(
+        "^(?!.*(get reply error|not JSON|header state))(Error|Failed|Unable|Warning)");
+    _log += driver.freshLog();
+    QStringList complaints = _log.filter(complaint);
+    complaints.removeDuplicates();
+    facts["complaints"] = plain(complaints.join('|'));
     facts["opened"] = plain(_opened.join('|'));
     facts["selected"] = driver.selectedNames().join('|');
     facts["clipboard"] = plain(QGuiApplication::clipboard()->text());
@@ -451,8 +467,9 @@ void Desk::walk() {
     for (QWidget* window : QList<QWidget*>{&driver.window()} + windows()) {
         const QString owner = window == &driver.window() ? QString() : window->objectName() + '.';
         for (const auto* button : window->findChildren<QAbstractButton*>()) {
-            if (button->window() == window && !button->objectName().startsWith("qt_") &&
-                !button->objectName().isEmpty() && button->objectName()[0].isLower())
+            if (button->window() == window && !button->isHidden() &&
+                !button->objectName().startsWith("qt_") && !button->objectName().isEmpty() &&
+                button->objectName()[0].isLower())
                 _found.insert(owner + button->objectName());
         }
         for (const QAction* action : window->findChildren<QAction*>(Qt::FindDirectChildrenOnly)) {

@@ -74,6 +74,7 @@ private:
     QMap<QString, QList<QByteArray>> _versions;
     QStringList _asked;
     QStringList _opened;
+    QStringList _log;
     bool _sorts = false;
     bool _sortsTags = false;
     inline static QSet<QString> _found;

@@ -49,7 +49,7 @@ private slots:
                  "select: 10.png|IMG_0002.JPG",
                  "sort: &Resolution",
                  "select: [1].png|10.png|2.png|-dash.png",
-                 "filter: 10",
+                 "filter: 10.png",
                  "filter: ",
                  "select: [1].png|empty.png|-dash.png",
                  "delete file: ",

@@ -3,8 +3,15 @@
 #include "ollama/OllamaPeer.h"
 #include "support/Clips.h"
 
+#include <QBuffer>
+#include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QHashSeed>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSlider>
+#include <QSpinBox>
 #include <QTest>
 
 namespace {
@@ -13,6 +20,26 @@ void live(Desk& desk, const QList<Step>& steps) {
     const QString differs = desk.perform(steps);
     desk.walk();
     QVERIFY2(differs.isEmpty(), qPrintable(differs));
+}
+
+// The bytes that transformation and quality of the form must give.
+void resizingObeysItsForm(Desk& desk) {
+    const QImage fine(desk.folder.filePath("fine.jpg"));
+    for (const int quality : {100, 20}) {
+        for (const auto mode : {Qt::FastTransformation, Qt::SmoothTransformation}) {
+            desk.driver.select({"fine.jpg"});
+            desk.driver.widget<QComboBox>("cBResizeSrcTransformationType")->setCurrentIndex(int(mode));
+            desk.driver.widget<QSlider>("hSResizeImgWriteQuality")->setValue(quality);
+            desk.driver.widget<QSpinBox>("sBSpecificW")->setValue(90);
+            desk.driver.widget<QSpinBox>("sBSpecificH")->setValue(-1);
+            desk.driver.click("pBProcessResize");
+            QBuffer expected;
+            QImageWriter writer(&expected, "jpg");
+            writer.setQuality(quality);
+            QVERIFY(expected.open(QIODevice::WriteOnly) && writer.write(fine.scaledToWidth(90, mode)));
+            QVERIFY(desk.folder.content("scaled/fine.jpg") == expected.data());
+        }
+    }
 }
 
 QByteArray modelFile(const QByteArray& header, int dataSize) {
@@ -42,346 +69,362 @@ private slots:
             folder.addTags("c.png", "waiting");
             folder.addTags("gone.png", "stray");
         });
-        live(
-            desk,
-            {
-                {"select a.png",
-                 "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; "
-                 "labelCurrentSelectionTags=Current "
-                 "selection [1] tags: ; lwImageTags=cat|dog ; selected=a.png ; statusbar=Selected: 1 items ; "
-                 "tWComments=a.png|parameters: a workflow"},
-                {"listView > Copy co&mment", "clipboard=a workflow"},
-                {"listView > E&xtract workflow -> FOLDER/sub",
-                 "asked=Select directory ; disk sub/a.json=\"a workflow\""},
-                {"listView > &Copy files -> FOLDER/other",
-                 "asked=Select directory ; statusbar=Error, unable to copy file: FOLDER/a.png to: "
-                 "FOLDER/other/a.png error: Destination file exists"},
-                {"listView > &Open in native app", "opened=FOLDER/a.png"},
-                {"listView > Show file in &file browser", "opened=FOLDER"},
-                {"listView > &View/&List simple", "listView=a.png|b.jpg (list)"},
-                {"listView > &View/&List",
-                 "labelCurrentSelectionTags=Current selection [0] tags: ; "
-                 "lwImageTags=(nothing) ; selected=(nothing) ; stackedWidget=page 1"},
-                {"select b.jpg",
-                 "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; "
-                 "labelCurrentSelectionTags=Current "
-                 "selection [1] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
-                 "pTETagsFromFile=(nothing) ; selected=b.jpg ; statusbar=Selected: 1 items ; "
-                 "tWComments=b.jpg"},
-                {"treeView > &View/&Table", "labelCurrentSelectionTags=Current selection [0] tags: ; "
-                                            "selected=(nothing) ; stackedWidget=page 2"},
-                {"select b.jpg", "labelCurrentSelectionTags=Current selection [1] tags: ; selected=b.jpg"},
-                {"tableView > &View/&Icon",
-                 "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelTagsFromFile=File: "
-                 "FOLDER/a.txt ; listView=a.png|b.jpg ; lwImageTags=cat|dog ; pTETagsFromFile=cat, dog ; "
-                 "selected=a.png ; stackedWidget=page 0 ; tWComments=a.png|parameters: a workflow"},
-                {"action_Import_files -> FOLDER/sub/c.png|FOLDER/other/a.png",
-                 "asked=Select files to import ; disk c.png=20x20 yellow ; labelTagsFromFile=File: "
-                 "FOLDER/c.txt "
-                 "; listView=a.png|b.jpg|c.png ; lwAllImagesTags=cat|dog|waiting ; pTETagsFromFile=waiting ; "
-                 "row "
-                 "c.png=20x20 yellow ; statusbar=Loaded all media previews in T s ; "
-                 "tableView=a.png|b.jpg|c.png "
-                 "(list) ; treeView=a.png|b.jpg|c.png (list)"},
-                {"listView > &Import files -> FOLDER/sub/c.png",
-                 "asked=Select files to import ; statusbar=Unable to import file from FOLDER/sub/c.png, file "
-                 "already exist at: FOLDER/c.png"},
-                {"listView > &Copy files -> FOLDER/sub", "asked=Select directory ; disk sub/a.png=40x30 red"},
-                {"remove c.png",
-                 "disk c.png=(nothing) ; listView=a.png|b.jpg ; lwAllImagesTags=cat|dog ; row "
-                 "c.png=(nothing) ; statusbar=Removed 1 missing items. ; tableView=a.png|b.jpg "
-                 "(list) ; treeView=a.png|b.jpg (list)"},
-                {"write d.png cyan 70x20",
-                 "disk d.png=70x20 cyan ; labelTagsFromFile=File tag, txt, missing for: FOLDER/d.txt ; "
-                 "listView=a.png|b.jpg|d.png ; pTETagsFromFile=(nothing) ; row d.png=70x20 cyan ; "
-                 "statusbar=Loaded all media previews in T s ; tableView=a.png|b.jpg|d.png (list) ; "
-                 "treeView=a.png|b.jpg|d.png (list)"},
-                {"cBWorkingDirScanRecursive", "cBWorkingDirScanRecursive=rec. on"},
-                {"tBRefreshOpenFilePath -> No", "asked=Refresh FOLDER working directory?"},
-                {"tBRefreshOpenFilePath -> Yes",
-                 "asked=Refresh FOLDER working directory? ; labelCurrentSelectionTags=Current selection [0] "
-                 "tags: ; labelTagsFromFile=* ; listView=a.png|a.png|a.png|b.jpg|c.png|d.png ; "
-                 "lwAllImagesTags=cat|dog|inner ; lwImageTags=(nothing) ; pTETagsFromFile=* ; row "
-                 "other/a.png=22x22 cyan ; row sub/a.png=40x30 red ; row sub/c.png=20x20 yellow ; "
-                 "selected=(nothing) ; tableView=a.png|a.png|a.png|b.jpg|c.png|d.png (list) ; "
-                 "treeView=a.png|a.png|a.png|b.jpg|c.png|d.png (list)"},
-                {"select b.jpg|d.png",
-                 "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; "
-                 "labelCurrentSelectionTags=Current "
-                 "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
-                 "pTETagsFromFile=(nothing) ; selected=b.jpg|d.png ; statusbar=Selected: 2 items ; "
-                 "tWComments=b.jpg|d.png"},
-                {"listView > &Sort/&Path",
-                 "order of rows=FOLDER/sub|FOLDER/sub|FOLDER/other|FOLDER|FOLDER|FOLDER"},
-                {"listView > &Sort/&Resolution", "order of rows=20x20|22x22|40x30|40x30|70x20|50x30"},
-                {"listView > &Sort/&Name", "order of rows=c.png|a.png|a.png|d.png|b.jpg|a.png"},
-                {"listView > &Delete stray txt files",
-                 "disk c.txt=(nothing) ; disk gone.txt=(nothing) ; statusbar=Removed 0 missing items."},
-                {"listView > &Move files -> FOLDER/other",
-                 "asked=Select directory ; disk b.jpg=(nothing) ; disk d.png=(nothing) ; disk "
-                 "other/b.jpg=50x30 "
-                 "blue ; disk other/d.png=70x20 cyan ; labelCurrentSelectionTags=Current selection [0] tags: "
-                 "; "
-                 "labelTagsFromFile=* ; row b.jpg=(nothing) ; row d.png=(nothing) ; row other/b.jpg=50x30 "
-                 "blue ; "
-                 "row other/d.png=70x20 cyan ; selected=(nothing) ; statusbar=Loaded all media previews in T "
-                 "s ; "
-                 "pTETagsFromFile=*"},
-                {"select b.jpg",
-                 "labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=File "
-                 "tag, txt, missing for: FOLDER/other/b.txt ; selected=b.jpg ; "
-                 "statusbar=Selected: 1 items ; tWComments=b.jpg"},
-                {"listView > Refresh -> No", "asked=Refresh FOLDER working directory?"},
-                {"listView > &Delete file -> Cancel", "asked=Delete files."},
-                {"listView > &Delete file -> OK",
-                 "asked=Delete files. ; disk other/b.jpg=(nothing) ; labelCurrentSelectionTags=Current "
-                 "selection "
-                 "[0] tags: ; listView=a.png|a.png|a.png|c.png|d.png ; row other/b.jpg=(nothing) ; "
-                 "selected=(nothing) ; tableView=a.png|a.png|a.png|c.png|d.png (list) ; "
-                 "treeView=a.png|a.png|a.png|c.png|d.png (list)"},
-                {"tBSrcSelectPath -> Yes, FOLDER/sub",
-                 "asked=Change FOLDER working directory?|Select directory ; lEWorkingPath=FOLDER/sub ; "
-                 "labelTagsFromFile=* ; listView=a.png|c.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; "
-                 "row "
-                 "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; statusbar=Loaded "
-                 "all "
-                 "media previews in T s ; tableView=a.png|c.png (list) ; treeView=a.png|c.png (list)"},
-                {"action_SelectWorkingPath -> No", "asked=Change FOLDER/sub working directory?"},
-                {"restart",
-                 "dockWidget_ImgPreview=Media preview ; imgWidget=none ; labelCurrentSelectionTags=Current "
-                 "selection tags: ; tWComments=(nothing) ; labelTagsFromFile=* ; pTETagsFromFile=*"},
-                {"action_Options", "asked=Settings"},
-                {"actionExit", "imgWidget=(nothing) ; stackedWidget=hidden, page 0 ; "
-                               "stackedWidgetMediaPreview=hidden, page 0 "
-                               "; tWTools=hidden, page 0 ; window=closed"},
-            });
+        const QList<Step> steps{
+            {"select a.png",
+             "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; lwImageTags=cat|dog ; selected=a.png ; statusbar=Selected: 1 items ; "
+             "tWComments=a.png|parameters: a workflow"},
+            {"listView > Copy co&mment", "clipboard=a workflow"},
+            {"listView > E&xtract workflow -> FOLDER/sub",
+             "asked=Select directory ; disk sub/a.json=\"a workflow\" ; tBLastResult=extracted 1"},
+            {"listView > &Copy files -> FOLDER/other",
+             "asked=Select directory ; complaints=Error, unable to copy file: FOLDER/a.png to: "
+             "FOLDER/other/a.png error: Destination file exists ; statusbar=Error, unable to copy file: "
+             "FOLDER/a.png to: FOLDER/other/a.png error: Destination file exists ; tBLastResult=copied 0 of "
+             "1, 1 failed"},
+            {"listView > &Open in native app", "opened=FOLDER/a.png"},
+            {"listView > Show file in &file browser", "opened=FOLDER"},
+            {"listView > &View/&List simple", "listView=a.png|b.jpg (list)"},
+            {"listView > &View/&List", "labelCurrentSelectionTags=Current selection [0] tags: ; "
+                                       "lwImageTags=(nothing) ; selected=(nothing) ; stackedWidget=page 1"},
+            {"select b.jpg",
+             "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
+             "pTETagsFromFile=(nothing) ; selected=b.jpg ; statusbar=Selected: 1 items ; tWComments=b.jpg"},
+            {"treeView > &View/&Table", "labelCurrentSelectionTags=Current selection [0] tags: ; "
+                                        "selected=(nothing) ; stackedWidget=page 2"},
+            {"select b.jpg", "labelCurrentSelectionTags=Current selection [1] tags: ; selected=b.jpg"},
+            {"tableView > &View/&Icon",
+             "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelTagsFromFile=File: "
+             "FOLDER/a.txt ; listView=a.png|b.jpg ; lwImageTags=cat|dog ; pTETagsFromFile=cat, dog ; "
+             "selected=a.png ; stackedWidget=page 0 ; tWComments=a.png|parameters: a workflow"},
+            {"action_Import_files -> FOLDER/sub/c.png|FOLDER/other/a.png",
+             "asked=Select files to import ; complaints=Error, unable to find model item for: "
+             "\"FOLDER/c.png\" ; disk c.png=20x20 yellow ; labelTagsFromFile=File: FOLDER/c.txt ; "
+             "listView=a.png|b.jpg|c.png ; lwAllImagesTags=cat|dog|waiting ; pTETagsFromFile=waiting ; row "
+             "c.png=20x20 yellow ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1 ; "
+             "tBShownCount=3 of 3 shown ; tableView=a.png|b.jpg|c.png (list) ; treeView=a.png|b.jpg|c.png "
+             "(list)"},
+            {"listView > &Import files -> FOLDER/sub/c.png",
+             "asked=Select files to import ; complaints=Unable to import file from FOLDER/sub/c.png, file "
+             "already exist at: FOLDER/c.png ; statusbar=Unable to import file from FOLDER/sub/c.png, file "
+             "already exist at: FOLDER/c.png ; tBLastResult=imported 0 of 1, 1 failed"},
+            {"listView > &Copy files -> FOLDER/sub",
+             "asked=Select directory ; disk sub/a.png=40x30 red ; tBLastResult=copied 1"},
+            {"remove c.png", "disk c.png=(nothing) ; listView=a.png|b.jpg ; lwAllImagesTags=cat|dog ; row "
+                             "c.png=(nothing) ; statusbar=Removed 1 missing items. ; tBShownCount=2 of 2 "
+                             "shown ; tableView=a.png|b.jpg (list) ; treeView=a.png|b.jpg (list)"},
+            {"write d.png cyan 70x20",
+             "disk d.png=70x20 cyan ; labelTagsFromFile=File tag, txt, missing for: FOLDER/d.txt ; "
+             "listView=a.png|b.jpg|d.png ; pTETagsFromFile=(nothing) ; row d.png=70x20 cyan ; "
+             "statusbar=Loaded all media previews in T s ; tBShownCount=3 of 3 shown ; "
+             "tableView=a.png|b.jpg|d.png (list) ; treeView=a.png|b.jpg|d.png (list)"},
+            {"cBWorkingDirScanRecursive", "cBWorkingDirScanRecursive=rec. on"},
+            {"tBRefreshOpenFilePath -> No", "asked=Refresh FOLDER working directory?"},
+            {"tBRefreshOpenFilePath -> Yes",
+             "asked=Refresh FOLDER working directory? ; labelCurrentSelectionTags=Current selection [0] "
+             "tags: ; labelTagsFromFile=* ; listView=a.png|a.png|a.png|b.jpg|c.png|d.png ; "
+             "lwAllImagesTags=cat|dog|inner ; lwImageTags=(nothing) ; pTETagsFromFile=* ; row "
+             "other/a.png=22x22 cyan ; row sub/a.png=40x30 red ; row sub/c.png=20x20 yellow ; "
+             "selected=(nothing) ; tBShownCount=6 of 6 shown ; tableView=a.png|a.png|a.png|b.jpg|c.png|d.png "
+             "(list) ; treeView=a.png|a.png|a.png|b.jpg|c.png|d.png (list)"},
+            {"select b.jpg|d.png",
+             "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; labelCurrentSelectionTags=Current "
+             "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
+             "pTETagsFromFile=(nothing) ; selected=b.jpg|d.png ; statusbar=Selected: 2 items ; "
+             "tWComments=b.jpg|d.png"},
+            {"listView > &Sort/&Path",
+             "order of rows=FOLDER/sub|FOLDER/sub|FOLDER/other|FOLDER|FOLDER|FOLDER"},
+            {"listView > &Sort/&Resolution", "order of rows=20x20|22x22|40x30|40x30|70x20|50x30"},
+            {"listView > &Sort/&Name", "order of rows=c.png|a.png|a.png|d.png|b.jpg|a.png"},
+            {"listView > &Delete stray txt files",
+             "disk c.txt=(nothing) ; disk gone.txt=(nothing) ; statusbar=Removed 0 missing items. ; "
+             "tBLastResult=deleted 2"},
+            {"listView > &Move files -> FOLDER/other",
+             "asked=Select directory ; disk b.jpg=(nothing) ; disk d.png=(nothing) ; disk other/b.jpg=50x30 "
+             "blue ; disk other/d.png=70x20 cyan ; labelCurrentSelectionTags=Current selection [0] tags: ; "
+             "labelTagsFromFile=* ; row b.jpg=(nothing) ; row d.png=(nothing) ; row other/b.jpg=50x30 blue ; "
+             "row other/d.png=70x20 cyan ; selected=(nothing) ; statusbar=Loaded all media previews in T s ; "
+             "tBLastResult=moved 2 ; pTETagsFromFile=*"},
+            {"select b.jpg", "labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=File "
+                             "tag, txt, missing for: FOLDER/other/b.txt ; selected=b.jpg ; "
+                             "statusbar=Selected: 1 items ; tWComments=b.jpg"},
+            {"listView > Refresh -> No", "asked=Refresh FOLDER working directory?"},
+            {"listView > &Delete file -> Cancel", "asked=Delete files."},
+            {"listView > &Delete file -> OK",
+             "asked=Delete files. ; disk other/b.jpg=(nothing) ; labelCurrentSelectionTags=Current selection "
+             "[0] tags: ; listView=a.png|a.png|a.png|c.png|d.png ; row other/b.jpg=(nothing) ; "
+             "selected=(nothing) ; tBLastResult=deleted 1 ; tBShownCount=5 of 5 shown ; "
+             "tableView=a.png|a.png|a.png|c.png|d.png (list) ; treeView=a.png|a.png|a.png|c.png|d.png "
+             "(list)"},
+            {"tBSrcSelectPath -> Yes, FOLDER/sub",
+             "asked=Change FOLDER working directory?|Select directory ; lEWorkingPath=FOLDER/sub ; "
+             "labelTagsFromFile=* ; listView=a.png|c.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; row "
+             "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; statusbar=Loaded all "
+             "media previews in T s ; tBShownCount=2 of 2 shown ; tableView=a.png|c.png (list) ; "
+             "treeView=a.png|c.png (list)"},
+            {"action_SelectWorkingPath -> No", "asked=Change FOLDER/sub working directory?"},
+            {"restart", "dockWidget_ImgPreview=Media preview ; imgWidget=none ; "
+                        "labelCurrentSelectionTags=Current selection tags: ; tBLastResult=(nothing) ; "
+                        "tWComments=(nothing) ; labelTagsFromFile=* ; pTETagsFromFile=*"},
+            {"action_Options", "asked=Settings"},
+            {"actionExit",
+             "imgWidget=(nothing) ; stackedWidget=hidden, page 0 ; stackedWidgetMediaPreview=hidden, page 0 "
+             "; tWTools=hidden, page 0 ; window=closed"},
+        };
+        live(desk, steps);
     }
 
     void tags() {
         Desk desk([](const MediaFolder& folder) {
             folder.addImage("a.png", {40, 30}, Qt::red);
             folder.addImage("b.png", {50, 30}, Qt::blue);
+            folder.addImage("c.png", {60, 30}, Qt::yellow);
+            QDir(folder.path()).mkdir("c.txt");
             folder.addTags("a.png", "cat, dog, ant");
-            folder.addTags("b.png", "bee, cat");
+            folder.addTags("b.png", "bee, cat, ant");
         });
-        live(
-            desk,
-            {
-                {"select a.png",
-                 "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; "
-                 "labelCurrentSelectionTags=Current "
-                 "selection [1] tags: ; labelTagsFromFile=File: FOLDER/a.txt ; lwImageTags=cat|dog|ant ; "
-                 "pTETagsFromFile=cat, dog, ant ; selected=a.png ; statusbar=Selected: 1 items ; "
-                 "tWComments=a.png"},
-                {"addTag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
-                {"AddTagsDialog.plainTextEdit = no, never", "AddTagsDialog.plainTextEdit=no, never"},
-                {"AddTagsDialog.pBCancel", "AddTagsDialog=(nothing)"},
-                {"listView > &Add tag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
-                {"AddTagsDialog.plainTextEdit = fox", "AddTagsDialog.plainTextEdit=fox"},
-                {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; lwAllImagesTags=ant|bee|cat|dog|fox ; "
-                                        "lwImageTags=cat|dog|ant|fox"},
-                {"lwImageTags > &Sort", "lwImageTags=ant|cat|dog|fox"},
-                {"lwImageTags > View &list", "lwImageTags=ant|cat|dog|fox (list)"},
-                {"lwImageTags > View &icon", "lwImageTags=ant|cat|dog|fox"},
-                {"select cat|fox in lwImageTags", ""},
-                {"lwImageTags > &Copy to clipboard", "clipboard=cat,fox"},
-                {"lwImageTags > &Delete", "lwAllImagesTags=ant|bee|cat|dog ; lwImageTags=dog|ant"},
-                {"select ant in lwImageTags", ""},
-                {"lwImageTags > Delete &all", "lwAllImagesTags=bee|cat|dog ; lwImageTags=dog"},
-                {"lwAllImagesTags > &Sort", "order of tags=bee|cat|dog"},
-                {"lwAllImagesTags > &Sort", "order of tags=dog|cat|bee"},
-                {"lwAllImagesTags > View &list", "lwAllImagesTags=bee|cat|dog (list)"},
-                {"lwAllImagesTags > View &icon", "lwAllImagesTags=bee|cat|dog"},
-                {"select dog in lwAllImagesTags", "listView=a.png ; row b.png=(nothing) ; statusbar=Found 1 "
-                                                  "images for tag: dog ; tableView=a.png "
-                                                  "(list) ; treeView=a.png (list)"},
-                {"lwAllImagesTags > &Copy to clipboard", "clipboard=dog"},
-                {"lwAllImagesTags > &Refresh",
-                 "listView=a.png|b.png ; row b.png=50x30 blue ; statusbar=Found 0 images for tag:  ; "
-                 "tableView=a.png|b.png (list) ; treeView=a.png|b.png (list)"},
-                {"lwAllImagesTags > R&eplace text -> dog|hound",
-                 "asked=Replace tags text ; lwAllImagesTags=bee|cat|hound ; lwImageTags=hound ; "
-                 "statusbar=Selected: 1 items"},
-                {"lwAllImagesTags > Spli&t text -> u",
-                 "asked=Split tags by ; lwAllImagesTags=bee|cat|ho|nd ; lwImageTags=ho|nd"},
-                {"select bee in lwAllImagesTags",
-                 "labelCurrentSelectionTags=Current selection [0] tags: ; listView=b.png ; "
-                 "lwImageTags=(nothing) "
-                 "; row a.png=(nothing) ; selected=(nothing) ; statusbar=Found 1 images for tag: bee ; "
-                 "tableView=b.png (list) ; treeView=b.png (list)"},
-                {"lwAllImagesTags > &Delete",
-                 "listView=a.png|b.png ; lwAllImagesTags=cat|ho|nd ; row a.png=40x30 red ; statusbar=Found 0 "
-                 "images for tag:  ; tableView=a.png|b.png (list) ; treeView=a.png|b.png (list)"},
-                {"cBBackupTxt", "cBBackupTxt=backup on"},
-                {"cBSaveTagsDuplicates", "cBSaveTagsDuplicates=dups on"},
-                {"tBSaveTags", "disk a.txt=\"ho,nd\" v2 ; disk a_backup_0.txt=\"cat, dog, ant\" ; disk "
-                               "b.txt=\"cat\" v2 ; disk "
-                               "b_backup_0.txt=\"bee, cat\" ; statusbar=Removed 0 missing items."},
-                {"cBBackupTxt", "cBBackupTxt=backup"},
-                {"select a.png",
-                 "labelCurrentSelectionTags=Current selection [1] tags: ; lwImageTags=ho|nd ; "
-                 "pTETagsFromFile=ho,nd ; selected=a.png ; statusbar=Selected: 1 items"},
-                {"addTag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
-                {"AddTagsDialog.plainTextEdit = cat,cat", "AddTagsDialog.plainTextEdit=cat,cat"},
-                {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; lwImageTags=ho|nd|cat|cat"},
-                {"actionSave_tags", "disk a.txt=\"ho,nd,cat,cat\" v3"},
-                {"pTETagsFromFile = typed", "pTETagsFromFile=typed"},
-                {"tBSaveTagTxtFile",
-                 "disk a.txt=\"typed\" v4 ; lwAllImagesTags=cat|typed ; lwImageTags=typed"},
-                {"listView > Edit &tag file",
-                 "AddTagsDialog=Edit tags, one per line or/and \",\" separated.."},
-                {"AddTagsDialog.plainTextEdit = y\ny, y", "AddTagsDialog.plainTextEdit=y\\ny, y"},
-                {"AddTagsDialog.pBAdd",
-                 "AddTagsDialog=(nothing) ; disk a.txt=\"y\\ny, y\" v5 ; "
-                 "lwAllImagesTags=cat|y ; lwImageTags=y|y|y ; pTETagsFromFile=y\\ny, y"},
-                {"tBExportTags", "TagsExportDialog=All tags"},
-                {"TagsExportDialog.cBNumOccurance",
-                 "TagsExportDialog.cBNumOccurance=append count ; TagsExportDialog.plainTextEdit=cat\\ny\\n"},
-                {"TagsExportDialog.cBRemoveDuplicates",
-                 "TagsExportDialog.cBRemoveDuplicates=remove duplicates ; "
-                 "TagsExportDialog.plainTextEdit=cat\\ny\\ny\\ny\\n"},
-                {"TagsExportDialog.cBSortByNumOccurance",
-                 "TagsExportDialog.cBSortByNumOccurance=sort by count ; TagsExportDialog.plainTextEdit=*"},
-                {"TagsExportDialog.pBClose", "TagsExportDialog=(nothing)"},
-            });
+        const QList<Step> steps{
+            {"select a.png",
+             "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; labelTagsFromFile=File: FOLDER/a.txt ; lwImageTags=cat|dog|ant ; "
+             "pTETagsFromFile=cat, dog, ant ; selected=a.png ; statusbar=Selected: 1 items ; "
+             "tWComments=a.png"},
+            {"addTag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = no, never", "AddTagsDialog.plainTextEdit=no, never"},
+            {"AddTagsDialog.pBCancel", "AddTagsDialog=(nothing)"},
+            {"listView > &Add tag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = fox", "AddTagsDialog.plainTextEdit=fox"},
+            {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; lwAllImagesTags=ant|bee|cat|dog|fox ; "
+                                    "lwImageTags=cat|dog|ant|fox ; tBUnsavedCount=1 unsaved"},
+            {"tBSaveTags", "complaints=Failed to open txt file: \"Is a directory\" \"FOLDER/c.txt\" ; disk "
+                           "a.txt=\"cat,dog,ant,fox\" v2 ; disk b.txt=\"bee,cat,ant\" v2 ; "
+                           "tBLastResult=saved 2 of 3, 1 failed ; tBUnsavedCount=0 unsaved"},
+            {"tBLastResult", "clipboard=FOLDER/c.txt: Is a directory"},
+            {"lwImageTags > &Sort", "lwImageTags=ant|cat|dog|fox"},
+            {"lwImageTags > View &list", "lwImageTags=ant|cat|dog|fox (list)"},
+            {"lwImageTags > View &icon", "lwImageTags=ant|cat|dog|fox"},
+            {"select cat|fox in lwImageTags", ""},
+            {"lwImageTags > &Copy to clipboard", "clipboard=cat,fox"},
+            {"lwImageTags > &Delete", "lwAllImagesTags=ant|bee|cat|dog ; lwImageTags=dog|ant ; "
+                                      "pTETagsFromFile=cat,dog,ant,fox ; tBUnsavedCount=1 unsaved"},
+            {"select ant in lwImageTags", ""},
+            {"lwImageTags > Delete &all",
+             "lwAllImagesTags=bee|cat|dog ; lwImageTags=dog ; tBUnsavedCount=2 unsaved"},
+            {"lwAllImagesTags > &Sort", "order of tags=bee|cat|dog"},
+            {"lwAllImagesTags > &Sort", "order of tags=dog|cat|bee"},
+            {"lwAllImagesTags > View &list", "lwAllImagesTags=bee|cat|dog (list)"},
+            {"lwAllImagesTags > View &icon", "lwAllImagesTags=bee|cat|dog"},
+            {"select dog in lwAllImagesTags",
+             "listView=a.png ; row b.png=(nothing) ; row c.png=(nothing) ; statusbar=Found 1 images for tag: "
+             "dog ; tBShownCount=1 of 3 shown ; tableView=a.png (list) ; treeView=a.png (list)"},
+            {"lwAllImagesTags > &Copy to clipboard", "clipboard=dog"},
+            {"lwAllImagesTags > &Refresh",
+             "listView=a.png|b.png|c.png ; row b.png=50x30 blue ; row c.png=60x30 yellow ; statusbar=Found 0 "
+             "images for tag:  ; tBShownCount=3 of 3 shown ; tableView=a.png|b.png|c.png (list) ; "
+             "treeView=a.png|b.png|c.png (list)"},
+            {"lwAllImagesTags > R&eplace text -> dog|hound",
+             "asked=Replace tags text ; lwAllImagesTags=bee|cat|hound ; lwImageTags=hound ; "
+             "statusbar=Selected: 1 items"},
+            {"lwAllImagesTags > Spli&t text -> u",
+             "asked=Split tags by ; lwAllImagesTags=bee|cat|ho|nd ; lwImageTags=ho|nd"},
+            {"select bee in lwAllImagesTags",
+             "labelCurrentSelectionTags=Current selection [0] tags: ; listView=b.png ; lwImageTags=(nothing) "
+             "; row a.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; statusbar=Found 1 images "
+             "for tag: bee ; tBShownCount=1 of 3 shown ; tableView=b.png (list) ; treeView=b.png (list)"},
+            {"lwAllImagesTags > &Delete",
+             "listView=a.png|b.png|c.png ; lwAllImagesTags=cat|ho|nd ; row a.png=40x30 red ; row c.png=60x30 "
+             "yellow ; statusbar=Found 0 images for tag:  ; tBShownCount=3 of 3 shown ; "
+             "tableView=a.png|b.png|c.png (list) ; treeView=a.png|b.png|c.png (list)"},
+            {"cBBackupTxt", "cBBackupTxt=backup on"},
+            {"cBSaveTagsDuplicates", "cBSaveTagsDuplicates=dups on"},
+            {"tBSaveTags",
+             "disk a.txt=\"ho,nd\" v3 ; disk a_backup_0.txt=\"cat,dog,ant,fox\" ; disk b.txt=\"cat\" v3 ; "
+             "disk b_backup_0.txt=\"bee,cat,ant\" ; disk c.txt=\"\" ; statusbar=Removed 0 missing items. ; "
+             "tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"cBBackupTxt", "cBBackupTxt=backup"},
+            {"select a.png", "labelCurrentSelectionTags=Current selection [1] tags: ; lwImageTags=ho|nd ; "
+                             "pTETagsFromFile=ho,nd ; selected=a.png ; statusbar=Selected: 1 items"},
+            {"addTag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = cat,cat", "AddTagsDialog.plainTextEdit=cat,cat"},
+            {"AddTagsDialog.pBAdd",
+             "AddTagsDialog=(nothing) ; lwImageTags=ho|nd|cat|cat ; tBUnsavedCount=1 unsaved"},
+            {"actionSave_tags", "disk a.txt=\"ho,nd,cat,cat\" v4 ; tBUnsavedCount=0 unsaved"},
+            {"pTETagsFromFile = typed", "pTETagsFromFile=typed"},
+            {"tBSaveTagTxtFile", "disk a.txt=\"typed\" v5 ; lwAllImagesTags=cat|typed ; lwImageTags=typed ; "
+                                 "tBLastResult=saved 1"},
+            {"listView > Edit &tag file", "AddTagsDialog=Edit tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = y\ny, y", "AddTagsDialog.plainTextEdit=y\\ny, y"},
+            {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; disk a.txt=\"y\\ny, y\" v6 ; "
+                                    "lwAllImagesTags=cat|y ; lwImageTags=y|y|y ; pTETagsFromFile=y\\ny, y"},
+            {"leFilterImages = b.png",
+             "labelCurrentSelectionTags=Current selection [0] tags: ; leFilterImages=b.png ; listView=b.png "
+             "; lwImageTags=(nothing) ; row a.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
+             "tBShownCount=1 of 3 shown ; tableView=b.png (list) ; treeView=b.png (list)"},
+            {"tBShownCount", "leFilterImages=(nothing) ; listView=a.png|b.png|c.png ; row a.png=40x30 red ; "
+                             "row c.png=60x30 yellow ; tBShownCount=3 of 3 shown ; "
+                             "tableView=a.png|b.png|c.png (list) ; treeView=a.png|b.png|c.png (list)"},
+            {"select a.png",
+             "labelCurrentSelectionTags=Current selection [1] tags: ; lwImageTags=y|y|y ; selected=a.png"},
+            {"listView > &Add tag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = last,last", "AddTagsDialog.plainTextEdit=last,last"},
+            {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; lwAllImagesTags=cat|last|y ; "
+                                    "lwImageTags=y|y|y|last|last ; tBUnsavedCount=1 unsaved"},
+            {"tBUnsavedCount > Save tags",
+             "disk a.txt=\"y,y,y,last,last\" v7 ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"tBExportTags", "TagsExportDialog=All tags"},
+            {"TagsExportDialog.cBNumOccurance", "TagsExportDialog.cBNumOccurance=append count ; "
+                                                "TagsExportDialog.plainTextEdit=cat\\nlast\\ny\\n"},
+            {"TagsExportDialog.cBRemoveDuplicates",
+             "TagsExportDialog.cBRemoveDuplicates=remove duplicates ; "
+             "TagsExportDialog.plainTextEdit=cat\\nlast\\nlast\\ny\\ny\\ny\\n"},
+            {"TagsExportDialog.cBSortByNumOccurance", "TagsExportDialog.cBSortByNumOccurance=sort by count ; "
+                                                      "TagsExportDialog.plainTextEdit=*"},
+            {"TagsExportDialog.pBClose", "TagsExportDialog=(nothing)"},
+        };
+        live(desk, steps);
     }
 
     void imaging() {
         Desk desk([](const MediaFolder& folder) {
             folder.addImage("a.png", {100, 80}, Qt::blue);
             folder.addImage("b.jpg", {300, 240}, Qt::red);
+            QImage fine(301, 200, QImage::Format_RGB32);
+            for (int x = 0; x < fine.width(); ++x)
+                QPainter(&fine).fillRect(x, 0, 1, fine.height(), QColor::fromHsv(x, 200, x % 256));
+            folder.addImage("fine.jpg", fine);
         });
-        live(desk,
-             {
-                 {"select a.png|b.jpg",
-                  "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue ; "
-                  "labelCurrentSelectionTags=Current selection [2] tags: ; selected=a.png|b.jpg ; "
-                  "statusbar=Selected: 2 items ; tWComments=a.png|b.jpg"},
-                 {"sBSpecificW = 50", "sBSpecificW=50"},
-                 {"sBSpecificH = -1", "sBSpecificH=-1"},
-                 {"pBProcessResize", "disk scaled/a.png=50x40 blue ; disk scaled/b.jpg=50x40 red ; "
-                                     "statusbar=Removed 0 missing items."},
-                 {"tWTools = 3", "tWTools=page 3"},
-                 {"cBDspEffectsList = Brightness", ""},
-                 {"tBAddEffect", "dockWidget_ImgPreview=Image 160x128 preview ; imgWidget=red ; "
-                                 "lWDspEffects=Brightness 10 (list)"},
-                 {"horizontalSlider = 255", "imgWidget=none ; lWDspEffects=Brightness 255 (list) ; "
-                                            "statusbar=Filters applied to: 1 files"},
-                 {"pBDspApply", "disk processed/a.png=100x80 none ; disk processed/b.jpg=300x240 none ; "
-                                "statusbar=Filters applied to: 2 files"},
-                 {"cBDspEffectsList = Sharpen",
-                  "cBDspEffectsList=Sharpen of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen"},
-                 {"tBAddEffect", "dockWidget_ImgPreview=Image 300x240 preview ; lWDspEffects=Brightness "
-                                 "255|Sharpen (list) ; statusbar=Filters applied to: 1 files"},
-                 {"tBMoveDown", "lWDspEffects=Sharpen|Brightness 255 (list)"},
-                 {"tBMoveUp", ""},
-                 {"cBEnabled", "lWDspEffects=Sharpen off|Brightness 255 (list)"},
-                 {"lWDspEffects > &Toggle bypass",
-                  "imgWidget=red ; lWDspEffects=Sharpen|Brightness off 255 (list)"},
-                 {"lWDspEffects > &Bypass all", "lWDspEffects=Sharpen off|Brightness off 255 (list)"},
-                 {"pBDspApply", "statusbar=Filters applied to: 2 files"},
-                 {"lWDspEffects > &Toggle bypass",
-                  "imgWidget=none ; lWDspEffects=Sharpen|Brightness 255 (list) ; "
-                  "statusbar=Filters applied to: 1 files"},
-                 {"pBDspReset", "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue"},
-                 {"tbProfileNew_HL",
-                  "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 160x128 "
-                  "preview ; imgWidget=red ; lWDspEffects= (list)"},
-                 {"ProfilesEditWidget.lEProfileName = Soft", "ProfilesEditWidget.lEProfileName=Soft"},
-                 {"ProfilesEditWidget.pBApply", "ProfilesEditWidget=(nothing)"},
-                 {"cBDspEffectsList = Blur",
-                  "cBDspEffectsList=Blur of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen"},
-                 {"tBAddEffect", "lWDspEffects=Blur 0 (list)"},
-                 {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
-                 {"ProfilesEditWidget.pBClose", "ProfilesEditWidget=(nothing)"},
-                 {"tbProfileMoveUp_HL", ""},
-                 {"tbProfileMoveDown_HL", ""},
-                 {"restart",
-                  "cBDspEffectsList=Brightness of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen ; "
-                  "dockWidget_ImgPreview=Media preview ; imgWidget=none ; labelCurrentSelectionTags=Current "
-                  "selection tags: ; sBSpecificH=1080 ; sBSpecificW=1920 ; selected=(nothing) ; "
-                  "statusbar=Loaded "
-                  "all media previews in T s ; tWComments=(nothing) ; labelTagsFromFile=* ; "
-                  "pTETagsFromFile=*"},
-                 {"cBProfilesName_HL = Default",
-                  "lWDspEffects=Sharpen|Brightness 255 (list) ; statusbar=Select image/s."},
-                 {"select 0 in lWDspEffects", ""},
-                 {"lWDspEffects > &Remove selected", "lWDspEffects=Brightness 255 (list)"},
-                 {"tBDelete", "lWDspEffects= (list)"},
-                 {"cBProfilesName_HL = Soft", "lWDspEffects=Blur 0 (list)"},
-                 {"lWDspEffects > &Clear", "lWDspEffects= (list)"},
-                 {"tbProfileRemove_HL", ""},
-             });
+        const QList<Step> steps{
+            {"select a.png|b.jpg",
+             "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue ; "
+             "labelCurrentSelectionTags=Current selection [2] tags: ; labelTagsFromFile=File tag, txt, "
+             "missing for: FOLDER/a.txt ; selected=a.png|b.jpg ; statusbar=Selected: 2 items ; "
+             "tWComments=a.png|b.jpg"},
+            {"sBSpecificW = 50", "sBSpecificW=50"},
+            {"sBSpecificH = -1", "sBSpecificH=-1"},
+            {"pBProcessResize", "disk scaled/a.png=50x40 blue ; disk scaled/b.jpg=50x40 red ; "
+                                "statusbar=Removed 0 missing items. ; tBLastResult=resized 2"},
+            {"tWTools = 3", "tWTools=page 3"},
+            {"cBDspEffectsList = Brightness", ""},
+            {"tBAddEffect", "dockWidget_ImgPreview=Image 160x128 preview ; imgWidget=red ; "
+                            "lWDspEffects=Brightness 10 (list)"},
+            {"horizontalSlider = 255",
+             "imgWidget=none ; lWDspEffects=Brightness 255 (list) ; statusbar=Filters applied to: 1 files"},
+            {"pBDspApply", "disk processed/a.png=100x80 none ; disk processed/b.jpg=300x240 none ; "
+                           "statusbar=Filters applied to: 2 files ; tBLastResult=filtered 2"},
+            {"cBDspEffectsList = Sharpen",
+             "cBDspEffectsList=Sharpen of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen"},
+            {"tBAddEffect",
+             "complaints=Error, unable to cast filter option widget... ; dockWidget_ImgPreview=Image 300x240 "
+             "preview ; lWDspEffects=Brightness 255|Sharpen (list) ; statusbar=Filters applied to: 1 files"},
+            {"tBMoveDown", "lWDspEffects=Sharpen|Brightness 255 (list)"},
+            {"tBMoveUp", ""},
+            {"cBEnabled", "lWDspEffects=Sharpen off|Brightness 255 (list)"},
+            {"lWDspEffects > &Toggle bypass",
+             "imgWidget=red ; lWDspEffects=Sharpen|Brightness off 255 (list)"},
+            {"lWDspEffects > &Bypass all", "lWDspEffects=Sharpen off|Brightness off 255 (list)"},
+            {"pBDspApply", "statusbar=Filters applied to: 2 files ; tBLastResult=filtered 0 of 2"},
+            {"lWDspEffects > &Toggle bypass", "imgWidget=none ; lWDspEffects=Sharpen|Brightness 255 (list) ; "
+                                              "statusbar=Filters applied to: 1 files"},
+            {"pBDspReset", "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue"},
+            {"tbProfileNew_HL", "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 160x128 "
+                                "preview ; imgWidget=red ; lWDspEffects= (list)"},
+            {"ProfilesEditWidget.lEProfileName = Soft", "ProfilesEditWidget.lEProfileName=Soft"},
+            {"ProfilesEditWidget.pBApply", "ProfilesEditWidget=(nothing)"},
+            {"cBDspEffectsList = Blur",
+             "cBDspEffectsList=Blur of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen"},
+            {"tBAddEffect", "lWDspEffects=Blur 0 (list)"},
+            {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
+            {"ProfilesEditWidget.pBClose", "ProfilesEditWidget=(nothing)"},
+            {"tbProfileMoveUp_HL", ""},
+            {"tbProfileMoveDown_HL", ""},
+            {"restart",
+             "cBDspEffectsList=Brightness of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen ; "
+             "dockWidget_ImgPreview=Media preview ; imgWidget=none ; labelCurrentSelectionTags=Current "
+             "selection tags: ; labelTagsFromFile=* ; sBSpecificH=1080 ; sBSpecificW=1920 ; "
+             "selected=(nothing) ; statusbar=Loaded all media previews in T s ; tBLastResult=(nothing) ; "
+             "tWComments=(nothing) ; pTETagsFromFile=*"},
+            {"cBProfilesName_HL = Default",
+             "complaints=Error, unable to cast filter option widget... ; lWDspEffects=Sharpen|Brightness 255 "
+             "(list) ; statusbar=Select image/s."},
+            {"select 0 in lWDspEffects", ""},
+            {"lWDspEffects > &Remove selected", "lWDspEffects=Brightness 255 (list)"},
+            {"tBDelete", "lWDspEffects= (list)"},
+            {"cBProfilesName_HL = Soft", "lWDspEffects=Blur 0 (list)"},
+            {"lWDspEffects > &Clear", "lWDspEffects= (list)"},
+            {"tbProfileRemove_HL", ""},
+        };
+        live(desk, steps);
+        resizingObeysItsForm(desk);
     }
 
     void editor() {
         Desk desk([](const MediaFolder& folder) {
-            folder.addImage("a.png", {100, 80}, Qt::blue);
+            QImage picture(100, 80, QImage::Format_RGB32);
+            picture.fill(Qt::blue);
+            QPainter(&picture).fillRect(0, 0, 30, 80, Qt::red);
+            folder.addImage("a.png", picture);
             folder.addImage("b.png", {60, 50}, Qt::red);
         });
-        live(
-            desk,
-            {
-                {"select a.png",
-                 "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue ; "
-                 "labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=File tag, txt, "
-                 "missing for: FOLDER/a.txt ; selected=a.png ; statusbar=Selected: 1 items ; "
-                 "tWComments=a.png"},
-                {"dockWidget_ImgPreview > Auto center", ""},
-                {"dockWidget_ImgPreview > Auto fit", ""},
-                {"imgWidget > Auto fit", ""},
-                {"imgWidget > Auto center", ""},
-                {"imgWidget > Update on resize", ""},
-                {"imgWidget > Reset zoom", "imgWidget=none"},
-                {"listView > &Edit image", "EditImageDialog=Edit image: a.png [100x80] [N - 2]"},
-                {"EditImageDialog.&Next image [PgDown]", "EditImageDialog=Edit image: b.png [60x50] [N - 2]"},
-                {"EditImageDialog.&Previous image [PgUp]",
-                 "EditImageDialog=Edit image: a.png [100x80] [N - 2]"},
-                {"EditImageDialog.tBAutoCenter",
-                 "EditImageDialog.imgWidget=blue ; EditImageDialog.tBAutoCenter= on"},
-                {"EditImageDialog.tBAutoFit", "EditImageDialog.tBAutoFit= on"},
-                {"EditImageDialog.tBKeepAspectRatio", "EditImageDialog.tBKeepAspectRatio= on"},
-                {"EditImageDialog.imgWidget > Reset zoom", "EditImageDialog.imgWidget=none"},
-                {"EditImageDialog.imgWidget > Auto fit",
-                 "EditImageDialog.imgWidget=blue ; EditImageDialog.tBAutoFit=(nothing)"},
-                {"EditImageDialog.imgWidget > Auto center", "EditImageDialog.tBAutoCenter=(nothing)"},
-                {"EditImageDialog.imgWidget > Update on resize", ""},
-                {"EditImageDialog.tBToolCut",
-                 "EditImageDialog.dSBCutHeight=80 ; EditImageDialog.dSBCutWidth=100 ; "
-                 "EditImageDialog.sBCutOutlineWidth=8 ; EditImageDialog.stackedWidget=page 0"},
-                {"EditImageDialog.tBToolPan", "EditImageDialog.stackedWidget=hidden, page 0"},
-                {"EditImageDialog.&Cut image [W]", "EditImageDialog.stackedWidget=page 0"},
-                {"EditImageDialog.dSBCutWidth = 40", "EditImageDialog.dSBCutWidth=40"},
-                {"EditImageDialog.dSBCutHeight = 20", "EditImageDialog.dSBCutHeight=20"},
-                {"EditImageDialog.imgWidget > Align edge &bottom", ""},
-                {"press Right in EditImageDialog.imgWidget",
-                 "EditImageDialog.dSBCutHeight=79 ; EditImageDialog.dSBCutX=8"},
-                {"press Return in EditImageDialog.imgWidget",
-                 "EditImageDialog.dSBCutX=0 ; EditImageDialog.imgWidget=none"},
-                {"EditImageDialog.&Save image [Save, Ctrl+S]",
-                 "disk a.png=40x79 blue v2 ; statusbar=Loaded all media previews in T s"},
-                {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
-                {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
-                 "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, "
-                 "missing "
-                 "for: FOLDER/whole.txt ; listView=a.png|b.png|whole.png ; row whole.png=100x80 blue ; "
-                 "tableView=a.png|b.png|whole.png (list) ; treeView=a.png|b.png|whole.png (list)"},
-                {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
-                {"imgWidget > &Save as -> FOLDER/copy.png",
-                 "asked=Save image as ; disk copy.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
-                 "for: FOLDER/copy.txt ; listView=a.png|b.png|copy.png|whole.png ; row copy.png=100x80 blue "
-                 "; "
-                 "tableView=a.png|b.png|copy.png|whole.png (list) ; treeView=a.png|b.png|copy.png|whole.png "
-                 "(list)"},
-                {"EditImageDialog.&Delete image [Del] -> OK",
-                 "EditImageDialog=Edit image: b.png [60x50] [N - 4] ; EditImageDialog.imgWidget=red ; "
-                 "asked=Delete file? ; disk a.png=(nothing) ; labelCurrentSelectionTags=Current selection "
-                 "[0] "
-                 "tags: ; listView=b.png|copy.png|whole.png ; row a.png=(nothing) ; selected=(nothing) ; "
-                 "statusbar=Removed 1 missing items. ; tableView=b.png|copy.png|whole.png (list) ; "
-                 "treeView=b.png|copy.png|whole.png (list)"},
-                {"editImage", ""},
-            });
+        const QList<Step> steps{
+            {"select a.png",
+             "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue ; "
+             "labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=File tag, txt, "
+             "missing for: FOLDER/a.txt ; selected=a.png ; statusbar=Selected: 1 items ; tWComments=a.png"},
+            {"dockWidget_ImgPreview > Auto center", ""},
+            {"dockWidget_ImgPreview > Auto fit", ""},
+            {"imgWidget > Auto fit", ""},
+            {"imgWidget > Auto center", ""},
+            {"imgWidget > Update on resize", ""},
+            {"imgWidget > Reset zoom", "imgWidget=none"},
+            {"listView > &Edit image", "EditImageDialog=Edit image: a.png [100x80] [N - 2]"},
+            {"EditImageDialog.&Next image [PgDown]", "EditImageDialog=Edit image: b.png [60x50] [N - 2]"},
+            {"EditImageDialog.&Previous image [PgUp]", "EditImageDialog=Edit image: a.png [100x80] [N - 2]"},
+            {"EditImageDialog.tBAutoCenter",
+             "EditImageDialog.imgWidget=blue ; EditImageDialog.tBAutoCenter= on"},
+            {"EditImageDialog.tBAutoFit", "EditImageDialog.tBAutoFit= on"},
+            {"EditImageDialog.tBKeepAspectRatio", "EditImageDialog.tBKeepAspectRatio= on"},
+            {"EditImageDialog.imgWidget > Reset zoom", "EditImageDialog.imgWidget=none"},
+            {"EditImageDialog.imgWidget > Auto fit",
+             "EditImageDialog.imgWidget=blue ; EditImageDialog.tBAutoFit=(nothing)"},
+            {"EditImageDialog.imgWidget > Auto center", "EditImageDialog.tBAutoCenter=(nothing)"},
+            {"EditImageDialog.imgWidget > Update on resize", ""},
+            {"EditImageDialog.tBToolCut",
+             "EditImageDialog.dSBCutHeight=80 ; EditImageDialog.dSBCutWidth=100 ; "
+             "EditImageDialog.sBCutOutlineWidth=8 ; EditImageDialog.stackedWidget=page 0"},
+            {"EditImageDialog.tBToolPan", "EditImageDialog.stackedWidget=hidden, page 0"},
+            {"EditImageDialog.&Cut image [W]", "EditImageDialog.stackedWidget=page 0"},
+            {"EditImageDialog.dSBCutWidth = 40", "EditImageDialog.dSBCutWidth=40"},
+            {"EditImageDialog.dSBCutHeight = 20", "EditImageDialog.dSBCutHeight=20"},
+            {"EditImageDialog.imgWidget > Align edge &bottom", ""},
+            {"press Right in EditImageDialog.imgWidget",
+             "EditImageDialog.dSBCutHeight=79 ; EditImageDialog.dSBCutX=8"},
+            {"press Return in EditImageDialog.imgWidget",
+             "EditImageDialog.dSBCutX=0 ; EditImageDialog.imgWidget=none"},
+            {"EditImageDialog.&Save image [Save, Ctrl+S]",
+             "disk a.png=40x79 red v2 ; imgWidget=blue ; row a.png=100x80 red ; statusbar=Loaded all media "
+             "previews in T s ; tBLastResult=saved 1"},
+            {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
+            {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
+             "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
+             "for: FOLDER/whole.txt ; listView=a.png|b.png|whole.png ; row whole.png=100x80 blue ; "
+             "tBShownCount=3 of 3 shown ; tableView=a.png|b.png|whole.png (list) ; "
+             "treeView=a.png|b.png|whole.png (list)"},
+            {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
+            {"imgWidget > &Save as -> FOLDER/copy.png",
+             "asked=Save image as ; disk copy.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
+             "for: FOLDER/copy.txt ; listView=a.png|b.png|copy.png|whole.png ; row copy.png=100x80 blue ; "
+             "tBShownCount=4 of 4 shown ; tableView=a.png|b.png|copy.png|whole.png (list) ; "
+             "treeView=a.png|b.png|copy.png|whole.png (list)"},
+            {"EditImageDialog.&Delete image [Del] -> OK",
+             "EditImageDialog=Edit image: b.png [60x50] [N - 4] ; EditImageDialog.imgWidget=red ; "
+             "asked=Delete file? ; disk a.png=(nothing) ; labelCurrentSelectionTags=Current selection [0] "
+             "tags: ; listView=b.png|copy.png|whole.png ; row a.png=(nothing) ; selected=(nothing) ; "
+             "statusbar=Removed 1 missing items. ; tBShownCount=3 of 3 shown ; "
+             "tableView=b.png|copy.png|whole.png (list) ; treeView=b.png|copy.png|whole.png (list)"},
+            {"editImage", ""},
+        };
+        live(desk, steps);
     }
 
     void models() {
@@ -390,37 +433,37 @@ private slots:
         Desk desk([&](const MediaFolder& folder) {
             folder.addFile("a.safetensors", modelFile(header, 12));
             folder.addFile("b.safetensors", modelFile(header, 11));
+            folder.addFile("c.safetensors", modelFile("{}", 0));
             folder.addImage("a.png", {40, 30}, Qt::red);
         });
-        live(
-            desk,
-            {
-                {"action_InspectSafetensor -> FOLDER/a.safetensors",
-                 "SafetensorsDialog=File: a.safetensors ; asked=Open safetensors file ; statusbar=Inspecting "
-                 "FOLDER/a.safetensors safetensors"},
-                {"SafetensorsDialog.cBTensor",
-                 "SafetensorsDialog.cBTensor=tensor on ; "
-                 "SafetensorsDialog.pTEOutput=a\t:\tfirst\\nb\t:\tlast\\nw\t:\tF16 [2, 3]\\n"},
-                {"SafetensorsDialog.cBMetainfo",
-                 "SafetensorsDialog.cBMetainfo=metainfo ; SafetensorsDialog.pTEOutput=w\t:\tF16 [2, 3]\\n"},
-                {"SafetensorsDialog.tBSafetensorNext",
-                 "SafetensorsDialog=File: b.safetensors ; SafetensorsDialog.pTEOutput=Failed to load: "
-                 "FOLDER/b.safetensors invalid data offsets error: Tensor `w`.data_offset.END 12 exceeds "
-                 "databuffer size 11.\\nThe last tensor's data_offset.END(12) must be equal to databufer "
-                 "size "
-                 "11.\\n\\n"},
-                {"SafetensorsDialog.tBSafetensorPrev",
-                 "SafetensorsDialog=File: a.safetensors ; SafetensorsDialog.pTEOutput=w\t:\tF16 [2, 3]\\n"},
-                {"SafetensorsDialog.tBSafetensorPrev",
-                 "SafetensorsDialog=File: b.safetensors ; SafetensorsDialog.pTEOutput=Failed to load: "
-                 "FOLDER/b.safetensors invalid data offsets error: Tensor `w`.data_offset.END 12 exceeds "
-                 "databuffer size 11.\\nThe last tensor's data_offset.END(12) must be equal to databufer "
-                 "size "
-                 "11.\\n\\n"},
-                {"SafetensorsDialog.tBOpenSafetensorFile -> FOLDER/b.safetensors",
-                 "asked=Open safetensors file"},
-                {"SafetensorsDialog.tBShowInFileBrowser", "opened=FOLDER"},
-            });
+        const QList<Step> steps{
+            {"action_InspectSafetensor -> FOLDER/a.safetensors",
+             "SafetensorsDialog=File: a.safetensors ; asked=Open safetensors file ; statusbar=Inspecting "
+             "FOLDER/a.safetensors safetensors"},
+            {"SafetensorsDialog.cBTensor",
+             "SafetensorsDialog.cBTensor=tensor on ; "
+             "SafetensorsDialog.pTEOutput=a\t:\tfirst\\nb\t:\tlast\\nw\t:\tF16 [2, 3]\\n"},
+            {"SafetensorsDialog.cBMetainfo",
+             "SafetensorsDialog.cBMetainfo=metainfo ; SafetensorsDialog.pTEOutput=w\t:\tF16 [2, 3]\\n"},
+            {"SafetensorsDialog.tBSafetensorNext",
+             "SafetensorsDialog=File: b.safetensors ; SafetensorsDialog.pTEOutput=Failed to load: "
+             "FOLDER/b.safetensors invalid data offsets error: Tensor `w`.data_offset.END 12 exceeds "
+             "databuffer size 11.\\nThe last tensor's data_offset.END(12) must be equal to databufer size "
+             "11.\\n\\n ; complaints=Error, file don't exists: \"FOLDER/b\""},
+            {"SafetensorsDialog.tBSafetensorPrev",
+             "SafetensorsDialog=File: a.safetensors ; SafetensorsDialog.pTEOutput=w\t:\tF16 [2, 3]\\n"},
+            {"SafetensorsDialog.tBSafetensorPrev",
+             "SafetensorsDialog=File: c.safetensors ; SafetensorsDialog.pTEOutput=Failed to load: "
+             "FOLDER/c.safetensors error: Size is too short.\\n\\n ; complaints=Failed to load:  "
+             "\"FOLDER/c.safetensors\"|Error, file don't exists: \"FOLDER/c\""},
+            {"SafetensorsDialog.tBOpenSafetensorFile -> FOLDER/b.safetensors",
+             "SafetensorsDialog=File: b.safetensors ; SafetensorsDialog.pTEOutput=Failed to load: "
+             "FOLDER/b.safetensors invalid data offsets error: Tensor `w`.data_offset.END 12 exceeds "
+             "databuffer size 11.\\nThe last tensor's data_offset.END(12) must be equal to databufer size "
+             "11.\\n\\n ; asked=Open safetensors file ; complaints=Error, file don't exists: \"FOLDER/b\""},
+            {"SafetensorsDialog.tBShowInFileBrowser", "opened=FOLDER"},
+        };
+        live(desk, steps);
     }
 
     void video() {
@@ -429,73 +472,73 @@ private slots:
             QFile::copy(clipPath("h264.mp4"), folder.filePath("clip.mp4"));
             QFile::copy(clipPath("fps60.mp4"), folder.filePath("next.mp4"));
         });
-        live(
-            desk,
-            {
-                {"select clip.mp4",
-                 "dockWidget_ImgPreview=Video preview ; imgWidget=(nothing) ; "
-                 "labelCurrentSelectionTags=Current selection [1] tags: ; selected=clip.mp4 ; "
-                 "stackedWidgetMediaPreview=page 1 ; statusbar=Selected: 1 items ; "
-                 "tWComments=clip.mp4|Comment: a remark|Duration: 10000|Resolution: 160x64"},
-                {"listView > Edit v&ideo", "VideoWidget=Video editor - clip.mp4"},
-                {"VideoWidget.tBFrameNext", ""},
-                {"VideoWidget.&Frame next", "VideoWidget.frame=1"},
-                {"VideoWidget.tBFramePrev", "VideoWidget.frame=0"},
-                {"VideoWidget.&Frame prev", ""},
-                {"press 5 in VideoWidget", "VideoWidget.frame=125"},
-                {"VideoWidget.tBGrabFrame",
-                 "disk clip_TIME.png=frame 125 ; labelTagsFromFile=File tag, txt, missing for: "
-                 "FOLDER/clip_TIME.txt ; listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row "
-                 "clip_TIME.png=160x64 none ; statusbar=Loaded all media previews in T s ; "
-                 "tableView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list) ; "
-                 "treeView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list)"},
-                {"VideoWidget.tBFileNext", "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0"},
-                {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
-                {"VideoWidget.tBGrabSeries", "VideoWidgetFrameGrabber=Frame grabber: FOLDER/clip.mp4"},
-                {"VideoWidgetFrameGrabber.sBFrameNum = 3", "VideoWidgetFrameGrabber.sBFrameNum=3"},
-                {"VideoWidgetFrameGrabber.pBGrabFrames", "VideoWidgetFrameGrabber.listWidget=1|6666|9999"},
-                {"select 0 in VideoWidgetFrameGrabber.listWidget", ""},
-                {"VideoWidgetFrameGrabber.pBAddSelected",
-                 "disk clip_TIME.png=frame 0|frame 125 ; "
-                 "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 ; "
-                 "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list) ; "
-                 "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list)"},
-                {"VideoWidgetFrameGrabber.listWidget > &Remove selected",
-                 "VideoWidgetFrameGrabber.listWidget=6666|9999"},
-                {"VideoWidgetFrameGrabber.pBAddAll",
-                 "disk clip_TIME.png=frame 0|frame 125|frame 166|frame 249 ; "
-                 "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 ; "
-                 "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
-                 "(list) ; "
-                 "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
-                 "(list)"},
-                {"VideoWidgetFrameGrabber.listWidget > &Clear",
-                 "VideoWidgetFrameGrabber.listWidget=(nothing)"},
-                {"VideoWidgetFrameGrabber.pBSelecFiles -> FOLDER/next.mp4",
-                 "VideoWidgetFrameGrabber.listWidget=1000|1332|1998 ; asked=Select video files"},
-                {"VideoWidgetFrameGrabber.pBClose", "VideoWidgetFrameGrabber=(nothing)"},
-                {"VideoWidget.tBGrabFilesFrame -> FOLDER/next.mp4",
-                 "VideoWidgetFrameGrabber=Frame grabber ; asked=Select video files"},
-                {"VideoWidgetFrameGrabber.pBClose", "VideoWidgetFrameGrabber=(nothing)"},
-                {"VideoWidget.action_OpenVideo -> FOLDER/next.mp4",
-                 "VideoWidget=Video editor - next.mp4 ; asked=Open video file"},
-                {"VideoWidget.action_Open_URL -> FOLDER/clip.mp4",
-                 "VideoWidget=Video editor - clip.mp4 ; asked=Video URL:"},
-                {"VideoWidget.&Grab frame",
-                 "disk clip_TIME.png=frame 0|frame 0|frame 125|frame 166|frame 249 ; "
-                 "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME."
-                 "png|"
-                 "next.mp4 ; "
-                 "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME."
-                 "png|"
-                 "next.mp4 (list) ; "
-                 "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME."
-                 "png|"
-                 "next.mp4 (list)"},
-                {"VideoWidget.tBPlayPause", "VideoWidget.frame=(nothing) ; VideoWidget.tBPlayPause=||"},
-                {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=>"},
-                {"editVideo", "VideoWidget=Video editor ; VideoWidget.frame=-1"},
-            });
+        const QList<Step> steps{
+            {"select clip.mp4", "dockWidget_ImgPreview=Video preview ; imgWidget=(nothing) ; "
+                                "labelCurrentSelectionTags=Current selection [1] tags: ; selected=clip.mp4 ; "
+                                "stackedWidgetMediaPreview=page 1 ; statusbar=Selected: 1 items ; "
+                                "tWComments=clip.mp4|Comment: a remark|Duration: 10000|Resolution: 160x64"},
+            {"listView > Edit v&ideo", "VideoWidget=Video editor - clip.mp4"},
+            {"VideoWidget.tBFrameNext", ""},
+            {"VideoWidget.&Frame next", "VideoWidget.frame=1"},
+            {"VideoWidget.tBFramePrev", "VideoWidget.frame=0"},
+            {"VideoWidget.&Frame prev", ""},
+            {"press 5 in VideoWidget", "VideoWidget.frame=125"},
+            {"VideoWidget.tBGrabFrame",
+             "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
+             "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
+             "listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row clip_TIME.png=160x64 none ; "
+             "statusbar=Loaded all media previews in T s ; tBShownCount=4 of 4 shown ; "
+             "tableView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list) ; "
+             "treeView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list)"},
+            {"VideoWidget.tBFileNext",
+             "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; VideoWidget.statusbar=(nothing)"},
+            {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
+            {"VideoWidget.tBGrabSeries", "VideoWidgetFrameGrabber=Frame grabber: FOLDER/clip.mp4"},
+            {"VideoWidgetFrameGrabber.sBFrameNum = 3", "VideoWidgetFrameGrabber.sBFrameNum=3"},
+            {"VideoWidgetFrameGrabber.pBGrabFrames", "VideoWidgetFrameGrabber.listWidget=1|6666|9999"},
+            {"select 0 in VideoWidgetFrameGrabber.listWidget", ""},
+            {"VideoWidgetFrameGrabber.pBAddSelected",
+             "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 0|frame "
+             "125 ; "
+             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 ; tBShownCount=5 of 5 shown ; "
+             "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list) ; "
+             "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list)"},
+            {"VideoWidgetFrameGrabber.listWidget > &Remove selected",
+             "VideoWidgetFrameGrabber.listWidget=6666|9999"},
+            {"VideoWidgetFrameGrabber.pBAddAll",
+             "disk clip_TIME.png=frame 0|frame "
+             "125|frame 166|frame 249 ; "
+             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 ; "
+             "tBShownCount=7 of 7 shown ; "
+             "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
+             "(list) ; "
+             "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
+             "(list)"},
+            {"VideoWidgetFrameGrabber.listWidget > &Clear", "VideoWidgetFrameGrabber.listWidget=(nothing)"},
+            {"VideoWidgetFrameGrabber.pBSelecFiles -> FOLDER/next.mp4",
+             "VideoWidgetFrameGrabber.listWidget=1000|1332|1998 ; asked=Select video files"},
+            {"VideoWidgetFrameGrabber.pBClose", "VideoWidgetFrameGrabber=(nothing)"},
+            {"VideoWidget.tBGrabFilesFrame -> FOLDER/next.mp4",
+             "VideoWidgetFrameGrabber=Frame grabber ; asked=Select video files"},
+            {"VideoWidgetFrameGrabber.pBClose", "VideoWidgetFrameGrabber=(nothing)"},
+            {"VideoWidget.action_OpenVideo -> FOLDER/next.mp4",
+             "VideoWidget=Video editor - next.mp4 ; VideoWidget.statusbar=(nothing) ; asked=Open video file"},
+            {"VideoWidget.action_Open_URL -> FOLDER/clip.mp4",
+             "VideoWidget=Video editor - clip.mp4 ; asked=Video URL:"},
+            {"VideoWidget.&Grab frame", "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk "
+                                        "clip_TIME.png=frame 0|frame 0|frame 125|frame 166|frame 249 ; "
+                                        "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
+                                        "clip_TIME.png|clip_TIME.png|next.mp4 ; tBShownCount=8 of 8 shown ; "
+                                        "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
+                                        "clip_TIME.png|clip_TIME.png|next.mp4 (list) ; "
+                                        "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
+                                        "clip_TIME.png|clip_TIME.png|next.mp4 (list)"},
+            {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=||"},
+            {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=>"},
+            {"editVideo",
+             "VideoWidget=Video editor ; VideoWidget.frame=-1 ; VideoWidget.statusbar=(nothing)"},
+        };
+        live(desk, steps);
     }
 
     void ollama() {
@@ -511,38 +554,52 @@ private slots:
             folder.addTags("a.png", "old");
         });
         desk.words["PEER"] = peer.url();
-        live(desk,
-             {
-                 {"lEOllamaIp = PEER", "lEOllamaIp=PEER"},
-                 {"tBOllamaReconect", "cBOllamaModels=first of first|second ; pBOllamaGo=Send prompt ; "
-                                      "statusbar=Ollama status is online: true"},
-                 {"cBOllamaModels = second", "cBOllamaModels=second of first|second"},
-                 {"sBOllamaScaleResW = 16", "sBOllamaScaleResW=16"},
-                 {"cBOllamaScaleKeepAspectRatio", "cBOllamaScaleKeepAspectRatio=keep aspect ratio"},
-                 {"select a.png",
-                  "dockWidget_ImgPreview=Image 64x32 preview ; imgWidget=lime ; "
-                  "labelCurrentSelectionTags=Current "
-                  "selection [1] tags: ; labelTagsFromFile=File: FOLDER/a.txt ; lwImageTags=old ; "
-                  "pTETagsFromFile=old ; selected=a.png ; statusbar=Selected: 1 items ; tWComments=a.png"},
-                 {"pBOllamaGo", "lwAllImagesTags= two|old|one ; lwImageTags=old|one| two ; "
-                                "pTEResponse=TIME\\none, two ; statusbar=Ollama processing done for 1"},
-                 {"cBOllamaAddTags", "cBOllamaAddTags=add tags"},
-                 {"tBSendOllamaPrompt", "pTEResponse=TIME\\none, two\\nTIME\\nthree"},
-                 {"cBOllamaAddTags", "cBOllamaAddTags=add tags on"},
-                 {"select b.png|broken.png",
-                  "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; "
-                  "labelCurrentSelectionTags=Current "
-                  "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
-                  "lwImageTags=(nothing) ; pTETagsFromFile=(nothing) ; selected=b.png|broken.png ; "
-                  "statusbar=Selected: 2 items ; tWComments=b.png|broken.png"},
-                 {"pBOllamaGo",
-                  "pTEResponse=TIME\\none, two\\nTIME\\nthree\\nTIME\\nError processing: "
-                  "FOLDER/b.png\\nillegal "
-                  "value - no JSON\\nTIME\\nError processing: FOLDER/broken.png\\nError, image is null. ; "
-                  "statusbar=Ollama processing done for 2"},
-                 {"tBSaveTags", "disk a.txt=\"old,one,two\" v2 ; disk b.txt=\"\" ; disk broken.txt=\"\" ; "
-                                "statusbar=Removed 0 missing items."},
-             });
+        const QList<Step> steps{
+            {"lEOllamaIp = PEER", "lEOllamaIp=PEER"},
+            {"tBOllamaReconect", "cBOllamaModels=first of first|second ; pBOllamaGo=Send prompt ; "
+                                 "statusbar=Ollama status is online: true"},
+            {"cBOllamaModels = second", "cBOllamaModels=second of first|second"},
+            {"sBOllamaScaleResW = 16", "sBOllamaScaleResW=16"},
+            {"cBOllamaScaleKeepAspectRatio", "cBOllamaScaleKeepAspectRatio=keep aspect ratio"},
+            {"select a.png",
+             "dockWidget_ImgPreview=Image 64x32 preview ; imgWidget=lime ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; labelTagsFromFile=File: FOLDER/a.txt ; lwImageTags=old ; "
+             "pTETagsFromFile=old ; selected=a.png ; statusbar=Selected: 1 items ; tWComments=a.png"},
+            {"pBOllamaGo",
+             "lwAllImagesTags= two|old|one ; lwImageTags=old|one| two ; pTEResponse=TIME\\none, two ; "
+             "statusbar=Ollama processing done for 1 ; tBUnsavedCount=1 unsaved"},
+            {"cBOllamaAddTags", "cBOllamaAddTags=add tags"},
+            {"tBSendOllamaPrompt", "pTEResponse=TIME\\none, two\\nTIME\\nthree"},
+            {"cBOllamaAddTags", "cBOllamaAddTags=add tags on"},
+            {"select b.png|broken.png",
+             "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelCurrentSelectionTags=Current "
+             "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
+             "lwImageTags=(nothing) ; pTETagsFromFile=(nothing) ; selected=b.png|broken.png ; "
+             "statusbar=Selected: 2 items ; tWComments=b.png|broken.png"},
+            {"pBOllamaGo",
+             "complaints=Error, image is null for: \"FOLDER/broken.png\" ; pTEResponse=TIME\\none, "
+             "two\\nTIME\\nthree\\nTIME\\nError processing: FOLDER/b.png\\nillegal value - no "
+             "JSON\\nTIME\\nError processing: FOLDER/broken.png\\nError, image is null. ; statusbar=Ollama "
+             "processing done for 2"},
+            {"tBSaveTags",
+             "disk a.txt=\"old,one,two\" v2 ; disk b.txt=\"\" ; disk broken.txt=\"\" ; statusbar=Removed 0 "
+             "missing items. ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+        };
+        live(desk, steps);
+        // An answer for a file that is no longer selected leaves alone what is shown.
+        peer.setAnswers("/api/generate", {{R"({"response":"late"})", OllamaPeer::Held}});
+        bool isAsked = false;
+        connect(&peer, &OllamaPeer::requested, &desk, [&] {
+            if (!std::exchange(isAsked, true)) {
+                desk.driver.select({"b.png"});
+                peer.release();
+            }
+        });
+        desk.driver.select({"a.png"});
+        desk.driver.click("pBOllamaGo");
+        QVERIFY(isAsked);
+        QCOMPARE(desk.driver.tagTexts("lwImageTags"), QStringList());
+        QVERIFY(desk.driver.tagTexts("lwAllImagesTags").contains("late"));
     }
 
     void nothingWasLeftOut() { QCOMPARE(Desk::neverUsed().join('\n'), QString()); }
