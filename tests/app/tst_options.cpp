@@ -156,11 +156,11 @@ private slots:
     void badStoredSizesDoNoHarm() {
         const auto& [gridSize] = row<QVariant>();
         QSettings(settingsPath(), QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::gridSizeListView, gridSize},
-                                                   {keys::gridSizeTreeView, gridSize},
-                                                   {keys::gridSizeTableView, gridSize},
-                                                   {keys::optionDialogGeometry, "nonsense"},
-                                                   {keys::imagePreviewThreadCount, -3}});
+            .setValue("settingsData", QVariantHash{{keys::gridSizeListView.key, gridSize},
+                                                   {keys::gridSizeTreeView.key, gridSize},
+                                                   {keys::gridSizeTableView.key, gridSize},
+                                                   {keys::optionDialogGeometry.key, "nonsense"},
+                                                   {keys::imagePreviewThreadCount.key, -3}});
         const MediaFolder folder;
         folder.addImage("a.png");
         WindowDriver driver(folder.path());
@@ -183,7 +183,7 @@ private slots:
         }));
         QCOMPARE(WindowDriver::logCount("MainWindow::onOptionsClosed"), 0);
         QCOMPARE(WindowDriver::logCount(scanLog), scans);
-        QCOMPARE(readSettings().value(keys::gridSizeListView), QVariant(QSize(99, 240)));
+        QCOMPARE(readSettings().value(keys::gridSizeListView.key), QVariant(QSize(99, 240)));
     }
 
     void theSettingsEditorRemovesRows() {
