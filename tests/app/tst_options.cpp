@@ -11,7 +11,6 @@
 #include <QDialog>
 #include <QListView>
 #include <QPushButton>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -26,17 +25,6 @@ void set(const QWidget* dialog, int width, int height, int threads) {
     dialog->findChild<QSpinBox*>("sBPreviewThreadCount")->setValue(threads);
 }
 
-// Width, height and threads, then the boxes that are checked.
-QString shown(const QWidget* dialog) {
-    QStringList texts;
-    for (const char* name : {"sBGridSizeW", "sBGridSizeH", "sBPreviewThreadCount"})
-        texts << QString::number(dialog->findChild<QSpinBox*>(name)->value());
-    for (const QCheckBox* box : dialog->findChildren<QCheckBox*>())
-        if (box->isChecked())
-            texts << box->objectName();
-    return texts.join(' ');
-}
-
 void close(QWidget* dialog) {
     dialog->findChild<QPushButton*>("pBClose")->click();
 }
@@ -49,44 +37,6 @@ class TestOptions : public QObject {
 
 private slots:
     void init() { WindowDriver::forgetSettings(); }
-
-    void aFirstStartShowsTheDefaults() {
-        const WindowDriver driver;
-        QVERIFY(answerOptions(driver, [](QDialog* dialog) {
-            QCOMPARE(dialog->windowTitle(), QString("Settings"));
-            QCOMPARE(dialog->size(), QSize(425, 621));
-            QCOMPARE(shown(dialog), QString("240 240 4 cBSafetensorsIncMeta"));
-            close(dialog);
-        }));
-    }
-
-    void onlyAnotherGridSizeScansAgain_data() {
-        addRows<QSize, bool>({
-            {"only the threads", {240, 240}, false},
-            {"the width", {100, 240}, true},
-            {"the height, too small for thumbnails", {240, 16}, true},
-        });
-    }
-    void onlyAnotherGridSizeScansAgain() {
-        const auto& [gridSize, isScanned] = row<QSize, bool>();
-        const MediaFolder folder;
-        const QString file = folder.addImage("a.png");
-        WindowDriver driver(folder.path());
-        driver.window().setImageTags(file, {"unsaved"});
-        const auto* view = driver.widget<QListView>("listView");
-        const QSize iconSize = view->iconSize();
-        const qsizetype scans = WindowDriver::logCount(scanLog);
-        QVERIFY(answerOptions(driver, [&](QDialog* dialog) {
-            set(dialog, gridSize.width(), gridSize.height(), 9);
-            close(dialog);
-        }));
-        QCOMPARE(WindowDriver::logCount("MainWindow::onOptionsClosed"), 1);
-        QCOMPARE(WindowDriver::logCount(scanLog), scans + (isScanned ? 1 : 0));
-        QVERIFY(driver.waitForLoad());
-        QCOMPARE(driver.window().imageTags(file), isScanned ? QStringList() : QStringList("unsaved"));
-        QCOMPARE(view->gridSize(), gridSize);
-        QCOMPARE(view->iconSize(), iconSize);
-    }
 
     // Each setting of the dialog, found by walking it, changes what the program does, at once and after a
     // restart.
@@ -150,59 +100,6 @@ private slots:
         }
     }
 
-    void badStoredSizesDoNoHarm_data() {
-        addRows<QVariant>({{"below zero", QSize(-5, -5)}, {"text", "large"}});
-    }
-    void badStoredSizesDoNoHarm() {
-        const auto& [gridSize] = row<QVariant>();
-        QSettings(settingsPath(), QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::gridSizeListView.key, gridSize},
-                                                   {keys::gridSizeTreeView.key, gridSize},
-                                                   {keys::gridSizeTableView.key, gridSize},
-                                                   {keys::optionDialogGeometry.key, "nonsense"},
-                                                   {keys::imagePreviewThreadCount.key, -3}});
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        WindowDriver driver(folder.path());
-        QVERIFY(answerOptions(driver, [](QDialog* dialog) {
-            QCOMPARE(shown(dialog), QString("16 16 1 cBSafetensorsIncMeta"));
-            set(dialog, 100, 80, 1);
-            close(dialog);
-        }));
-        QVERIFY(driver.waitForLoad());
-        QCOMPARE(driver.widget<QListView>("listView")->gridSize(), QSize(100, 80));
-        QCOMPARE(driver.catalogueNames(), QStringList("a.png"));
-    }
-
-    void aWindowThatGoesUnderItsDialogScansNoMore() {
-        WindowDriver driver;
-        const qsizetype scans = WindowDriver::logCount(scanLog);
-        QVERIFY(answerOptions(driver, [&driver](QDialog* dialog) {
-            set(dialog, 99, 240, 4);
-            driver.close();
-        }));
-        QCOMPARE(WindowDriver::logCount("MainWindow::onOptionsClosed"), 0);
-        QCOMPARE(WindowDriver::logCount(scanLog), scans);
-        QCOMPARE(readSettings().value(keys::gridSizeListView.key), QVariant(QSize(99, 240)));
-    }
-
-    void theSettingsEditorRemovesRows() {
-        SettingsWidgetDebugDialog dialog;
-        auto* tree = dialog.findChild<QTreeWidget*>("treeWidget");
-        for (const char* key : {"a", "b", "c"})
-            tree->addTopLevelItem(new QTreeWidgetItem({key, "1"}));
-        tree->topLevelItem(0)->setSelected(true);
-        tree->topLevelItem(2)->setSelected(true);
-        dialog.findChild<QPushButton*>("pBRemoveSelected")->click();
-        QCOMPARE(tree->topLevelItemCount(), 1);
-        QCOMPARE(tree->topLevelItem(0)->text(0), QString("b"));
-        const QSignalSpy spy(&dialog, &SettingsWidgetDebugDialog::replaceSettings);
-        dialog.show();
-        dialog.findChild<QPushButton*>("pBApply")->click();
-        QCOMPARE(spy.size(), 1);
-        QVERIFY(!dialog.isVisible());
-    }
-
 private:
     static bool answerOptions(const WindowDriver& driver, ModalAnswer::DialogAnswer answer) {
         const ModalAnswer options(std::move(answer));
@@ -210,9 +107,6 @@ private:
         return options.isUsed();
     }
     static QString settingsPath() { return QCoreApplication::applicationDirPath() + "/settings.data"; }
-    static QVariantHash readSettings() {
-        return QSettings(settingsPath(), QSettings::IniFormat).value("settingsData").toHash();
-    }
 };
 
 QTEST_MAIN(TestOptions)

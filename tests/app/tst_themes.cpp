@@ -71,24 +71,6 @@ private slots:
     }
     void cleanup() { Themes::destroyInstance(); }
 
-    // Derived colours that are resolved outside of Qt, three groups, few roles.
-    void palettesHaveTheirColors_data() {
-        addRows<Themes::Theme, QString>({
-            {"dark", Themes::DARK,
-             "Window 353535, WindowText ffffff/ffffff/808080, Base 191919, AlternateBase 353535, ToolTipBase "
-             "2a82da, Button 404040/353535/353535, Highlight 2a82da, HighlightedText 000000, Light 353535"},
-            {"grey matter", Themes::GREYMATTER,
-             "Window 2e3440, WindowText ffffff/ffffff/a6a6a6, Base 3b4252, Text ffffff/ffffff/a6a6a6, Link "
-             "c6eeff, Highlight 58637b, PlaceholderText 7f7f7f"},
-        });
-    }
-    void palettesHaveTheirColors() {
-        const auto& [theme, colors] = row<Themes::Theme, QString>();
-        Themes::instance()->setTheme(theme);
-        QCOMPARE(colorsOf(QApplication::palette(), colors), colors);
-        QCOMPARE(QApplication::style()->name(), QString("fusion"));
-    }
-
     void themesOfTheStyleTakeItsColors_data() {
         const auto paletteOf = [](const char* style) {
             return std::unique_ptr<QStyle>(QStyleFactory::create(style))->standardPalette();

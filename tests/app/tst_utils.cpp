@@ -80,19 +80,6 @@ private slots:
         QDBusConnection::disconnectFromBus("manager");
     }
 
-    void zoomsFonts() {
-        QLabel label("text");
-        const double before = label.font().pointSizeF();
-        label.installEventFilter(Utils::instance());
-        QTest::keyClick(&label, Qt::Key_Plus, Qt::ControlModifier);
-        QTest::keyClick(&label, Qt::Key_Plus, Qt::ControlModifier);
-        QTest::keyClick(&label, Qt::Key_Plus);
-        QTest::keyClick(&label, Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(label.font().pointSizeF(), before + 1.0);
-        QTest::keyClick(&label, Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(label.font().pointSizeF(), before);
-    }
-
 private:
     QProcess _bus;
     QString _address;

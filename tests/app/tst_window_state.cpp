@@ -241,23 +241,6 @@ private slots:
         QVERIFY2(differs.isEmpty(), qPrintable(differs));
     }
 
-    void valuesOutOfRangeDoNoHarm() {
-        QSettings(QCoreApplication::applicationDirPath() + "/settings.data", QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::viewIdx.key, 99},
-                                                   {keys::currentToolsTabIndex.key, -7},
-                                                   {keys::listViewViewMode.key, 55},
-                                                   {keys::appGeometry.key, QByteArray("nonsense")},
-                                                   {keys::appTheme.key, 99},
-                                                   {keys::resizeSrcAspectRatio.key, "text"},
-                                                   {keys::gridSizeListView.key, "text"},
-                                                   {keys::imagePreviewThreadCount.key, -1}});
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        const WindowDriver driver(folder.path());
-        QCOMPARE(driver.shownNames(), QStringList("a.png"));
-        QCOMPARE(driver.widget<QListView>("listView")->viewMode(), QListView::IconMode);
-    }
-
 private:
     // The state of all widgets of the main window, each tab shown in its turn; on the way each may be
     // changed.

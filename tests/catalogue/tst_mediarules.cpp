@@ -111,43 +111,6 @@ private slots:
         QCOMPARE(canvas().pixelColor(1, 1), QColor(Qt::red));
     }
 
-    void proxiesHideAndShrink() {
-        MediaItemModel model;
-        const QAbstractItemModelTester modelTester(&model);
-        const MediaFolder folder;
-        for (const char* name : {"b.png", "a.png", "c.png"})
-            model.appendRow(makeMediaRow(readMediaRecord(folder.addImage(name)), "Yes", "No"));
-        SortFilterProxyModel sorted;
-        sorted.setSourceModel(&model);
-        sorted.setSortRole(RoleValue);
-        const QAbstractItemModelTester sortedTester(&sorted);
-        sorted.sort(ColName);
-        QCOMPARE(sorted.index(0, 0).data().toString(), QString("a.png"));
-        model.setData(model.index(1, 0), true, RoleHidden);
-        QCOMPARE(sorted.rowCount(), 2);
-        QCOMPARE(sorted.index(0, 0).data().toString(), QString("b.png"));
-
-        IconIdentityProxyModel icons({32, 32});
-        icons.setSourceModel(&sorted);
-        const QAbstractItemModelTester iconTester(&icons);
-        static_cast<MediaItem*>(model.item(0))->setThumbnail({}, {218, 218});
-        QCOMPARE(icons.index(0, 0).data(Qt::DecorationRole).value<QImage>().size(), QSize(32, 32));
-        QCOMPARE(icons.index(0, 0).data(Qt::SizeHintRole).toSize(), QSize(32, 32));
-        QVERIFY(icons.index(0, 1).data(Qt::SizeHintRole).isNull());
-    }
-
-    void bulkRowsComeAsOneChange() {
-        MediaItemModel model;
-        const QAbstractItemModelTester tester(&model);
-        {
-            const MediaItemModel::BulkInsert bulk(model);
-            for (int row = 0; row < 3; ++row)
-                model.appendRow(makeMediaRow({}, "Yes", "No"));
-        }
-        QCOMPARE(model.rowCount(), 3);
-        QCOMPARE(model.columnCount(), int(MediaColumnCount));
-    }
-
     void theFilterSearchesNamesColumnsAndTags_data() {
         addRows<QString, bool>({
             {"name in another case", "PHOTO", true},

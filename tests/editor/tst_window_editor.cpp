@@ -9,7 +9,6 @@
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QLabel>
-#include <QStandardItemModel>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -19,37 +18,6 @@ class TestWindowEditor : public QObject {
 
 private slots:
     void init() { WindowDriver::forgetSettings(); }
-
-    void croppingThreePhotos() {
-        const MediaFolder folder;
-        for (const char* name : {"a.png", "b.png", "c.png"})
-            folder.addImage(name, {400, 300});
-        WindowDriver driver(folder.path());
-        const QString first = driver.catalogue()->index(0, 0).data().toString();
-        EditImageDialog* editor = openEditor(driver, first);
-        auto* view = editor->findChild<EditImageWidget*>("imgWidget");
-        QCOMPARE(editor->windowTitle(), "Edit image: " + first + " [400x300] [1 - 3]");
-        for (int number = 0; number < 3; ++number) {
-            const QString path = view->imageFilePath();
-            QCOMPARE(QFileInfo(path).fileName(), driver.catalogue()->index(number, 0).data().toString());
-            QTest::keyClick(editor, Qt::Key_W);
-            editor->findChild<QDoubleSpinBox*>("dSBCutWidth")->setValue(200 - number * 10);
-            editor->findChild<QDoubleSpinBox*>("dSBCutHeight")->setValue(100);
-            QTest::keyClick(view, Qt::Key_Return);
-            QCOMPARE(view->imageSize(), QSize(200 - number * 10, 100));
-            QVERIFY(view->undoAvailable());
-            view->saveImage();
-            QCOMPARE(driver.statusText(), "Saved image: " + path);
-            QCOMPARE(QImage(path).size(), QSize(200 - number * 10, 100));
-            QTest::keyClick(editor, Qt::Key_PageDown);
-        }
-        // Around the end, back at the first.
-        QCOMPARE(QFileInfo(view->imageFilePath()).fileName(), first);
-        QTest::keyClick(editor, Qt::Key_PageUp);
-        QVERIFY(editor->windowTitle().endsWith("[3 - 3]"));
-        QVERIFY(driver.waitForLoad());
-        QTRY_COMPARE(driver.cell(first, 0, Qt::ToolTipRole).section('\n', 0, 0), QString("200x100 PNG"));
-    }
 
     void controlsAndViewAgree() {
         const MediaFolder folder;
@@ -132,68 +100,11 @@ private slots:
         QCOMPARE(editor->findChild<QLabel*>("labelStatus")->text(), driver.statusText());
     }
 
-    void deletingStepsOn() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        folder.addImage("b.png");
-        WindowDriver driver(folder.path());
-        EditImageDialog* editor = openEditor(driver, "a.png");
-        const auto* view = editor->findChild<EditImageWidget*>("imgWidget");
-        {
-            const ModalAnswer answer(QMessageBox::Cancel);
-            pressDelete(editor);
-            QCOMPARE(answer.text(), QString("Delete file?"));
-            QCOMPARE(answer.informativeText(),
-                     "Do you want to delete " + folder.filePath("a.png") + " file?");
-        }
-        QVERIFY(folder.exists("a.png"));
-        {
-            const ModalAnswer answer(QMessageBox::Ok);
-            pressDelete(editor);
-        }
-        QVERIFY(!folder.exists("a.png"));
-        QCOMPARE(view->imageFilePath(), folder.filePath("b.png"));
-        QTRY_COMPARE(driver.catalogueNames(), QStringList("b.png"));
-        {
-            const ModalAnswer answer(QMessageBox::Ok);
-            pressDelete(editor);
-        }
-        // The last file leaves its picture on show.
-        QCOMPARE(view->imageFilePath(), folder.filePath("b.png"));
-        QTRY_COMPARE(driver.catalogue()->rowCount(), 0);
-        QTest::keyClick(editor, Qt::Key_PageDown);
-        QVERIFY(editor->isVisible());
-    }
-
-    void windowsOutliveARescanAndShareTheirLayout() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        {
-            WindowDriver driver(folder.path());
-            EditImageDialog* first = openEditor(driver, "a.png");
-            EditImageDialog* second = openEditor(driver, "a.png");
-            QVERIFY(first != second);
-            driver.rescan();
-            QTest::keyClick(first, Qt::Key_PageDown);
-            QVERIFY(first->windowTitle().endsWith("[1 - 1]"));
-            first->close();
-            second->resize(777, 555);
-            // The second stays open and is stored as the main window goes.
-        }
-        WindowDriver driver(folder.path());
-        QCOMPARE(openEditor(driver, "a.png")->size(), QSize(777, 555));
-    }
-
 private:
     static void activate(QWidget* window) {
         window->activateWindow();
         if (!QTest::qWaitFor([&] { return QApplication::activeWindow() == window; }))
             qFatal("the editor is not active");
-    }
-    // A message box takes the activation with it when it goes.
-    static void pressDelete(QWidget* window) {
-        activate(window);
-        QTest::keyClick(window, Qt::Key_Delete);
     }
     static EditImageDialog* openEditor(WindowDriver& driver, const QString& name) {
         driver.select({name});

@@ -6,11 +6,8 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTest>
 
 // The small windows of the tag subsystem.
@@ -18,41 +15,6 @@ class TestTagDialogs : public QObject {
     Q_OBJECT
 
 private slots:
-    void editingSendsBothPaths() {
-        auto dialog = std::make_unique<AddTagsDialog>();
-        QCOMPARE(dialog->findChild<QPushButton*>("pBAdd")->text(), QString("Add"));
-        dialog->setTagFile("/d/a%1.png", "/d/a%1.txt", "red");
-        QCOMPARE(dialog->findChild<QLabel*>("labelTags")->text(), QString("Tags from: /d/a%1.txt"));
-        QCOMPARE(dialog->findChild<QPushButton*>("pBAdd")->text(), QString("Save"));
-        const QSignalSpy edited(dialog.get(), &AddTagsDialog::addTagsTxtAccepted);
-        const QSignalSpy destroyed(dialog.get(), &AddTagsDialog::aboutToBeDestroyed);
-        for (const char* button : {"pBCancel", "pBAdd"})
-            dialog->findChild<QPushButton*>(button)->click();
-        QCOMPARE(edited, QList<QVariantList>({{"/d/a%1.png", "/d/a%1.txt", "red"}}));
-        dialog.reset();
-        QCOMPARE(destroyed.count(), 1);
-    }
-
-    void replaceAndSplitShareAWindow() {
-        for (const int type : {int(ReplaceTextDialog::Replace), int(ReplaceTextDialog::Split), 0}) {
-            ReplaceTextDialog dialog;
-            dialog.setOperationType(type);
-            const QSignalSpy replaced(&dialog, &ReplaceTextDialog::replaceText);
-            const QSignalSpy split(&dialog, &ReplaceTextDialog::splitText);
-            dialog.open();
-            QCOMPARE(dialog.findChild<QWidget*>("widgetDst")->isVisible(), type != ReplaceTextDialog::Split);
-            dialog.findChild<QLineEdit*>("lESrcText")->setText("src");
-            dialog.findChild<QPushButton*>("pBCancel")->click();
-            QVERIFY(!dialog.isVisible());
-            QCOMPARE(replaced.count() + split.count(), 0);
-            dialog.open();
-            dialog.findChild<QPushButton*>("pBOk")->click();
-            QVERIFY(!dialog.isVisible());
-            QCOMPARE(replaced.count(), type == ReplaceTextDialog::Replace ? 1 : 0);
-            QCOMPARE(split.count(), type == ReplaceTextDialog::Split ? 1 : 0);
-        }
-    }
-
     void exportFollowsItsOptions() {
         TagsExportDialog dialog;
         const auto* text = dialog.findChild<QPlainTextEdit*>("plainTextEdit");

@@ -8,15 +8,8 @@
 #include "video/VideoWidget.h"
 #include "video/VideoWidgetFrameGrabber.h"
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalSpy>
-#include <QStatusBar>
 #include <QTransform>
-#include <QVideoSink>
-#include <QVideoWidget>
 
 namespace {
 
@@ -75,66 +68,6 @@ private slots:
         }
         QCOMPARE(driver.cell("h264.mp4", ColComment), "Yes");
         QCOMPARE(driver.cell("fps60.mp4", ColComment), "No");
-    }
-
-    void aSeriesBecomesRows() {
-        const MediaFolder folder;
-        WindowDriver driver(folder.path());
-        VideoWidget* video = driver.window().showEditVideoWidget();
-        video->openFile(clipPath("h264.mp4"));
-        video->onVideoGrabSeries();
-        auto* grabber = video->findChild<VideoWidgetFrameGrabber*>();
-        grabber->findChild<QPushButton*>("pBGrabFrames")->click();
-        QTRY_COMPARE(grabber->findChild<QListWidget*>()->count(), 10);
-        grabber->findChild<QPushButton*>("pBAddAll")->click();
-        const QStringList rows = driver.window().allFilePaths();
-        QList<int> numbers;
-        for (const QString& row : rows) {
-            numbers.append(frameNumber(QImage(row)));
-            QTRY_COMPARE(frameNumber(shownFrame(driver, QFileInfo(row).fileName(), false)), numbers.last());
-        }
-        QCOMPARE(numbers, (QList<int>{0, 49, 74, 99, 124, 149, 174, 199, 224, 249}));
-        // The watcher has met the new files too.
-        QCOMPARE(driver.window().allFilePaths(), rows);
-    }
-
-    void aGrabbedFrameBecomesARow() {
-        const MediaFolder folder;
-        WindowDriver driver(folder.path());
-        VideoWidget* video = driver.window().showEditVideoWidget();
-        video->onGrabFrame();
-        QCOMPARE(WindowDriver::logCount("Image is null..."), 1);
-        video->openFile(clipPath("h264.mp4"));
-        const auto* sink = video->findChild<QVideoWidget*>()->videoSink();
-        QTRY_VERIFY(sink->videoFrame().isValid());
-        QTest::keyClick(video, Qt::Key_7);
-        QTRY_COMPARE(frameNumber(sink->videoFrame().toImage()), 175);
-        video->onGrabFrame();
-        QCOMPARE(driver.catalogue()->rowCount(), 1);
-        const QString name = driver.catalogueNames().first();
-        QCOMPARE(video->statusBar()->currentMessage(), "Saved frame to: " + folder.filePath(name));
-        const QRegularExpression pattern("^h264_\\d\\d_\\d\\d_\\d{4}T\\d\\d_\\d\\d_\\d\\d_\\d{3}\\.png$");
-        QVERIFY2(pattern.match(name).hasMatch(), qPrintable(name));
-        QCOMPARE(frameNumber(QImage(folder.filePath(name))), 175);
-        QCOMPARE(driver.cell(name, ColResolution), "160x64");
-
-        auto* path = driver.widget<QLineEdit>("lEWorkingPath");
-        path->setText(folder.filePath("gone"));
-        video->onGrabFrame();
-        const QString start = "Error, unable to save file to: " + folder.filePath("gone/h264_");
-        QVERIFY2(driver.statusText().startsWith(start), qPrintable(driver.statusText()));
-        QCOMPARE(video->statusBar()->currentMessage(), driver.statusText());
-        path->clear();
-        video->onGrabFrame();
-        QCOMPARE(video->statusBar()->currentMessage(), "No working directory to save the frame to.");
-        QCOMPARE(driver.catalogue()->rowCount(), 1);
-
-        video->resize(700, 500);
-        video->close();
-        driver.close();
-        WindowDriver later(folder.path());
-        QCOMPARE(later.window().showEditVideoWidget()->size(), QSize(700, 500));
-        QVERIFY(!Settings::instance()->data(keys::videoWidgetState.key).toByteArray().isEmpty());
     }
 
     void leavingDuringAProbe() {
