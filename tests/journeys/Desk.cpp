@@ -420,7 +420,9 @@ Facts Desk::world() {
                 widget->window() == window && !name.isEmpty() && name[0].isLower() && !name.startsWith("qt_");
             if (!isOwn)
                 continue;
-            if (!restless.contains(name) && !isInsideList(widget))
+            const bool isSameList = name == "treeView" || name == "tableView";
+            const bool isHiddenButton = widget->isHidden() && qobject_cast<const QAbstractButton*>(widget);
+            if (!restless.contains(name) && !isInsideList(widget) && !isSameList && !isHiddenButton)
                 facts[owner + name] = plain(shownBy(widget));
             const auto* play = window->findChild<QAbstractButton*>("tBPlayPause");
             if (const auto* video = qobject_cast<const QVideoWidget*>(widget);
@@ -433,6 +435,10 @@ Facts Desk::world() {
                 facts[owner + "imgWidget " + flag] = view->property(flag).toString();
             facts[owner + "imgWidget"] = middleColour(view->grab().toImage());
         }
+    }
+    for (const char* view : {"treeView", "tableView"}) {
+        if (driver.shownNames(view) != driver.shownNames())
+            facts[view] = driver.shownNames(view).join('|');
     }
     const QAbstractItemModel* rows = driver.widget<QAbstractItemView>("listView")->model();
     for (int row = 0; row < rows->rowCount(); ++row) {

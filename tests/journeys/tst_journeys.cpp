@@ -102,9 +102,7 @@ private slots:
              "asked=Select files to import ; complaints=Error, unable to find model item for: "
              "\"FOLDER/c.png\" ; disk c.png=20x20 yellow ; labelTagsFromFile=File: FOLDER/c.txt ; "
              "listView=a.png|b.jpg|c.png ; lwAllImagesTags=cat|dog|waiting ; pTETagsFromFile=waiting ; row "
-             "c.png=20x20 yellow ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1 ; "
-             "tBShownCount=3 of 3 shown ; tableView=a.png|b.jpg|c.png (list) ; treeView=a.png|b.jpg|c.png "
-             "(list)"},
+             "c.png=20x20 yellow ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1"},
             {"listView > &Import files -> FOLDER/sub/c.png",
              "asked=Select files to import ; complaints=Unable to import file from FOLDER/sub/c.png, file "
              "already exist at: FOLDER/c.png ; statusbar=Unable to import file from FOLDER/sub/c.png, file "
@@ -112,13 +110,11 @@ private slots:
             {"listView > &Copy files -> FOLDER/sub",
              "asked=Select directory ; disk sub/a.png=40x30 red ; tBLastResult=copied 1"},
             {"remove c.png", "disk c.png=(nothing) ; listView=a.png|b.jpg ; lwAllImagesTags=cat|dog ; row "
-                             "c.png=(nothing) ; statusbar=Removed 1 missing items. ; tBShownCount=2 of 2 "
-                             "shown ; tableView=a.png|b.jpg (list) ; treeView=a.png|b.jpg (list)"},
+                             "c.png=(nothing) ; statusbar=Removed 1 missing items."},
             {"write d.png cyan 70x20",
              "disk d.png=70x20 cyan ; labelTagsFromFile=File tag, txt, missing for: FOLDER/d.txt ; "
              "listView=a.png|b.jpg|d.png ; pTETagsFromFile=(nothing) ; row d.png=70x20 cyan ; "
-             "statusbar=Loaded all media previews in T s ; tBShownCount=3 of 3 shown ; "
-             "tableView=a.png|b.jpg|d.png (list) ; treeView=a.png|b.jpg|d.png (list)"},
+             "statusbar=Loaded all media previews in T s"},
             {"cBWorkingDirScanRecursive", "cBWorkingDirScanRecursive=rec. on"},
             {"tBRefreshOpenFilePath -> No", "asked=Refresh FOLDER working directory?"},
             {"tBRefreshOpenFilePath -> Yes",
@@ -126,8 +122,7 @@ private slots:
              "tags: ; labelTagsFromFile=* ; listView=a.png|a.png|a.png|b.jpg|c.png|d.png ; "
              "lwAllImagesTags=cat|dog|inner ; lwImageTags=(nothing) ; pTETagsFromFile=* ; row "
              "other/a.png=22x22 cyan ; row sub/a.png=40x30 red ; row sub/c.png=20x20 yellow ; "
-             "selected=(nothing) ; tBShownCount=6 of 6 shown ; tableView=a.png|a.png|a.png|b.jpg|c.png|d.png "
-             "(list) ; treeView=a.png|a.png|a.png|b.jpg|c.png|d.png (list)"},
+             "selected=(nothing)"},
             {"select b.jpg|d.png",
              "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; labelCurrentSelectionTags=Current "
              "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
@@ -154,15 +149,12 @@ private slots:
             {"listView > &Delete file -> OK",
              "asked=Delete files. ; disk other/b.jpg=(nothing) ; labelCurrentSelectionTags=Current selection "
              "[0] tags: ; listView=a.png|a.png|a.png|c.png|d.png ; row other/b.jpg=(nothing) ; "
-             "selected=(nothing) ; tBLastResult=deleted 1 ; tBShownCount=5 of 5 shown ; "
-             "tableView=a.png|a.png|a.png|c.png|d.png (list) ; treeView=a.png|a.png|a.png|c.png|d.png "
-             "(list)"},
+             "selected=(nothing) ; tBLastResult=deleted 1"},
             {"tBSrcSelectPath -> Yes, FOLDER/sub",
              "asked=Change FOLDER working directory?|Select directory ; lEWorkingPath=FOLDER/sub ; "
              "labelTagsFromFile=* ; listView=a.png|c.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; row "
              "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; statusbar=Loaded all "
-             "media previews in T s ; tBShownCount=2 of 2 shown ; tableView=a.png|c.png (list) ; "
-             "treeView=a.png|c.png (list)"},
+             "media previews in T s"},
             {"action_SelectWorkingPath -> No", "asked=Change FOLDER/sub working directory?"},
             {"restart", "dockWidget_ImgPreview=Media preview ; imgWidget=none ; "
                         "labelCurrentSelectionTags=Current selection tags: ; tBLastResult=(nothing) ; "
@@ -217,12 +209,11 @@ private slots:
             {"lwAllImagesTags > View &icon", "lwAllImagesTags=bee|cat|dog"},
             {"select dog in lwAllImagesTags",
              "listView=a.png ; row b.png=(nothing) ; row c.png=(nothing) ; statusbar=Found 1 images for tag: "
-             "dog ; tBShownCount=1 of 3 shown ; tableView=a.png (list) ; treeView=a.png (list)"},
+             "dog ; tBShownCount=1 of 3 shown"},
             {"lwAllImagesTags > &Copy to clipboard", "clipboard=dog"},
             {"lwAllImagesTags > &Refresh",
              "listView=a.png|b.png|c.png ; row b.png=50x30 blue ; row c.png=60x30 yellow ; statusbar=Found 0 "
-             "images for tag:  ; tBShownCount=3 of 3 shown ; tableView=a.png|b.png|c.png (list) ; "
-             "treeView=a.png|b.png|c.png (list)"},
+             "images for tag:  ; tBShownCount=(nothing)"},
             {"lwAllImagesTags > R&eplace text -> dog|hound",
              "asked=Replace tags text ; lwAllImagesTags=bee|cat|hound ; lwImageTags=hound ; "
              "statusbar=Selected: 1 items"},
@@ -231,11 +222,10 @@ private slots:
             {"select bee in lwAllImagesTags",
              "labelCurrentSelectionTags=Current selection [0] tags: ; listView=b.png ; lwImageTags=(nothing) "
              "; row a.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; statusbar=Found 1 images "
-             "for tag: bee ; tBShownCount=1 of 3 shown ; tableView=b.png (list) ; treeView=b.png (list)"},
+             "for tag: bee ; tBShownCount=1 of 3 shown"},
             {"lwAllImagesTags > &Delete",
              "listView=a.png|b.png|c.png ; lwAllImagesTags=cat|ho|nd ; row a.png=40x30 red ; row c.png=60x30 "
-             "yellow ; statusbar=Found 0 images for tag:  ; tBShownCount=3 of 3 shown ; "
-             "tableView=a.png|b.png|c.png (list) ; treeView=a.png|b.png|c.png (list)"},
+             "yellow ; statusbar=Found 0 images for tag:  ; tBShownCount=(nothing)"},
             {"cBBackupTxt", "cBBackupTxt=backup on"},
             {"cBSaveTagsDuplicates", "cBSaveTagsDuplicates=dups on"},
             {"tBSaveTags",
@@ -260,10 +250,9 @@ private slots:
             {"leFilterImages = b.png",
              "labelCurrentSelectionTags=Current selection [0] tags: ; leFilterImages=b.png ; listView=b.png "
              "; lwImageTags=(nothing) ; row a.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
-             "tBShownCount=1 of 3 shown ; tableView=b.png (list) ; treeView=b.png (list)"},
+             "tBShownCount=1 of 3 shown"},
             {"tBShownCount", "leFilterImages=(nothing) ; listView=a.png|b.png|c.png ; row a.png=40x30 red ; "
-                             "row c.png=60x30 yellow ; tBShownCount=3 of 3 shown ; "
-                             "tableView=a.png|b.png|c.png (list) ; treeView=a.png|b.png|c.png (list)"},
+                             "row c.png=60x30 yellow ; tBShownCount=(nothing)"},
             {"select a.png",
              "labelCurrentSelectionTags=Current selection [1] tags: ; lwImageTags=y|y|y ; selected=a.png"},
             {"listView > &Add tag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
@@ -278,8 +267,8 @@ private slots:
             {"TagsExportDialog.cBRemoveDuplicates",
              "TagsExportDialog.cBRemoveDuplicates=remove duplicates ; "
              "TagsExportDialog.plainTextEdit=cat\\nlast\\nlast\\ny\\ny\\ny\\n"},
-            {"TagsExportDialog.cBSortByNumOccurance", "TagsExportDialog.cBSortByNumOccurance=sort by count ; "
-                                                      "TagsExportDialog.plainTextEdit=*"},
+            {"TagsExportDialog.cBSortByNumOccurance",
+             "TagsExportDialog.cBSortByNumOccurance=sort by count ; TagsExportDialog.plainTextEdit=*"},
             {"TagsExportDialog.pBClose", "TagsExportDialog=(nothing)"},
         };
         live(desk, steps);
@@ -407,21 +396,16 @@ private slots:
             {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
             {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
              "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
-             "for: FOLDER/whole.txt ; listView=a.png|b.png|whole.png ; row whole.png=100x80 blue ; "
-             "tBShownCount=3 of 3 shown ; tableView=a.png|b.png|whole.png (list) ; "
-             "treeView=a.png|b.png|whole.png (list)"},
+             "for: FOLDER/whole.txt ; listView=a.png|b.png|whole.png ; row whole.png=100x80 blue"},
             {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
             {"imgWidget > &Save as -> FOLDER/copy.png",
              "asked=Save image as ; disk copy.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
-             "for: FOLDER/copy.txt ; listView=a.png|b.png|copy.png|whole.png ; row copy.png=100x80 blue ; "
-             "tBShownCount=4 of 4 shown ; tableView=a.png|b.png|copy.png|whole.png (list) ; "
-             "treeView=a.png|b.png|copy.png|whole.png (list)"},
+             "for: FOLDER/copy.txt ; listView=a.png|b.png|copy.png|whole.png ; row copy.png=100x80 blue"},
             {"EditImageDialog.&Delete image [Del] -> OK",
              "EditImageDialog=Edit image: b.png [60x50] [N - 4] ; EditImageDialog.imgWidget=red ; "
              "asked=Delete file? ; disk a.png=(nothing) ; labelCurrentSelectionTags=Current selection [0] "
              "tags: ; listView=b.png|copy.png|whole.png ; row a.png=(nothing) ; selected=(nothing) ; "
-             "statusbar=Removed 1 missing items. ; tBShownCount=3 of 3 shown ; "
-             "tableView=b.png|copy.png|whole.png (list) ; treeView=b.png|copy.png|whole.png (list)"},
+             "statusbar=Removed 1 missing items."},
             {"editImage", ""},
         };
         live(desk, steps);
@@ -487,9 +471,7 @@ private slots:
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
              "listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row clip_TIME.png=160x64 none ; "
-             "statusbar=Loaded all media previews in T s ; tBShownCount=4 of 4 shown ; "
-             "tableView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list) ; "
-             "treeView=a.png|clip.mp4|clip_TIME.png|next.mp4 (list)"},
+             "statusbar=Loaded all media previews in T s"},
             {"VideoWidget.tBFileNext",
              "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; VideoWidget.statusbar=(nothing)"},
             {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
@@ -499,21 +481,12 @@ private slots:
             {"select 0 in VideoWidgetFrameGrabber.listWidget", ""},
             {"VideoWidgetFrameGrabber.pBAddSelected",
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 0|frame "
-             "125 ; "
-             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 ; tBShownCount=5 of 5 shown ; "
-             "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list) ; "
-             "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4 (list)"},
+             "125 ; listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|next.mp4"},
             {"VideoWidgetFrameGrabber.listWidget > &Remove selected",
              "VideoWidgetFrameGrabber.listWidget=6666|9999"},
             {"VideoWidgetFrameGrabber.pBAddAll",
-             "disk clip_TIME.png=frame 0|frame "
-             "125|frame 166|frame 249 ; "
-             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 ; "
-             "tBShownCount=7 of 7 shown ; "
-             "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
-             "(list) ; "
-             "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 "
-             "(list)"},
+             "disk clip_TIME.png=frame 0|frame 125|frame 166|frame 249 ; "
+             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4"},
             {"VideoWidgetFrameGrabber.listWidget > &Clear", "VideoWidgetFrameGrabber.listWidget=(nothing)"},
             {"VideoWidgetFrameGrabber.pBSelecFiles -> FOLDER/next.mp4",
              "VideoWidgetFrameGrabber.listWidget=1000|1332|1998 ; asked=Select video files"},
@@ -528,11 +501,7 @@ private slots:
             {"VideoWidget.&Grab frame", "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk "
                                         "clip_TIME.png=frame 0|frame 0|frame 125|frame 166|frame 249 ; "
                                         "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
-                                        "clip_TIME.png|clip_TIME.png|next.mp4 ; tBShownCount=8 of 8 shown ; "
-                                        "tableView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
-                                        "clip_TIME.png|clip_TIME.png|next.mp4 (list) ; "
-                                        "treeView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
-                                        "clip_TIME.png|clip_TIME.png|next.mp4 (list)"},
+                                        "clip_TIME.png|clip_TIME.png|next.mp4"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=||"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=>"},
             {"editVideo",
@@ -600,6 +569,101 @@ private slots:
         QVERIFY(isAsked);
         QCOMPARE(desk.driver.tagTexts("lwImageTags"), QStringList());
         QVERIFY(desk.driver.tagTexts("lwAllImagesTags").contains("late"));
+    }
+
+    void acrossTheParts() {
+        OllamaPeer peer;
+        peer.setAnswers("/api/version", {{R"({"version":"0.5"})"}});
+        peer.setAnswers("/api/tags", {{R"({"models":[{"model":"first"}]})"}});
+        peer.setAnswers("/api/generate", {{R"({"response":"dune,fog"})"}});
+        Desk desk([](const MediaFolder& folder) {
+            folder.addImage("a.png", {40, 30}, Qt::red);
+            folder.addImage("b.png", {80, 60}, Qt::blue);
+            folder.addImage("away/c.png", {44, 33}, Qt::cyan);
+            folder.addTags("b.png", "fog");
+            folder.addTags("c.png", "dune");
+            QFile::copy(clipPath("h264.mp4"), folder.filePath("clip.mp4"));
+        });
+        desk.words["PEER"] = peer.url();
+        const QList<Step> steps{
+            {"lEOllamaIp = PEER", "lEOllamaIp=PEER"},
+            {"tBOllamaReconect", "cBOllamaModels=first of first ; pBOllamaGo=Send prompt ; statusbar=Ollama "
+                                 "status is online: true"},
+            {"leFilterImages = a.png", "leFilterImages=a.png ; listView=a.png ; row b.png=(nothing) ; row "
+                                       "clip.mp4=(nothing) ; tBShownCount=1 of 3 shown"},
+            {"select a.png",
+             "dockWidget_ImgPreview=Image 40x30 preview ; imgWidget=red ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/a.txt ; "
+             "pTETagsFromFile=(nothing) ; selected=a.png ; statusbar=Selected: 1 items ; tWComments=a.png"},
+            {"addTag", "AddTagsDialog=Add tags, one per line or/and \",\" separated.."},
+            {"AddTagsDialog.plainTextEdit = red", "AddTagsDialog.plainTextEdit=red"},
+            {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; lwAllImagesTags=fog|red ; lwImageTags=red ; "
+                                    "tBUnsavedCount=1 unsaved"},
+            {"pBOllamaGo", "lwAllImagesTags=dune|fog|red ; lwImageTags=red|dune|fog ; "
+                           "pTEResponse=TIME\\ndune,fog ; statusbar=Ollama processing done for 1"},
+            {"leFilterImages = fog",
+             "leFilterImages=fog ; listView=a.png|b.png ; row b.png=80x60 blue ; tBShownCount=2 of 3 shown"},
+            {"tBSaveTags", "disk a.txt=\"red,dune,fog\" ; disk clip.txt=\"\" ; statusbar=Removed 0 missing "
+                           "items. ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"leFilterImages = :missingTxt",
+             "labelCurrentSelectionTags=Current selection [0] tags: ; leFilterImages=:missingTxt ; "
+             "listView=clip.mp4 ; lwImageTags=(nothing) ; row a.png=(nothing) ; row b.png=(nothing) ; row "
+             "clip.mp4=160x64 none ; selected=(nothing) ; tBShownCount=1 of 3 shown"},
+            {"leFilterImages = ", "leFilterImages=(nothing) ; listView=a.png|b.png|clip.mp4 ; row "
+                                  "a.png=40x30 red ; row b.png=80x60 blue ; tBShownCount=(nothing)"},
+            {"select clip.mp4",
+             "dockWidget_ImgPreview=Video preview ; imgWidget=(nothing) ; labelCurrentSelectionTags=Current "
+             "selection [1] tags: ; labelTagsFromFile=File: FOLDER/clip.txt ; selected=clip.mp4 ; "
+             "stackedWidgetMediaPreview=page 1 ; statusbar=Selected: 1 items ; tWComments=clip.mp4|Comment: "
+             "a remark|Duration: 10000|Resolution: 160x64"},
+            {"listView > Edit v&ideo", "VideoWidget=Video editor - clip.mp4"},
+            {"press 5 in VideoWidget", "VideoWidget.frame=125"},
+            {"VideoWidget.tBGrabFrame",
+             "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
+             "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
+             "listView=a.png|b.png|clip.mp4|clip_TIME.png ; row clip_TIME.png=160x64 none ; statusbar=Loaded "
+             "all media previews in T s"},
+            {"select b.png",
+             "dockWidget_ImgPreview=Image 80x60 preview ; imgWidget=blue ; labelTagsFromFile=File: "
+             "FOLDER/b.txt ; lwImageTags=fog ; pTETagsFromFile=fog ; selected=b.png ; "
+             "stackedWidgetMediaPreview=page 0 ; statusbar=Selected: 1 items ; tWComments=b.png"},
+            {"editImage", "EditImageDialog=Edit image: b.png [80x60] [N - 4]"},
+            {"EditImageDialog.&Cut image [W]",
+             "EditImageDialog.dSBCutHeight=60 ; EditImageDialog.dSBCutWidth=80 ; "
+             "EditImageDialog.sBCutOutlineWidth=8 ; EditImageDialog.stackedWidget=page 0"},
+            {"EditImageDialog.dSBCutWidth = 30", "EditImageDialog.dSBCutWidth=30"},
+            {"press Return in EditImageDialog.imgWidget", ""},
+            {"EditImageDialog.&Save image [Save, Ctrl+S]",
+             "disk b.png=30x60 blue v2 ; statusbar=Loaded all media previews in T s ; tBLastResult=saved 1"},
+            {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
+            {"sBSpecificW = 15", "sBSpecificW=15"},
+            {"sBSpecificH = -1", "sBSpecificH=-1"},
+            {"pBProcessResize",
+             "disk scaled/b.png=15x30 blue ; statusbar=Removed 0 missing items. ; tBLastResult=resized 1"},
+            {"action_Import_files -> FOLDER/away/c.png",
+             "asked=Select files to import ; complaints=Error, unable to find model item for: "
+             "\"FOLDER/c.png\" ; disk c.png=44x33 cyan ; labelTagsFromFile=File: FOLDER/c.txt ; "
+             "listView=a.png|b.png|c.png|clip.mp4|clip_TIME.png ; pTETagsFromFile=dune ; row c.png=44x33 "
+             "cyan ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1"},
+            {"select b.png|c.png",
+             "dockWidget_ImgPreview=Image 30x60 preview ; labelCurrentSelectionTags=Current selection [2] "
+             "tags: ; labelTagsFromFile=File: FOLDER/b.txt ; lwImageTags=fog|dune ; pTETagsFromFile=fog ; "
+             "selected=b.png|c.png ; statusbar=Selected: 2 items ; tWComments=b.png|c.png"},
+            {"listView > &Delete file -> OK",
+             "asked=Delete files. ; disk b.png=(nothing) ; disk c.png=(nothing) ; "
+             "labelCurrentSelectionTags=Current selection [0] tags: ; listView=a.png|clip.mp4|clip_TIME.png "
+             "; lwImageTags=(nothing) ; row b.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
+             "statusbar=Removed 0 missing items. ; tBLastResult=deleted 2"},
+            {"tBRefreshOpenFilePath -> Yes",
+             "asked=Refresh FOLDER working directory? ; labelTagsFromFile=* ; pTETagsFromFile=* ; "
+             "statusbar=Loaded all media previews in T s ; tBUnsavedCount=(nothing)"},
+            {"write b.png lime 12x12",
+             "disk b.png=12x12 lime v3 ; labelTagsFromFile=File: FOLDER/b.txt ; "
+             "listView=a.png|b.png|clip.mp4|clip_TIME.png ; pTETagsFromFile=fog ; row b.png=12x12 lime"},
+            {"tBSaveTags",
+             "disk clip_TIME.txt=\"\" ; statusbar=Removed 0 missing items. ; tBLastResult=saved 4"},
+        };
+        live(desk, steps);
     }
 
     void nothingWasLeftOut() { QCOMPARE(Desk::neverUsed().join('\n'), QString()); }
