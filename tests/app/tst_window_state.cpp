@@ -221,13 +221,16 @@ private slots:
         _changes = true;
         static_cast<void>(windowState(driver));
         _changes = false;
-        Facts left = windowState(driver);
+        // A filter in force has a button in the status bar, which may cost the splitters a few pixels.
         driver.widget<QLineEdit>("leFilterImages")->clear();
+        Facts left = windowState(driver);
         left.insert(toolWindowStates(driver, other, true));
         driver.widget<QLineEdit>("lEWorkingPath")->setText(other.path());
         left["lEWorkingPath"] = other.path();
         for (const QString& name : startAnew) {
-            QVERIFY2(left.value(name) != before.value(name) || name.startsWith("gB"), qPrintable(name));
+            QVERIFY2(left.value(name) != before.value(name) || name.startsWith("gB") ||
+                         name == "leFilterImages",
+                     qPrintable(name));
             left[name] = before.value(name);
         }
         for (const auto& [name, value] : std::as_const(left).asKeyValueRange())

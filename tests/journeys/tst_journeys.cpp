@@ -391,8 +391,8 @@ private slots:
             {"press Return in EditImageDialog.imgWidget",
              "EditImageDialog.dSBCutX=0 ; EditImageDialog.imgWidget=none"},
             {"EditImageDialog.&Save image [Save, Ctrl+S]",
-             "disk a.png=40x79 red v2 ; imgWidget=blue ; row a.png=100x80 red ; statusbar=Loaded all media "
-             "previews in T s ; tBLastResult=saved 1"},
+             "disk a.png=40x79 red v2 ; row a.png=100x80 red ; statusbar=Loaded all media previews in T s ; "
+             "tBLastResult=saved 1"},
             {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
             {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
              "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
@@ -471,7 +471,7 @@ private slots:
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
              "listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row clip_TIME.png=160x64 none ; "
-             "statusbar=Loaded all media previews in T s"},
+             "statusbar=Loaded all media previews in T s ; tBLastResult=grabbed 1"},
             {"VideoWidget.tBFileNext",
              "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; VideoWidget.statusbar=(nothing)"},
             {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
@@ -622,7 +622,7 @@ private slots:
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
              "listView=a.png|b.png|clip.mp4|clip_TIME.png ; row clip_TIME.png=160x64 none ; statusbar=Loaded "
-             "all media previews in T s"},
+             "all media previews in T s ; tBLastResult=grabbed 1"},
             {"select b.png",
              "dockWidget_ImgPreview=Image 80x60 preview ; imgWidget=blue ; labelTagsFromFile=File: "
              "FOLDER/b.txt ; lwImageTags=fog ; pTETagsFromFile=fog ; selected=b.png ; "
