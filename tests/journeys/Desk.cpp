@@ -361,6 +361,10 @@ QString Desk::plain(QString text) const {
         R"(\d\d_\d\d_\d{4}T\d\d_\d\d_\d\d_\d{3}(_\d+)?(?=\.)|\d\d\.\d\d\.\d{4} \d\d:\d\d:\d\d\.\d+)");
     for (const auto& [word, value] : words.asKeyValueRange())
         text.replace(value, word);
+    // The watcher and the preview load end in either order.
+    static const QRegularExpression background(
+        "^(Loaded all media previews in: \\S+ s|Removed 0 missing items\\.)$");
+    text.replace(background, "(background)");
     return text.remove(varying)
         .replace(place, "[N - ")
         .replace(seconds, "in T s")

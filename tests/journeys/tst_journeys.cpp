@@ -102,7 +102,7 @@ private slots:
              "asked=Select files to import ; complaints=Error, unable to find model item for: "
              "\"FOLDER/c.png\" ; disk c.png=20x20 yellow ; labelTagsFromFile=File: FOLDER/c.txt ; "
              "listView=a.png|b.jpg|c.png ; lwAllImagesTags=cat|dog|waiting ; pTETagsFromFile=waiting ; row "
-             "c.png=20x20 yellow ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1"},
+             "c.png=20x20 yellow ; statusbar=(background) ; tBLastResult=imported 1"},
             {"listView > &Import files -> FOLDER/sub/c.png",
              "asked=Select files to import ; complaints=Unable to import file from FOLDER/sub/c.png, file "
              "already exist at: FOLDER/c.png ; statusbar=Unable to import file from FOLDER/sub/c.png, file "
@@ -114,7 +114,7 @@ private slots:
             {"write d.png cyan 70x20",
              "disk d.png=70x20 cyan ; labelTagsFromFile=File tag, txt, missing for: FOLDER/d.txt ; "
              "listView=a.png|b.jpg|d.png ; pTETagsFromFile=(nothing) ; row d.png=70x20 cyan ; "
-             "statusbar=Loaded all media previews in T s"},
+             "statusbar=(background)"},
             {"cBWorkingDirScanRecursive", "cBWorkingDirScanRecursive=rec. on"},
             {"tBRefreshOpenFilePath -> No", "asked=Refresh FOLDER working directory?"},
             {"tBRefreshOpenFilePath -> Yes",
@@ -132,15 +132,14 @@ private slots:
              "order of rows=FOLDER/sub|FOLDER/sub|FOLDER/other|FOLDER|FOLDER|FOLDER"},
             {"listView > &Sort/&Resolution", "order of rows=20x20|22x22|40x30|40x30|70x20|50x30"},
             {"listView > &Sort/&Name", "order of rows=c.png|a.png|a.png|d.png|b.jpg|a.png"},
-            {"listView > &Delete stray txt files",
-             "disk c.txt=(nothing) ; disk gone.txt=(nothing) ; statusbar=Removed 0 missing items. ; "
-             "tBLastResult=deleted 2"},
+            {"listView > &Delete stray txt files", "disk c.txt=(nothing) ; disk gone.txt=(nothing) ; "
+                                                   "statusbar=(background) ; tBLastResult=deleted 2"},
             {"listView > &Move files -> FOLDER/other",
              "asked=Select directory ; disk b.jpg=(nothing) ; disk d.png=(nothing) ; disk other/b.jpg=50x30 "
              "blue ; disk other/d.png=70x20 cyan ; labelCurrentSelectionTags=Current selection [0] tags: ; "
              "labelTagsFromFile=* ; row b.jpg=(nothing) ; row d.png=(nothing) ; row other/b.jpg=50x30 blue ; "
-             "row other/d.png=70x20 cyan ; selected=(nothing) ; statusbar=Loaded all media previews in T s ; "
-             "tBLastResult=moved 2 ; pTETagsFromFile=*"},
+             "row other/d.png=70x20 cyan ; selected=(nothing) ; statusbar=(background) ; tBLastResult=moved "
+             "2 ; pTETagsFromFile=*"},
             {"select b.jpg", "labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=File "
                              "tag, txt, missing for: FOLDER/other/b.txt ; selected=b.jpg ; "
                              "statusbar=Selected: 1 items ; tWComments=b.jpg"},
@@ -153,8 +152,8 @@ private slots:
             {"tBSrcSelectPath -> Yes, FOLDER/sub",
              "asked=Change FOLDER working directory?|Select directory ; lEWorkingPath=FOLDER/sub ; "
              "labelTagsFromFile=* ; listView=a.png|c.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; row "
-             "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; statusbar=Loaded all "
-             "media previews in T s"},
+             "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; "
+             "statusbar=(background)"},
             {"action_SelectWorkingPath -> No", "asked=Change FOLDER/sub working directory?"},
             {"restart", "dockWidget_ImgPreview=Media preview ; imgWidget=none ; "
                         "labelCurrentSelectionTags=Current selection tags: ; tBLastResult=(nothing) ; "
@@ -228,10 +227,9 @@ private slots:
              "yellow ; statusbar=Found 0 images for tag:  ; tBShownCount=(nothing)"},
             {"cBBackupTxt", "cBBackupTxt=backup on"},
             {"cBSaveTagsDuplicates", "cBSaveTagsDuplicates=dups on"},
-            {"tBSaveTags",
-             "disk a.txt=\"ho,nd\" v3 ; disk a_backup_0.txt=\"cat,dog,ant,fox\" ; disk b.txt=\"cat\" v3 ; "
-             "disk b_backup_0.txt=\"bee,cat,ant\" ; disk c.txt=\"\" ; statusbar=Removed 0 missing items. ; "
-             "tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"tBSaveTags", "disk a.txt=\"ho,nd\" v3 ; disk a_backup_0.txt=\"cat,dog,ant,fox\" ; disk "
+                           "b.txt=\"cat\" v3 ; disk b_backup_0.txt=\"bee,cat,ant\" ; disk c.txt=\"\" ; "
+                           "statusbar=(background) ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
             {"cBBackupTxt", "cBBackupTxt=backup"},
             {"select a.png", "labelCurrentSelectionTags=Current selection [1] tags: ; lwImageTags=ho|nd ; "
                              "pTETagsFromFile=ho,nd ; selected=a.png ; statusbar=Selected: 1 items"},
@@ -292,7 +290,7 @@ private slots:
             {"sBSpecificW = 50", "sBSpecificW=50"},
             {"sBSpecificH = -1", "sBSpecificH=-1"},
             {"pBProcessResize", "disk scaled/a.png=50x40 blue ; disk scaled/b.jpg=50x40 red ; "
-                                "statusbar=Removed 0 missing items. ; tBLastResult=resized 2"},
+                                "statusbar=(background) ; tBLastResult=resized 2"},
             {"tWTools = 3", "tWTools=page 3"},
             {"cBDspEffectsList = Brightness", ""},
             {"tBAddEffect", "dockWidget_ImgPreview=Image 160x128 preview ; imgWidget=red ; "
@@ -331,8 +329,8 @@ private slots:
              "cBDspEffectsList=Brightness of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen ; "
              "dockWidget_ImgPreview=Media preview ; imgWidget=none ; labelCurrentSelectionTags=Current "
              "selection tags: ; labelTagsFromFile=* ; sBSpecificH=1080 ; sBSpecificW=1920 ; "
-             "selected=(nothing) ; statusbar=Loaded all media previews in T s ; tBLastResult=(nothing) ; "
-             "tWComments=(nothing) ; pTETagsFromFile=*"},
+             "selected=(nothing) ; statusbar=(background) ; tBLastResult=(nothing) ; tWComments=(nothing) ; "
+             "pTETagsFromFile=*"},
             {"cBProfilesName_HL = Default",
              "complaints=Error, unable to cast filter option widget... ; lWDspEffects=Sharpen|Brightness 255 "
              "(list) ; statusbar=Select image/s."},
@@ -390,9 +388,8 @@ private slots:
              "EditImageDialog.dSBCutHeight=79 ; EditImageDialog.dSBCutX=8"},
             {"press Return in EditImageDialog.imgWidget",
              "EditImageDialog.dSBCutX=0 ; EditImageDialog.imgWidget=none"},
-            {"EditImageDialog.&Save image [Save, Ctrl+S]",
-             "disk a.png=40x79 red v2 ; row a.png=100x80 red ; statusbar=Loaded all media previews in T s ; "
-             "tBLastResult=saved 1"},
+            {"EditImageDialog.&Save image [Save, Ctrl+S]", "disk a.png=40x79 red v2 ; row a.png=100x80 red ; "
+                                                           "statusbar=(background) ; tBLastResult=saved 1"},
             {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
             {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
              "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
@@ -471,7 +468,7 @@ private slots:
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
              "listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row clip_TIME.png=160x64 none ; "
-             "statusbar=Loaded all media previews in T s ; tBLastResult=grabbed 1"},
+             "statusbar=(background) ; tBLastResult=grabbed 1"},
             {"VideoWidget.tBFileNext",
              "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; VideoWidget.statusbar=(nothing)"},
             {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
@@ -550,9 +547,8 @@ private slots:
              "two\\nTIME\\nthree\\nTIME\\nError processing: FOLDER/b.png\\nillegal value - no "
              "JSON\\nTIME\\nError processing: FOLDER/broken.png\\nError, image is null. ; statusbar=Ollama "
              "processing done for 2"},
-            {"tBSaveTags",
-             "disk a.txt=\"old,one,two\" v2 ; disk b.txt=\"\" ; disk broken.txt=\"\" ; statusbar=Removed 0 "
-             "missing items. ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"tBSaveTags", "disk a.txt=\"old,one,two\" v2 ; disk b.txt=\"\" ; disk broken.txt=\"\" ; "
+                           "statusbar=(background) ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
         };
         live(desk, steps);
         // An answer for a file that is no longer selected leaves alone what is shown.
@@ -603,8 +599,8 @@ private slots:
                            "pTEResponse=TIME\\ndune,fog ; statusbar=Ollama processing done for 1"},
             {"leFilterImages = fog",
              "leFilterImages=fog ; listView=a.png|b.png ; row b.png=80x60 blue ; tBShownCount=2 of 3 shown"},
-            {"tBSaveTags", "disk a.txt=\"red,dune,fog\" ; disk clip.txt=\"\" ; statusbar=Removed 0 missing "
-                           "items. ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
+            {"tBSaveTags", "disk a.txt=\"red,dune,fog\" ; disk clip.txt=\"\" ; statusbar=(background) ; "
+                           "tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
             {"leFilterImages = :missingTxt",
              "labelCurrentSelectionTags=Current selection [0] tags: ; leFilterImages=:missingTxt ; "
              "listView=clip.mp4 ; lwImageTags=(nothing) ; row a.png=(nothing) ; row b.png=(nothing) ; row "
@@ -621,8 +617,8 @@ private slots:
             {"VideoWidget.tBGrabFrame",
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
-             "listView=a.png|b.png|clip.mp4|clip_TIME.png ; row clip_TIME.png=160x64 none ; statusbar=Loaded "
-             "all media previews in T s ; tBLastResult=grabbed 1"},
+             "listView=a.png|b.png|clip.mp4|clip_TIME.png ; row clip_TIME.png=160x64 none ; "
+             "statusbar=(background) ; tBLastResult=grabbed 1"},
             {"select b.png",
              "dockWidget_ImgPreview=Image 80x60 preview ; imgWidget=blue ; labelTagsFromFile=File: "
              "FOLDER/b.txt ; lwImageTags=fog ; pTETagsFromFile=fog ; selected=b.png ; "
@@ -634,17 +630,17 @@ private slots:
             {"EditImageDialog.dSBCutWidth = 30", "EditImageDialog.dSBCutWidth=30"},
             {"press Return in EditImageDialog.imgWidget", ""},
             {"EditImageDialog.&Save image [Save, Ctrl+S]",
-             "disk b.png=30x60 blue v2 ; statusbar=Loaded all media previews in T s ; tBLastResult=saved 1"},
+             "disk b.png=30x60 blue v2 ; statusbar=(background) ; tBLastResult=saved 1"},
             {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
             {"sBSpecificW = 15", "sBSpecificW=15"},
             {"sBSpecificH = -1", "sBSpecificH=-1"},
             {"pBProcessResize",
-             "disk scaled/b.png=15x30 blue ; statusbar=Removed 0 missing items. ; tBLastResult=resized 1"},
+             "disk scaled/b.png=15x30 blue ; statusbar=(background) ; tBLastResult=resized 1"},
             {"action_Import_files -> FOLDER/away/c.png",
              "asked=Select files to import ; complaints=Error, unable to find model item for: "
              "\"FOLDER/c.png\" ; disk c.png=44x33 cyan ; labelTagsFromFile=File: FOLDER/c.txt ; "
              "listView=a.png|b.png|c.png|clip.mp4|clip_TIME.png ; pTETagsFromFile=dune ; row c.png=44x33 "
-             "cyan ; statusbar=Loaded all media previews in T s ; tBLastResult=imported 1"},
+             "cyan ; statusbar=(background) ; tBLastResult=imported 1"},
             {"select b.png|c.png",
              "dockWidget_ImgPreview=Image 30x60 preview ; labelCurrentSelectionTags=Current selection [2] "
              "tags: ; labelTagsFromFile=File: FOLDER/b.txt ; lwImageTags=fog|dune ; pTETagsFromFile=fog ; "
@@ -653,15 +649,14 @@ private slots:
              "asked=Delete files. ; disk b.png=(nothing) ; disk c.png=(nothing) ; "
              "labelCurrentSelectionTags=Current selection [0] tags: ; listView=a.png|clip.mp4|clip_TIME.png "
              "; lwImageTags=(nothing) ; row b.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
-             "statusbar=Removed 0 missing items. ; tBLastResult=deleted 2"},
+             "statusbar=(background) ; tBLastResult=deleted 2"},
             {"tBRefreshOpenFilePath -> Yes",
              "asked=Refresh FOLDER working directory? ; labelTagsFromFile=* ; pTETagsFromFile=* ; "
-             "statusbar=Loaded all media previews in T s ; tBUnsavedCount=(nothing)"},
+             "statusbar=(background) ; tBUnsavedCount=(nothing)"},
             {"write b.png lime 12x12",
              "disk b.png=12x12 lime v3 ; labelTagsFromFile=File: FOLDER/b.txt ; "
              "listView=a.png|b.png|clip.mp4|clip_TIME.png ; pTETagsFromFile=fog ; row b.png=12x12 lime"},
-            {"tBSaveTags",
-             "disk clip_TIME.txt=\"\" ; statusbar=Removed 0 missing items. ; tBLastResult=saved 4"},
+            {"tBSaveTags", "disk clip_TIME.txt=\"\" ; statusbar=(background) ; tBLastResult=saved 4"},
         };
         live(desk, steps);
     }
