@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QLatin1StringView>
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -9,6 +10,9 @@
 
 // A filter chain as profiles keep it: one entry a row, in order, the filter's name and the row's options.
 using EffectList = QList<std::pair<QString, QHash<QString, QVariant>>>;
+
+// The option of a profile under which its chain is kept.
+inline constexpr QLatin1StringView effectListOption{"effectList"};
 
 // Makes stored effect lists readable; must run before any profile is restored. More calls do no harm.
 void registerEffectListType();

@@ -1,34 +1,14 @@
 #include "imaging/ImageFilterWidgetBase.h"
 
 #include "app/services/Themes.h"
+#include "imaging/FilterChain.h"
 #include "imaging/ImageFilterWidgetSlider.h"
 #include "ui_ImageFilterWidgetBase.h"
 
 #include <QDebug>
 #include <QSignalBlocker>
 
-#include <algorithm>
-#include <limits>
 #include <optional>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto kBypassedOption = "bypassed"_L1;
-constexpr auto kSliderTypeOption = "sliderType"_L1;
-constexpr auto kValueOption = "value"_L1;
-constexpr auto kTenthsOption = "valueD"_L1;
-
-// Stored numbers may be anything; what no slider can hold goes to the end of the range.
-int sliderValueFromTenths(double tenths) {
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    const double value = tenths * 10.0;
-    return value == value ? static_cast<int>(std::clamp(value, lowest, highest)) : 0;
-}
-
-} // namespace
 
 ImageFilterWidgetBase::ImageFilterWidgetBase(QWidget* parent)
     : QWidget(parent), _ui(std::make_unique<Ui::ImageFilterWidgetBase>()) {
@@ -68,41 +48,28 @@ void ImageFilterWidgetBase::setFilterEnabled(bool enabled, bool blockSignals) {
 }
 
 QHash<QString, QVariant> ImageFilterWidgetBase::options() const {
-    QHash<QString, QVariant> options{{kBypassedOption, _ui->cBEnabled->isChecked()}};
+    QHash<QString, QVariant> options = bypassOption(_ui->cBEnabled->isChecked());
     const auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(_optionWidget);
     if (!slider)
         return options;
-    options.insert(kSliderTypeOption, static_cast<int>(slider->sliderType()));
-    switch (slider->sliderType()) {
-    case ImageFilterWidgetSlider::SliderInt:
-        options.insert(kValueOption, slider->value());
-        break;
-    case ImageFilterWidgetSlider::SliderDouble:
-        options.insert(kTenthsOption, slider->valueD());
-        break;
-    default:
+    storeFilterNumber(options, slider->sliderType(), slider->value());
+    if (slider->sliderType() != ImageFilterWidgetSlider::SliderInt &&
+        slider->sliderType() != ImageFilterWidgetSlider::SliderDouble)
         qDebug() << "Invalid option slider type.";
-    }
     return options;
 }
 
 void ImageFilterWidgetBase::setOptions(const QHash<QString, QVariant>& options) {
-    _ui->cBEnabled->setChecked(options.value(kBypassedOption, false).toBool());
+    const StoredFilterOptions stored = storedFilterOptions(options);
+    _ui->cBEnabled->setChecked(stored.isBypassed);
     auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(_optionWidget);
     if (!slider)
         return;
-    slider->setSliderType(
-        static_cast<ImageFilterWidgetSlider::SliderType>(options.value(kSliderTypeOption, 0).toInt()));
-    switch (slider->sliderType()) {
-    case ImageFilterWidgetSlider::SliderInt:
-        slider->setValue(options.value(kValueOption, 0).toInt());
-        break;
-    case ImageFilterWidgetSlider::SliderDouble:
-        slider->setValue(sliderValueFromTenths(options.value(kTenthsOption, 0.0).toDouble()));
-        break;
-    default:
+    slider->setSliderType(static_cast<ImageFilterWidgetSlider::SliderType>(stored.numberType));
+    if (stored.value)
+        slider->setValue(*stored.value);
+    else
         qDebug() << "Invalid option slider type.";
-    }
 }
 
 void ImageFilterWidgetBase::updateIcons(bool dark) {

@@ -36,7 +36,3 @@ public:
     [[nodiscard]] static QString filterName(FilterType type);
     [[nodiscard]] static FilterType filterType(const QString& name);
 };
-
-// The image in a format that the pixel routines take: 32-bit RGB and ARGB as they are, all others converted
-// to ARGB32, or to RGB32 without an alpha channel.
-[[nodiscard]] QImage filterInput(const QImage& image);

@@ -8,14 +8,6 @@
 #include <QDebug>
 #include <QSignalBlocker>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString effectListOption = u"effectList"_s;
-
-} // namespace
-
 void MainWindow::initProfileConnections() {
     const Profiles* profiles = Profiles::instance();
     connect(profiles, &Profiles::profilesNewRequested, this, &MainWindow::onFilterProfilesNewRequested);

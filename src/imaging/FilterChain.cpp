@@ -1,0 +1,138 @@
+#include "imaging/FilterChain.h"
+
+#include "imaging/ImageDSP.h"
+
+#include <QDebug>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct NumberedFilter {
+    ImageFilters::FilterType type;
+    FilterRange range;
+};
+
+constexpr std::array kNumberedFilters{
+    NumberedFilter{ImageFilters::Brightness, {-255, 255, 10, 0}},
+    NumberedFilter{ImageFilters::Contrast, {10, 30, 0, std::nullopt}},
+    NumberedFilter{ImageFilters::Blur, {0, 18, 0, 0}},
+    NumberedFilter{ImageFilters::WhitePoint, {0, 255, 255, 255}},
+    NumberedFilter{ImageFilters::BlackPoint, {0, 255, 0, 0}},
+};
+
+constexpr auto kBypassedOption = "bypassed"_L1;
+constexpr auto kNumberTypeOption = "sliderType"_L1;
+constexpr auto kValueOption = "value"_L1;
+constexpr auto kTenthsOption = "valueD"_L1;
+constexpr double kTenths = 10.0;
+
+constexpr int kSharpenSide = 3;
+constexpr std::array kSharpenKernel{-1.0, -1.0, -1.0, -1.0, 9.0, -1.0, -1.0, -1.0, -1.0};
+
+QImage sharpened(const QImage& image) {
+    QImage result = image;
+    ImageDSP::convolute(result, QPointF(0, 0), image, QRectF(image.rect()), QPainter::CompositionMode_Source,
+                        kSharpenKernel, kSharpenSide, kSharpenSide);
+    return result;
+}
+
+QImage numberFiltered(const QImage& image, ImageFilters::FilterType type, int value) {
+    switch (type) {
+    case ImageFilters::Brightness:
+        return ImageDSP::brightness(image, 1.0, value);
+    case ImageFilters::Contrast:
+        return ImageDSP::brightness(image, 10.0 / value, 1);
+    case ImageFilters::Blur:
+        return ImageDSP::blurred(image, image.rect(), value, false);
+    case ImageFilters::WhitePoint:
+        return ImageDSP::whitePointed(image, value);
+    case ImageFilters::BlackPoint:
+        return ImageDSP::blackPointed(image, value);
+    default:
+        return image;
+    }
+}
+
+// Stored numbers may be anything; what no integer can hold goes to the end of its range.
+int valueFromTenths(double tenths) {
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    const double value = tenths * kTenths;
+    return value == value ? static_cast<int>(std::clamp(value, lowest, highest)) : 0;
+}
+
+} // namespace
+
+std::optional<FilterRange> filterRange(ImageFilters::FilterType type) {
+    const auto* const found = std::ranges::find(kNumberedFilters, type, &NumberedFilter::type);
+    return found == kNumberedFilters.end() ? std::nullopt : std::optional(found->range);
+}
+
+QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied) {
+    if (image.isNull() || step.isBypassed)
+        return image;
+    if (step.type == ImageFilters::Sharpen) {
+        *applied = true;
+        return sharpened(filterInput(image));
+    }
+    const std::optional<FilterRange> range = filterRange(step.type);
+    if (!range) {
+        qDebug() << "Error, invalid filter type";
+        return image;
+    }
+    if (range->neutral == step.value)
+        return image;
+    *applied = true;
+    return numberFiltered(filterInput(image), step.type, step.value);
+}
+
+StoredFilterOptions storedFilterOptions(const QHash<QString, QVariant>& options) {
+    StoredFilterOptions stored{.isBypassed = options.value(kBypassedOption, false).toBool(),
+                               .numberType = options.value(kNumberTypeOption, 0).toInt(),
+                               .value = {}};
+    if (stored.numberType == 0)
+        stored.value = options.value(kValueOption, 0).toInt();
+    else if (stored.numberType == 1)
+        stored.value = valueFromTenths(options.value(kTenthsOption, 0.0).toDouble());
+    return stored;
+}
+
+QHash<QString, QVariant> bypassOption(bool isBypassed) {
+    return {{kBypassedOption, isBypassed}};
+}
+
+void storeFilterNumber(QHash<QString, QVariant>& options, int numberType, int value) {
+    options.insert(kNumberTypeOption, numberType);
+    if (numberType == 0)
+        options.insert(kValueOption, value);
+    else if (numberType == 1)
+        options.insert(kTenthsOption, value / kTenths);
+}
+
+QList<FilterStep> filterChain(const EffectList& effects) {
+    QList<FilterStep> chain;
+    for (const auto& [name, options] : effects) {
+        const StoredFilterOptions stored = storedFilterOptions(options);
+        FilterStep step{.type = ImageFilters::filterType(name), .isBypassed = stored.isBypassed};
+        if (const std::optional<FilterRange> range = filterRange(step.type))
+            step.value = std::clamp(stored.value.value_or(range->initial), range->minimum, range->maximum);
+        chain.append(step);
+    }
+    return chain;
+}
+
+QImage filterInput(const QImage& image) {
+    switch (image.format()) {
+    case QImage::Format_RGB32:
+    case QImage::Format_ARGB32:
+    case QImage::Format_ARGB32_Premultiplied:
+        return image;
+    default:
+        return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    }
+}
