@@ -1,7 +1,6 @@
 #include "imaging/BatchOutput.h"
 
 #include "app/services/FileFailure.h"
-#include "app/services/ImageFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,11 +23,14 @@ QString outputFilePath(const QString& sourcePath, const QString& outputDirectory
     return u"%1/%2"_s.arg(outputDirectory, source.fileName());
 }
 
+ImageFileOptions batchImageOptions(int quality) {
+    return {.format = {}, .quality = quality, .compression = 1};
+}
+
 BatchWriter::BatchWriter(int quality) : _quality(quality) {}
 
 bool BatchWriter::write(const QImage& image, const QString& filePath) {
-    if (!writeImageFile(image, filePath, {.format = {}, .quality = _quality, .compression = 1},
-                        &_errorString)) {
+    if (!writeImageFile(image, filePath, batchImageOptions(_quality), &_errorString)) {
         noteFailure(filePath, _errorString);
         return false;
     }

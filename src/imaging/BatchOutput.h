@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/services/ImageFile.h"
+
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -14,6 +16,9 @@ class QImage;
 
 // The source's name in the output directory; the source path itself, untouched, if it lies there by its text.
 [[nodiscard]] QString outputFilePath(const QString& sourcePath, const QString& outputDirectory);
+
+// How a batch writes its images, with a quality from 1 to 100.
+[[nodiscard]] ImageFileOptions batchImageOptions(int quality);
 
 // Writes the images of one batch with one quality; the suffix of a file decides its format.
 class BatchWriter {

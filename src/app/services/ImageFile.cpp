@@ -57,15 +57,24 @@ QString replaceFile(const QString& filePath, const QByteArray& bytes) {
 
 bool writeImageFile(const QImage& image, const QString& filePath, const ImageFileOptions& options,
                     QString* error) {
-    const QByteArray format =
-        options.format.isEmpty() ? QFileInfo(filePath).suffix().toLower().toLatin1() : options.format;
-    QBuffer encoded;
-    QString failure = encodeImage(image, format, options, encoded);
+    QString failure;
+    const QByteArray bytes = encodedImageFile(image, filePath, options, &failure);
     if (failure.isEmpty())
-        failure = replaceFile(filePath, encoded.data());
+        failure = replaceFile(filePath, bytes);
     if (error)
         *error = failure;
     return failure.isEmpty();
+}
+
+QByteArray encodedImageFile(const QImage& image, const QString& filePath, const ImageFileOptions& options,
+                            QString* error) {
+    const QByteArray format =
+        options.format.isEmpty() ? QFileInfo(filePath).suffix().toLower().toLatin1() : options.format;
+    QBuffer encoded;
+    const QString failure = encodeImage(image, format, options, encoded);
+    if (error)
+        *error = failure;
+    return failure.isEmpty() ? encoded.data() : QByteArray();
 }
 
 int imageAllocationLimit(quint64 memory) {

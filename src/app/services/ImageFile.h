@@ -19,6 +19,10 @@ struct ImageFileOptions {
 [[nodiscard]] bool writeImageFile(const QImage& image, const QString& filePath,
                                   const ImageFileOptions& options = {}, QString* error = nullptr);
 
+// The bytes that it writes to a file of that name; empty after a failure, which sets `error`.
+[[nodiscard]] QByteArray encodedImageFile(const QImage& image, const QString& filePath,
+                                          const ImageFileOptions& options = {}, QString* error = nullptr);
+
 // The largest image to decode, in MiB, on a machine with so many bytes of memory: a quarter, at least 1 GiB.
 [[nodiscard]] int imageAllocationLimit(quint64 memory);
 
