@@ -17,7 +17,6 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QSet>
 #include <QTimer>
 
 void MainWindow::openWorkingDirectory(const QString& path) {
@@ -63,17 +62,13 @@ void MainWindow::openWorkingDirectory(const QString& path) {
 
 QStringList MainWindow::scanDirectory(const QString& path, const QStringList& nameFilters,
                                       bool recursive) const {
-    // All filters are of the form "*.suffix". A set tells at once what a pattern for each of them tells
-    // slowly.
-    QSet<QString> suffixes;
-    for (const QString& filter : nameFilters)
-        suffixes.insert(filter.sliced(2));
+    const SuffixMatcher suffixes(nameFilters);
     QStringList files;
     QDirIterator entries(path, QDir::NoFilter,
                          recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
     while (entries.hasNext()) {
         const QString entry = entries.next();
-        if (suffixes.contains(entry.sliced(entry.lastIndexOf(u'.') + 1).toCaseFolded()))
+        if (suffixes.matches(entry))
             files.append(entry);
     }
     return files;

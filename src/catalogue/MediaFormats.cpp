@@ -58,6 +58,15 @@ QStringList mediaNameFilters() {
     return asNameFilters(supportedImageFormats()) + asNameFilters(supportedVideoFormats());
 }
 
+SuffixMatcher::SuffixMatcher(const QStringList& nameFilters) {
+    for (const QString& filter : nameFilters)
+        _suffixes.insert(filter.sliced(2));
+}
+
+bool SuffixMatcher::matches(const QString& path) const {
+    return _suffixes.contains(path.sliced(path.lastIndexOf(u'.') + 1).toCaseFolded());
+}
+
 QString imageDialogFilter() {
     return QCoreApplication::translate("MediaFormats", "Images (") +
            asNameFilters(supportedWriteFormats()).join(u' ') + u')';

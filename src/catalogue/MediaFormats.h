@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +15,16 @@
 // Name filters as "*.png": of videos; of images followed by videos.
 [[nodiscard]] QStringList videoNameFilters();
 [[nodiscard]] QStringList mediaNameFilters();
+
+// Whether a path ends in the suffix of one of many name filters "*.suffix", told by one look-up.
+class SuffixMatcher {
+public:
+    explicit SuffixMatcher(const QStringList& nameFilters);
+    [[nodiscard]] bool matches(const QString& path) const;
+
+private:
+    QSet<QString> _suffixes;
+};
 
 // Filters for file dialogs.
 [[nodiscard]] QString imageDialogFilter();
