@@ -69,10 +69,7 @@ void OllamaApi::getPrompt(const QString& prompt, const QByteArray& image, const 
         emit ollamaError(u"%1 - %2"_s.arg(reply.parserText, QString::fromUtf8(data)), imgFilePath);
         return;
     }
-    QString text = reply.response;
-    if (!reply.thinking.isEmpty())
-        text += tr("Thinking:") + reply.thinking;
-    emit ollamaResponseImg(text, imgFilePath);
+    emit ollamaResponseImg(answerText(reply), imgFilePath);
 }
 
 QByteArray OllamaApi::getData(const QString& url) {

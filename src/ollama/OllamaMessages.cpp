@@ -1,5 +1,6 @@
 #include "ollama/OllamaMessages.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,14 +32,17 @@ QString ollamaUrl(const QString& base, const QString& path) {
     return (isClosed ? base.chopped(1) : base) + path;
 }
 
-QByteArray generateRequest(const QString& model, const QString& prompt, const QByteArray& image) {
-    const QJsonObject body{
+QByteArray generateRequest(const QString& model, const QString& prompt, const QByteArray& image,
+                           const QString& system) {
+    QJsonObject body{
         {u"model"_s, model},
         {u"prompt"_s, prompt},
         {u"stream"_s, false},
         {u"options"_s, QJsonObject{{u"num_predict"_s, longestAnswerTokens}}},
         {u"images"_s, QJsonArray{QString::fromLatin1(image)}},
     };
+    if (!system.isEmpty())
+        body.insert(u"system"_s, system);
     return QJsonDocument(body).toJson(QJsonDocument::Indented);
 }
 
@@ -63,4 +67,11 @@ GenerateReply readGenerateReply(const QByteArray& data) {
             .response = json.object.value("response"_L1).toString(),
             .thinking = json.object.value("thinking"_L1).toString(),
             .parserText = isJson ? QJsonParseError().errorString() : json.parseError};
+}
+
+QString answerText(const GenerateReply& reply) {
+    QString text = reply.response;
+    if (!reply.thinking.isEmpty())
+        text += QCoreApplication::translate("OllamaApi", "Thinking:") + reply.thinking;
+    return text;
 }

@@ -9,9 +9,10 @@
 // Joins the base URL and a path that starts with a slash; one closing slash or backslash of the base goes.
 [[nodiscard]] QString ollamaUrl(const QString& base, const QString& path);
 
-// The JSON body of a generate request. The image is base64 text.
-[[nodiscard]] QByteArray generateRequest(const QString& model, const QString& prompt,
-                                         const QByteArray& image);
+// The JSON body of a generate request. The image is base64 text. An empty system prompt leaves the model's
+// own.
+[[nodiscard]] QByteArray generateRequest(const QString& model, const QString& prompt, const QByteArray& image,
+                                         const QString& system = {});
 
 struct VersionReply {
     QString version;
@@ -39,3 +40,5 @@ struct GenerateReply {
 };
 // A reply that holds the word "error" anywhere is bad: the server has no other mark for a failure.
 [[nodiscard]] GenerateReply readGenerateReply(const QByteArray& data);
+// What a good reply says: its response, then what the model thought.
+[[nodiscard]] QString answerText(const GenerateReply& reply);
