@@ -42,9 +42,6 @@ void Settings::destroyInstance() {
 
 Settings::Settings(QObject* parent, SettingsLocation location, const QString& fileName, bool debugging)
     : QObject(parent), _debugging(debugging), _settingsLocation(location), _fileName(fileName) {
-    // Naming the types makes them known to the stream in which the table is stored.
-    qRegisterMetaType<QHash<QString, QDateTime>>();
-    qRegisterMetaType<QList<std::pair<QString, bool>>>();
     if (_fileName.isEmpty())
         _fileName = u"settings.data"_s;
     read();
@@ -79,6 +76,13 @@ QString Settings::directory() const {
     return {};
 }
 
+QHash<QString, QVariant> Settings::storedTable(const QSettings& file) {
+    // Naming the types makes them known to the stream in which the table is stored.
+    qRegisterMetaType<QHash<QString, QDateTime>>();
+    qRegisterMetaType<QList<std::pair<QString, bool>>>();
+    return file.value(settingsDataKey).toHash();
+}
+
 void Settings::read() {
     _filePath = directory() + _fileName;
     if (_debugging)
@@ -87,7 +91,7 @@ void Settings::read() {
         _settings = std::make_unique<QSettings>(_filePath, QSettings::IniFormat);
         qDebug() << "Settings read:" << _settings->fileName();
     }
-    _data = _settings->value(settingsDataKey).toHash();
+    _data = storedTable(*_settings);
 }
 
 QVariant Settings::data(const QString& key, const QVariant& defaultValue) const {

@@ -27,6 +27,9 @@ public:
     // Writes the file.
     static void destroyInstance();
 
+    // The table that a settings file holds; empty for one that is missing or no settings file.
+    [[nodiscard]] static QHash<QString, QVariant> storedTable(const QSettings& file);
+
     void read();
     // A key that is present with an invalid value yields that value, not the default.
     [[nodiscard]] QVariant data(const QString& key, const QVariant& defaultValue = {}) const;
