@@ -1,38 +1,53 @@
 #include "safetensors/SafetensorInspector.h"
 
-#include "safetensors/SafetensorsFile.h"
-
 #include <QDebug>
 
 #include <cstdint>
 #include <iostream>
 #include <string>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fileName, bool includeTensorInfo,
-                                                              bool includeMetaInfo) {
+namespace {
+
+QString failureLine(const QString& fileName, const QString& what, const std::string& err) {
+    return "Failed to load: "_L1 + fileName + ' '_L1 + what + QString::fromStdString(err) + '\n'_L1;
+}
+
+} // namespace
+
+ModelHeader readModelHeader(const QString& fileName) {
+    ModelHeader header;
     SafetensorsData data;
     std::uint64_t dataSize = 0;
-    std::string warn;
     std::string err;
-    const bool isRead = readSafetensorsHeader(fileName.toStdString(), data, dataSize, warn, err);
-    if (!warn.empty()) {
-        std::cout << "WARN: " << warn << '\n' << std::flush;
-        _messages += "Warning:"_L1 + QString::fromStdString(warn) + '\n'_L1;
-    }
+    const bool isRead = readSafetensorsHeader(fileName.toStdString(), data, dataSize, header.warning, err);
+    if (!header.warning.empty())
+        header.messages += "Warning:"_L1 + QString::fromStdString(header.warning) + '\n'_L1;
     if (!isRead) {
         qDebug() << "Failed to load: " << fileName;
         qDebug() << "  ERR: " << err.c_str();
-        addFailure(fileName, u"error: "_s, err);
-        return {};
-    }
-    if (!validateDataOffsets(data, dataSize, err)) {
+        header.messages += failureLine(fileName, u"error: "_s, err);
+    } else if (!validateDataOffsets(data, dataSize, err)) {
         qDebug() << "Invalid data_offsets\n" << err.c_str();
-        addFailure(fileName, u"invalid data offsets error: "_s, err);
-        return {};
+        header.messages += failureLine(fileName, u"invalid data offsets error: "_s, err);
+    } else {
+        header.data = std::move(data);
     }
+    return header;
+}
 
+QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fileName, bool includeTensorInfo,
+                                                              bool includeMetaInfo) {
+    const ModelHeader header = readModelHeader(fileName);
+    if (!header.warning.empty())
+        std::cout << "WARN: " << header.warning << '\n' << std::flush;
+    _messages += header.messages;
+    if (!header.data)
+        return {};
+
+    const SafetensorsData& data = *header.data;
     QMap<QString, QString> lines;
     for (std::size_t i = 0; includeTensorInfo && i < data.tensors.size(); ++i) {
         if (const TensorInfo* const tensor = data.tensors.at(i))
@@ -44,8 +59,4 @@ QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fil
             lines.insert(QString::fromStdString(data.metadata.keys()[i]), QString::fromStdString(*value));
     }
     return lines;
-}
-
-void SafetensorInspector::addFailure(const QString& fileName, const QString& what, const std::string& err) {
-    _messages += "Failed to load: "_L1 + fileName + ' '_L1 + what + QString::fromStdString(err) + '\n'_L1;
 }

@@ -1,9 +1,21 @@
 #pragma once
 
+#include "safetensors/SafetensorsFile.h"
+
 #include <QMap>
 #include <QString>
 
+#include <optional>
+
 #include <string>
+
+// The header of one model file and what is to be said about it.
+struct ModelHeader {
+    std::optional<SafetensorsData> data; // none for a file that cannot be read or whose offsets are wrong
+    std::string warning;
+    QString messages; // warning and failure, a line each
+};
+[[nodiscard]] ModelHeader readModelHeader(const QString& fileName);
 
 // Turns one model file into the lines to show. Made for one call and dropped.
 class SafetensorInspector {
@@ -16,7 +28,5 @@ public:
     [[nodiscard]] const QString& messages() const { return _messages; }
 
 private:
-    void addFailure(const QString& fileName, const QString& what, const std::string& err);
-
     QString _messages;
 };

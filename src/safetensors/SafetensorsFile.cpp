@@ -187,6 +187,10 @@ std::optional<DType> dtypeFromText(std::string_view text) {
     return std::nullopt;
 }
 
+std::string_view dtypeText(DType dtype) {
+    return dtypeRow(dtype).text;
+}
+
 std::string tensorSummary(const TensorInfo& tensor) {
     std::string text(dtypeRow(tensor.dtype).text);
     text += " [";

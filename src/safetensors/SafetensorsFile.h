@@ -29,6 +29,7 @@ enum class DType : std::uint8_t {
 };
 
 [[nodiscard]] std::optional<DType> dtypeFromText(std::string_view text);
+[[nodiscard]] std::string_view dtypeText(DType dtype);
 
 struct TensorInfo {
     struct Offsets {
