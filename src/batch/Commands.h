@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QStringList>
+
+// The subcommands. Each takes the words behind its name and returns the exit code.
+[[nodiscard]] int inspectCommand(const QStringList& arguments);
+[[nodiscard]] int tagsCommand(const QStringList& arguments);
+[[nodiscard]] int exportCommand(const QStringList& arguments);

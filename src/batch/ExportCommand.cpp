@@ -1,0 +1,98 @@
+#include "batch/Arguments.h"
+#include "batch/Commands.h"
+#include "batch/Console.h"
+#include "batch/Run.h"
+#include "batch/Sidecar.h"
+#include "batch/WholeFile.h"
+#include "catalogue/MediaFormats.h"
+#include "tags/TagText.h"
+#include "tags/TagsExport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum ExportFormat { ExportText, ExportJson, ExportCsv, ExportJsonl };
+
+QString csvField(const QString& text) {
+    if (!text.contains(u'"') && !text.contains(u',') && text == text.trimmed())
+        return text;
+    return u'"' + QString(text).replace(u'"', "\"\""_L1) + u'"';
+}
+
+// The tags of all files in the order of the export window's first look: the rarest first.
+QString exportOfTags(const QStringList& tags, ExportFormat format) {
+    const TagsExportOptions options;
+    const QHash<QString, qsizetype> counts = tagCounts(tags);
+    const QStringList exported = exportedTags(tags, counts, options);
+    if (format == ExportText)
+        return exportedTagText(exported, counts, options);
+    QJsonArray array;
+    QString csv = u"tag,count\n"_s;
+    for (const QString& tag : exported) {
+        const qsizetype count = counts.value(tag);
+        array.append(QJsonObject{{u"tag"_s, tag}, {u"count"_s, count}});
+        csv += u"%1,%2\n"_s.arg(csvField(tag), QString::number(count));
+    }
+    return format == ExportCsv ? csv : QString::fromUtf8(QJsonDocument(array).toJson());
+}
+
+QString metadataLine(const BatchFile& file, QStringList tags) {
+    tags.removeAll(QString());
+    const QJsonObject line{{u"file_name"_s, file.relative}, {u"text"_s, tags.join(", "_L1)}};
+    return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n';
+}
+
+} // namespace
+
+int exportCommand(const QStringList& words) {
+    Arguments arguments(u"export"_s, Batch::tr("Exports the tags of media files."), u"FILE..."_s);
+    arguments.add(u"format"_s,
+                  Batch::tr("text, json or csv: tags by frequency; jsonl: one line a file, as image folder "
+                            "loaders read a metadata.jsonl."),
+                  u"FORMAT"_s, u"text"_s);
+    arguments.add(u"output"_s, Batch::tr("Writes to FILE, whole or not at all."), u"FILE"_s);
+    arguments.add(u"overwrite"_s, Batch::tr("Replaces a file that exists."));
+    addFileOptions(arguments);
+    addRunOptions(arguments);
+    if (const std::optional<int> code = arguments.parse(words))
+        return *code;
+    RunOptions run = runOptions(arguments, u"export"_s);
+    run.isQuiet = true;
+    run.printsJson = false;
+    const auto format = static_cast<ExportFormat>(
+        arguments.choice(u"format"_s, {u"text"_s, u"json"_s, u"csv"_s, u"jsonl"_s}));
+    const FileList files = listFiles(arguments, SuffixMatcher(mediaNameFilters()));
+    if (arguments.isRejected())
+        return arguments.wrongUsage();
+
+    QStringList tags;
+    QString text;
+    const int code = runOverFiles(files, run, [&](const BatchFile& file) {
+        const Sidecar sidecar = readSidecar(file.path);
+        if (!sidecar.error.isEmpty())
+            return FileResult::failed(sidecar.error);
+        if (format == ExportJsonl)
+            text += metadataLine(file, sidecar.tags());
+        else
+            tags += sidecar.tags();
+        return FileResult();
+    });
+    if (isInterrupted())
+        return code;
+    if (format != ExportJsonl)
+        text = exportOfTags(tags, format);
+    const QString output = arguments.value(u"output"_s);
+    if (output.isNull()) {
+        console::print(text);
+        return finishOutput(code);
+    }
+    const QString error = writeWholeFile(
+        output, text.toUtf8(), arguments.isSet(u"overwrite"_s) ? Existing::Replace : Existing::Keep);
+    if (!error.isEmpty())
+        console::complain(output, error);
+    return error.isEmpty() ? code : SomeFailed;
+}
