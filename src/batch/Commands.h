@@ -6,3 +6,5 @@
 [[nodiscard]] int inspectCommand(const QStringList& arguments);
 [[nodiscard]] int tagsCommand(const QStringList& arguments);
 [[nodiscard]] int exportCommand(const QStringList& arguments);
+[[nodiscard]] int resizeCommand(const QStringList& arguments);
+[[nodiscard]] int effectsCommand(const QStringList& arguments);

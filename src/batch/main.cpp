@@ -24,6 +24,8 @@ constexpr std::array commands{
     Command{"inspect"_L1, QT_TRANSLATE_NOOP("Batch", "shows the header of model files"), inspectCommand},
     Command{"tags"_L1, QT_TRANSLATE_NOOP("Batch", "lists, counts and edits tags"), tagsCommand},
     Command{"export"_L1, QT_TRANSLATE_NOOP("Batch", "exports tags and captions"), exportCommand},
+    Command{"resize"_L1, QT_TRANSLATE_NOOP("Batch", "resizes images"), resizeCommand, true},
+    Command{"effects"_L1, QT_TRANSLATE_NOOP("Batch", "runs filters over images"), effectsCommand, true},
 };
 
 QString usageText() {

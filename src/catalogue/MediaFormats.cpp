@@ -50,12 +50,16 @@ bool isVideoFile(const QString& filePath) {
     return supportedVideoFormats().contains(QFileInfo(filePath).suffix().toLower());
 }
 
+QStringList imageNameFilters() {
+    return asNameFilters(supportedImageFormats());
+}
+
 QStringList videoNameFilters() {
     return asNameFilters(supportedVideoFormats());
 }
 
 QStringList mediaNameFilters() {
-    return asNameFilters(supportedImageFormats()) + asNameFilters(supportedVideoFormats());
+    return imageNameFilters() + asNameFilters(supportedVideoFormats());
 }
 
 SuffixMatcher::SuffixMatcher(const QStringList& nameFilters) {

@@ -12,7 +12,8 @@
 // Whether the file's suffix, in any case, is one of a video.
 [[nodiscard]] bool isVideoFile(const QString& filePath);
 
-// Name filters as "*.png": of videos; of images followed by videos.
+// Name filters as "*.png": of images; of videos; of images followed by videos.
+[[nodiscard]] QStringList imageNameFilters();
 [[nodiscard]] QStringList videoNameFilters();
 [[nodiscard]] QStringList mediaNameFilters();
 

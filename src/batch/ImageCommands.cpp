@@ -1,0 +1,238 @@
+#include "app/services/ImageFile.h"
+#include "app/services/Settings.h"
+#include "app/services/SettingsKeys.h"
+#include "batch/Arguments.h"
+#include "batch/Commands.h"
+#include "batch/Console.h"
+#include "batch/Outputs.h"
+#include "batch/Run.h"
+#include "catalogue/MediaFormats.h"
+#include "imaging/BatchOutput.h"
+#include "imaging/EffectList.h"
+#include "imaging/FilterChain.h"
+#include "imaging/ProfileStream.h"
+#include "imaging/ResizeGeometry.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longestSide = 999999; // as in the window
+
+// Nothing where an image stays as it is; a null image where its new size is none.
+using ImageChange = std::function<std::optional<QImage>(const QImage& image)>;
+
+FileResult changeImage(const BatchFile& file, const Outputs& outputs, int quality,
+                       const ImageChange& change) {
+    const Outputs::Target target = outputs.target(file);
+    if (target.refusal)
+        return *target.refusal;
+    QImageReader reader(file.path);
+    const QImage image = reader.read();
+    if (image.isNull())
+        return FileResult::failed(reader.errorString());
+    const std::optional<QImage> changed = change(image);
+    if (!changed)
+        return FileResult::skipped(Batch::tr("nothing to do"));
+    if (changed->isNull())
+        return FileResult::failed(Batch::tr("the new size is empty or too large"));
+    QString error;
+    const QByteArray bytes = encodedImageFile(*changed, target.path, batchImageOptions(quality), &error);
+    if (!error.isEmpty())
+        return FileResult::failed(Batch::tr("%1: %2").arg(target.path, error));
+    return Outputs::write(target, bytes);
+}
+
+void addImageOptions(Arguments& arguments) {
+    arguments.add(u"quality"_s, Batch::tr("Quality of the images from 1 to 100."), u"N"_s, u"100"_s);
+    addOutputOptions(arguments, true);
+    addJobsOption(arguments);
+    addFileOptions(arguments);
+    addRunOptions(arguments);
+}
+
+int runOverImages(Arguments& arguments, const QString& command, const ImageChange& change) {
+    RunOptions run = runOptions(arguments, command);
+    run.jobs = jobsOption(arguments);
+    const int quality = arguments.wholeNumber(u"quality"_s, 1, 100);
+    const OutputOptions output = outputOptions(arguments);
+    if (arguments.isRejected())
+        return arguments.wrongUsage();
+    if (const QString error = prepareOutput(output); !error.isEmpty()) {
+        console::complain(output.directory, error);
+        return SomeFailed;
+    }
+    const FileList files = listFiles(arguments, SuffixMatcher(imageNameFilters()), output.directory);
+    if (arguments.isRejected())
+        return arguments.wrongUsage();
+    raiseImageAllocationLimit();
+    const Outputs outputs(output, files);
+    return runOverFiles(files, run,
+                        [&](const BatchFile& file) { return changeImage(file, outputs, quality, change); });
+}
+
+// --- resize --------------------------------------------------------------------------------------
+
+QSize sizeOption(Arguments& arguments) {
+    const QStringList sides = arguments.value(u"size"_s).split(u'x');
+    const auto side = [&](const QString& text) {
+        bool ok = false;
+        const int length = text.toInt(&ok);
+        return ok && (length == -1 || (length > 0 && length <= longestSide)) ? length : 0;
+    };
+    const QSize size(side(sides.first()), side(sides.last()));
+    if (sides.size() != 2 || size.width() == 0 || size.height() == 0 || size == QSize(-1, -1))
+        arguments.reject(Batch::tr("--size takes WxH, where -1 lets one side follow, not \"%1\"")
+                             .arg(arguments.value(u"size"_s)));
+    return size;
+}
+
+ResizeOptions resizeOptions(Arguments& arguments) {
+    constexpr double largest = std::numeric_limits<int>::max();
+    ResizeOptions options;
+    const QStringList modes{u"size"_s, u"scale"_s, u"ratio"_s};
+    const auto isSet = [&](const QString& mode) { return arguments.isSet(mode); };
+    if (std::ranges::count_if(modes, isSet) != 1) {
+        arguments.reject(Batch::tr("one of --size, --scale and --ratio is needed"));
+        return options;
+    }
+    if (isSet(modes.at(0))) {
+        options.mode = ResizeMode::SpecificSize;
+        options.specificSize = sizeOption(arguments);
+    } else if (isSet(modes.at(1))) {
+        options.mode = ResizeMode::Scale;
+        options.scale = arguments.number(modes.at(1), std::numeric_limits<double>::min(), largest);
+    } else {
+        options.mode = ResizeMode::AspectRatio;
+        options.aspectRatio = arguments.number(modes.at(2), std::numeric_limits<double>::min(), largest);
+    }
+    options.aspectRatioMode = static_cast<Qt::AspectRatioMode>(
+        std::max(0, arguments.choice(u"aspect"_s, {u"ignore"_s, u"keep"_s, u"expand"_s})));
+    options.transformationMode = static_cast<Qt::TransformationMode>(
+        std::max(0, arguments.choice(u"transformation"_s, {u"fast"_s, u"smooth"_s})));
+    return options;
+}
+
+// --- effects -------------------------------------------------------------------------------------
+
+// The file that the window keeps: beside the executable, or with the user.
+QString settingsPath(const Arguments& arguments) {
+    if (arguments.isSet(u"settings"_s))
+        return arguments.value(u"settings"_s);
+    const QString beside = QCoreApplication::applicationDirPath() + "/settings.data"_L1;
+    if (QFileInfo::exists(beside))
+        return beside;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           "/Tessarine/settings.data"_L1;
+}
+
+QList<FilterStep> profileSteps(Arguments& arguments) {
+    const QString path = settingsPath(arguments);
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable()) {
+        arguments.reject(Batch::tr("%1: no settings file that can be read").arg(shownPath(path)));
+        return {};
+    }
+    registerEffectListType();
+    const QHash<QString, QVariant> table = Settings::storedTable(QSettings(path, QSettings::IniFormat));
+    const ProfileStreamContents contents = readProfileStream(table.value(keys::filterProfiles).toByteArray());
+    if (contents.status != QDataStream::Ok) {
+        arguments.reject(Batch::tr("%1: its profiles are missing or broken").arg(shownPath(path)));
+        return {};
+    }
+    const QString name = arguments.value(u"profile"_s);
+    const auto found = std::ranges::find(contents.profiles, name, &Profile::name);
+    if (found == contents.profiles.end()) {
+        QStringList names;
+        for (const Profile& profile : contents.profiles)
+            names.append(profile.name());
+        arguments.reject(Batch::tr("%1: no profile \"%2\" among %3")
+                             .arg(shownPath(path), name, shownPath(names.join(", "_L1))));
+        return {};
+    }
+    return filterChain(effectListFromVariant(found->option(effectListOption)));
+}
+
+FilterStep filterStep(Arguments& arguments, const QString& text) {
+    const QString name = text.section(u'=', 0, 0);
+    FilterStep step{.type = ImageFilters::filterType(name)};
+    const std::optional<FilterRange> range = filterRange(step.type);
+    if (range) {
+        bool ok = false;
+        step.value = text.section(u'=', 1).toInt(&ok);
+        if (!ok || step.value < range->minimum || step.value > range->maximum)
+            arguments.reject(
+                Batch::tr("--filter %1 takes a whole number from %2 to %3, as in %1=%3")
+                    .arg(name, QString::number(range->minimum), QString::number(range->maximum)));
+    } else if (step.type == ImageFilters::Invalid || text.contains(u'=')) {
+        arguments.reject(Batch::tr("--filter takes one of %1, with its number but for the last, not \"%2\"")
+                             .arg(ImageFilters().filterNames().join(", "_L1), text));
+    }
+    return step;
+}
+
+QList<FilterStep> filterSteps(Arguments& arguments) {
+    const QStringList filters = arguments.values(u"filter"_s);
+    if (arguments.isSet(u"profile"_s) == !filters.isEmpty()) {
+        arguments.reject(Batch::tr("either --profile or --filter is needed"));
+        return {};
+    }
+    if (filters.isEmpty())
+        return profileSteps(arguments);
+    QList<FilterStep> steps;
+    for (const QString& filter : filters)
+        steps.append(filterStep(arguments, filter));
+    return steps;
+}
+
+std::optional<QImage> withEffects(const QImage& image, const QList<FilterStep>& steps) {
+    QImage work = image;
+    bool applied = false;
+    for (const FilterStep& step : steps)
+        work = filteredImage(work, step, &applied);
+    return applied ? std::optional(work) : std::nullopt;
+}
+
+} // namespace
+
+int resizeCommand(const QStringList& words) {
+    Arguments arguments(u"resize"_s, Batch::tr("Resizes images."), u"FILE..."_s);
+    arguments.add(u"size"_s, Batch::tr("The new size; -1 lets one side follow the other."), u"WxH"_s);
+    arguments.add(u"scale"_s, Batch::tr("Multiplies both sides by F."), u"F"_s);
+    arguments.add(u"ratio"_s, Batch::tr("Cuts from the middle: as high as the shorter side times R."),
+                  u"R"_s);
+    arguments.add(u"aspect"_s, Batch::tr("What becomes of the aspect ratio: keep, expand or ignore."),
+                  u"MODE"_s, u"keep"_s);
+    arguments.add(u"transformation"_s, Batch::tr("How pixels are scaled: smooth or fast."), u"MODE"_s,
+                  u"smooth"_s);
+    addImageOptions(arguments);
+    if (const std::optional<int> code = arguments.parse(words))
+        return *code;
+    const ResizeOptions options = resizeOptions(arguments);
+    return runOverImages(arguments, u"resize"_s,
+                         [&](const QImage& image) { return resizedImage(image, options); });
+}
+
+int effectsCommand(const QStringList& words) {
+    Arguments arguments(u"effects"_s, Batch::tr("Runs a chain of filters over images."), u"FILE..."_s);
+    arguments.add(u"profile"_s, Batch::tr("Takes the chain of a profile of the window."), u"NAME"_s);
+    arguments.add(u"settings"_s, Batch::tr("Takes the profile out of FILE, by default the window's."),
+                  u"FILE"_s);
+    arguments.add(u"filter"_s,
+                  Batch::tr("A filter of the chain, as in Brightness=20; given again for the next."),
+                  u"NAME=NUMBER"_s);
+    addImageOptions(arguments);
+    if (const std::optional<int> code = arguments.parse(words))
+        return *code;
+    const QList<FilterStep> steps = filterSteps(arguments);
+    return runOverImages(arguments, u"effects"_s,
+                         [&](const QImage& image) { return withEffects(image, steps); });
+}
