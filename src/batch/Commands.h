@@ -8,3 +8,6 @@
 [[nodiscard]] int exportCommand(const QStringList& arguments);
 [[nodiscard]] int resizeCommand(const QStringList& arguments);
 [[nodiscard]] int effectsCommand(const QStringList& arguments);
+[[nodiscard]] int captionCommand(const QStringList& arguments);
+[[nodiscard]] int grabCommand(const QStringList& arguments);
+[[nodiscard]] int checkCommand(const QStringList& arguments);

@@ -6,6 +6,7 @@
 #include "batch/Console.h"
 #include "batch/Outputs.h"
 #include "batch/Run.h"
+#include "batch/SizeOption.h"
 #include "catalogue/MediaFormats.h"
 #include "imaging/BatchOutput.h"
 #include "imaging/EffectList.h"
@@ -24,8 +25,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int longestSide = 999999; // as in the window
 
 // Nothing where an image stays as it is; a null image where its new size is none.
 using ImageChange = std::function<std::optional<QImage>(const QImage& image)>;
@@ -80,20 +79,6 @@ int runOverImages(Arguments& arguments, const QString& command, const ImageChang
 }
 
 // --- resize --------------------------------------------------------------------------------------
-
-QSize sizeOption(Arguments& arguments) {
-    const QStringList sides = arguments.value(u"size"_s).split(u'x');
-    const auto side = [&](const QString& text) {
-        bool ok = false;
-        const int length = text.toInt(&ok);
-        return ok && (length == -1 || (length > 0 && length <= longestSide)) ? length : 0;
-    };
-    const QSize size(side(sides.first()), side(sides.last()));
-    if (sides.size() != 2 || size.width() == 0 || size.height() == 0 || size == QSize(-1, -1))
-        arguments.reject(Batch::tr("--size takes WxH, where -1 lets one side follow, not \"%1\"")
-                             .arg(arguments.value(u"size"_s)));
-    return size;
-}
 
 ResizeOptions resizeOptions(Arguments& arguments) {
     constexpr double largest = std::numeric_limits<int>::max();

@@ -26,6 +26,9 @@ constexpr std::array commands{
     Command{"export"_L1, QT_TRANSLATE_NOOP("Batch", "exports tags and captions"), exportCommand},
     Command{"resize"_L1, QT_TRANSLATE_NOOP("Batch", "resizes images"), resizeCommand, true},
     Command{"effects"_L1, QT_TRANSLATE_NOOP("Batch", "runs filters over images"), effectsCommand, true},
+    Command{"caption"_L1, QT_TRANSLATE_NOOP("Batch", "asks an Ollama server for tags"), captionCommand, true},
+    Command{"grab"_L1, QT_TRANSLATE_NOOP("Batch", "takes frames out of clips"), grabCommand, true},
+    Command{"check"_L1, QT_TRANSLATE_NOOP("Batch", "reports on a dataset"), checkCommand, true},
 };
 
 QString usageText() {
@@ -47,6 +50,8 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool n
         return std::make_unique<QCoreApplication>(argc, argv);
     // No window is shown, so no screen is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The media back end then logs as all others do, and not to standard error.
+    qputenv("QT_FFMPEG_DEBUG", "1");
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -23,14 +23,11 @@ QByteArray bytesOf(const QString& path) {
 
 } // namespace
 
-void startBatch(QProcess& process, const QString& directory, const QString& words) {
-    process.setWorkingDirectory(directory);
-    process.start(TESSARINE_BATCH, QProcess::splitCommand(QString(words).replace("'", "\"")));
-}
-
 BatchRun runBatch(const QString& directory, const QString& words, const QByteArray& input) {
     QProcess process;
-    startBatch(process, directory, words);
+    process.setWorkingDirectory(directory);
+    // Single quotes keep the lines of the tables readable.
+    process.start(TESSARINE_BATCH, QProcess::splitCommand(QString(words).replace("'", "\"")));
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(120000))
@@ -46,8 +43,8 @@ QString treeText(const QString& directory) {
     for (const QString& path : files) {
         const QSize size = QImageReader(path).size();
         text += QDir(directory).relativeFilePath(path) + " ";
-        text +=
-            size.isValid() ? QString("%1x%2\n").arg(size.width()).arg(size.height()) : bytesOf(path) + "\n";
+        text += size.isValid() ? QString("%1x%2\n").arg(size.width()).arg(size.height())
+                               : bytesOf(path).replace('\n', '|').replace('\0', ';') + "\n";
     }
     return text;
 }

@@ -3,8 +3,6 @@
 #include <QByteArray>
 #include <QString>
 
-class QProcess;
-
 struct BatchRun {
     int exitCode = -1;
     QString out;
@@ -13,7 +11,6 @@ struct BatchRun {
 
 // Runs the built tessarine-batch in a directory with the words of a command line.
 [[nodiscard]] BatchRun runBatch(const QString& directory, const QString& words, const QByteArray& input = {});
-void startBatch(QProcess& process, const QString& directory, const QString& words);
 // The regular files below a directory by relative path, one a line: images with their size, others with their
 // content.
 [[nodiscard]] QString treeText(const QString& directory);
