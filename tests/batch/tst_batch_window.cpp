@@ -47,11 +47,16 @@ private slots:
         const QString profile = Profiles::instance()->currentProfile().name();
         driver.close();
         QDir(folder.filePath("batch")).removeRecursively();
-        compare(
-            folder,
-            QString("effects . --profile \"%1\" --settings \"%2/settings.data\" --quality 83 --output batch")
-                .arg(profile, QCoreApplication::applicationDirPath()),
-            "processed");
+        compare(folder,
+                QString("effects . --profile \"%1\" --settings \"%2/settings.data\" --quality 83 --output "
+                        "batch --overwrite")
+                    .arg(profile, QCoreApplication::applicationDirPath()),
+                "processed");
+        const QString settings = QCoreApplication::applicationDirPath() + "/settings.data";
+        compare(folder,
+                QString("effects . --profile '%1' --settings '%2' --quality 83 --output batch --overwrite")
+                    .arg(profile, settings),
+                "processed");
         compare(folder,
                 "effects . --filter contrast=12 --filter Blur=3 --filter Sharpen --quality 83 --output batch "
                 "--overwrite",
