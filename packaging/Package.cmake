@@ -8,7 +8,8 @@ set(CPACK_PACKAGE_DESCRIPTION
 "Tessarine lists the pictures and clips of a directory with thumbnails and
 technical columns and keeps a plain-text tag file beside each of them. It edits
 tags in bulk, takes captions from a local Ollama server, runs chains of image
-filters, crops, grabs frames of videos and looks into safetensors model files.")
+filters, crops, grabs frames of videos and looks into safetensors model files.
+tessarine-batch does the same on the command line, without a screen.")
 set(CPACK_STRIP_FILES ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
