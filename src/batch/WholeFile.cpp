@@ -63,8 +63,11 @@ public:
         if (!_error.isEmpty())
             return;
         if (existing == Existing::Keep) {
-            // Unlike a rename this fails where something has appeared in the meantime.
-            if (::link(_path.constData(), target.constData()) == 0)
+            // Unlike a plain rename this fails where something has appeared in the meantime.
+            _isKept =
+                ::renameat2(AT_FDCWD, _path.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0;
+            // Some network file systems do not offer it.
+            if (_isKept || (errno == EINVAL && ::link(_path.constData(), target.constData()) == 0))
                 return;
             if (errno == EEXIST || ::access(target.constData(), F_OK) == 0) {
                 _error = QString::fromLocal8Bit(std::strerror(EEXIST));
@@ -94,11 +97,15 @@ private:
             // Between opening and locking another run may have renamed the file to its place.
             struct stat opened{};
             struct stat named{};
-            if (::fstat(handle, &opened) == 0 && ::stat(_path.constData(), &named) == 0 &&
-                opened.st_ino == named.st_ino && opened.st_dev == named.st_dev) {
+            const bool isNamed = ::fstat(handle, &opened) == 0 && ::stat(_path.constData(), &named) == 0 &&
+                                 opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
+            if (isNamed && opened.st_nlink == 1) {
                 _handle = handle;
                 return;
             }
+            // A run that was killed may have left a second name of a result.
+            if (isNamed)
+                ::unlink(_path.constData());
             ::close(handle);
         }
         _error = Batch::tr("another run is writing it");
