@@ -9,10 +9,8 @@ struct BatchRun {
     QString err;
 };
 
-// Runs the built tessarine-batch in a directory with the words of a command line.
-[[nodiscard]] BatchRun runBatch(const QString& directory, const QString& words, const QByteArray& input = {});
-// The regular files below a directory by relative path, one a line: images with their size, others with their
-// content.
-[[nodiscard]] QString treeText(const QString& directory);
-// All bytes of a tree, for comparing two of them.
-[[nodiscard]] QByteArray treeBytes(const QString& directory);
+// Runs the built tessarine-batch in a directory with the words of a command line, quoted by '.
+[[nodiscard]] BatchRun runBatch(const QString& directory, QString words, const QByteArray& input = {});
+// The files below a directory by relative path, one a line: images with their size, others with their
+// content; or all with their bytes in hexadecimal digits.
+[[nodiscard]] QString treeText(const QString& directory, bool inBytes = false);
