@@ -28,6 +28,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
@@ -147,6 +148,14 @@ void Scenes::tagTabs() {
     save("tags", tools);
     showTab("tabResize");
     save("resize", tools);
+    // Every button of the panel but the progress of a batch, which a picture cannot hold still.
+    window()->onSaveTags();
+    window()->onAddTagsAccepted("water");
+    auto* filter = _driver.widget<QLineEdit>("leFilterImages");
+    filter->setText("water");
+    save("status", _driver.widget<QStatusBar>("statusbar"));
+    filter->clear();
+    window()->onUndoTags();
 }
 
 void Scenes::captions() {

@@ -128,7 +128,8 @@ QList<FilterStep> profileSteps(Arguments& arguments) {
     }
     registerEffectListType();
     const QHash<QString, QVariant> table = Settings::storedTable(QSettings(path, QSettings::IniFormat));
-    const ProfileStreamContents contents = readProfileStream(table.value(keys::filterProfiles.key).toByteArray());
+    const ProfileStreamContents contents =
+        readProfileStream(table.value(keys::filterProfiles.key).toByteArray());
     if (contents.status != QDataStream::Ok) {
         arguments.reject(Batch::tr("%1: its profiles are missing or broken").arg(shownPath(path)));
         return {};
