@@ -149,13 +149,13 @@ void Scenes::tagTabs() {
     showTab("tabResize");
     save("resize", tools);
     // Every button of the panel but the progress of a batch, which a picture cannot hold still.
-    window()->onSaveTags();
-    window()->onAddTagsAccepted("water");
+    _driver.window().onSaveTags();
+    _driver.window().onAddTagsAccepted("water");
     auto* filter = _driver.widget<QLineEdit>("leFilterImages");
     filter->setText("water");
     save("status", _driver.widget<QStatusBar>("statusbar"));
     filter->clear();
-    window()->onUndoTags();
+    _driver.window().onUndoTags();
 }
 
 void Scenes::captions() {

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QImageReader>
 #include <QProcess>
+#include <QTest>
 
 BatchRun runBatch(const QString& directory, QString words, const QByteArray& input) {
     QProcess process;
@@ -11,7 +12,8 @@ BatchRun runBatch(const QString& directory, QString words, const QByteArray& inp
     process.start(TESSARINE_BATCH, QProcess::splitCommand(words.replace("'", "\"")));
     process.write(input);
     process.closeWriteChannel();
-    if (!process.waitForFinished(120000))
+    // The server that the program asks is served by the event loop of this process.
+    if (!QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 120000))
         qFatal("tessarine-batch %s does not end", qPrintable(words));
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),
