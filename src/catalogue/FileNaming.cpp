@@ -47,9 +47,13 @@ QString numberedFilePath(const QString& filePath) {
         [&](int number) { return u"%1/%2_%4.%3"_s.arg(path, baseName, suffix, QString::number(number)); });
 }
 
-QString destinationFilePath(const QString& srcFilePath, const QString& directory) {
+QString pathInDirectory(const QString& directory, const QString& name) {
     const bool isClosed = directory.endsWith(u'/') || directory.endsWith(u'\\');
-    return (isClosed ? u"%1%2"_s : u"%1/%2"_s).arg(directory, QFileInfo(srcFilePath).fileName());
+    return isClosed ? directory + name : directory + u'/' + name;
+}
+
+QString destinationFilePath(const QString& srcFilePath, const QString& directory) {
+    return pathInDirectory(directory, QFileInfo(srcFilePath).fileName());
 }
 
 QString foldedCase(const QString& text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QString>
 
 // The sidecar of a media file: only the last suffix is replaced, so two files that differ in it share one.
@@ -10,6 +11,18 @@
 
 // The next free name "name_N.suffix" for a file, N from 0; empty when all numbers are used up.
 [[nodiscard]] QString numberedFilePath(const QString& filePath);
+
+// A name in a directory, which may end in a separator of either kind.
+[[nodiscard]] QString pathInDirectory(const QString& directory, const QString& name);
+
+// The first of the candidates that no file has, from number 0 on.
+template <typename MakeCandidate>
+[[nodiscard]] QString firstFreePath(MakeCandidate makeCandidate) {
+    for (int number = 0;; ++number) {
+        if (const QString candidate = makeCandidate(number); !QFile::exists(candidate))
+            return candidate;
+    }
+}
 
 // The file's name in another directory.
 [[nodiscard]] QString destinationFilePath(const QString& srcFilePath, const QString& directory);

@@ -26,10 +26,6 @@ namespace {
 
 constexpr qsizetype openWithoutAsking = 8;
 
-bool endsInSlash(const QString& directory) {
-    return directory.endsWith(u'/') || directory.endsWith(u'\\');
-}
-
 struct DirectoryNames {
     QStringList all;
     QStringList txtFiles;
@@ -46,16 +42,6 @@ DirectoryNames namesInDirectory(const QString& directory) {
             names.txtFiles.append(name);
     }
     return names;
-}
-
-// The name of an imported file in its new directory; counted up until it is free.
-QString freeImportName(const QString& directory, const QFileInfo& source) {
-    for (int number = 0;; ++number) {
-        const QString target = u"%1%2_%4.%3"_s.arg(directory, source.completeBaseName(), source.suffix(),
-                                                   QString::number(number));
-        if (!QFile::exists(target))
-            return target;
-    }
 }
 
 } // namespace
@@ -164,7 +150,7 @@ void MainWindow::deleteStrayTxtFiles() {
 }
 
 void MainWindow::importFiles() {
-    QString directory = ui->lEWorkingPath->text();
+    const QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
         tellUser(this, tr("Set working directory. Path is empty."));
         return;
@@ -173,8 +159,6 @@ void MainWindow::importFiles() {
         tellUser(this, tr("Working directory don't exists at: %1").arg(directory));
         return;
     }
-    if (!endsInSlash(directory))
-        directory += u'/';
     const QStringList sources =
         QFileDialog::getOpenFileNames(this, tr("Select files to import"), _workingPath, tr("Files (*.*)"));
     if (sources.isEmpty())
@@ -198,14 +182,17 @@ void MainWindow::importFiles() {
 QString MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
                                bool deleteSource) {
     const QFileInfo info(source);
-    QString target = u"%1%2.%3"_s.arg(directory, info.completeBaseName(), info.suffix());
+    QString target = pathInDirectory(directory, u"%1.%2"_s.arg(info.completeBaseName(), info.suffix()));
     if (QFile::exists(target)) {
         if (!autoRename) {
             showBlockingMessage(
                 tr("Unable to import file from %1, file already exist at: %2").arg(source, target));
             return tr("file already exist at: %1").arg(target);
         }
-        target = freeImportName(directory, info);
+        target = firstFreePath([&](int number) {
+            return pathInDirectory(directory, u"%1_%3.%2"_s.arg(info.completeBaseName(), info.suffix(),
+                                                                QString::number(number)));
+        });
     }
     QFile file(source);
     if (!file.copy(target)) {

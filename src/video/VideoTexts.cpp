@@ -1,7 +1,8 @@
 #include "video/VideoTexts.h"
 
+#include "catalogue/FileNaming.h"
+
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QTime>
 
@@ -30,10 +31,8 @@ QString grabbedFrameBaseName(const QString& source, const std::optional<QString>
 }
 
 QString grabbedFrameFilePath(const QString& directory, const QString& baseName) {
-    const bool ends = directory.endsWith(u'/') || directory.endsWith(u'\\');
-    const QString place = ends ? directory : directory + u'/';
-    QString path = u"%1%2.png"_s.arg(place, baseName);
-    for (int i = 1; QFile::exists(path); ++i)
-        path = u"%1%2_%3.png"_s.arg(place, baseName, QString::number(i));
-    return path;
+    return firstFreePath([&](int number) {
+        const QString name = number == 0 ? baseName : u"%1_%2"_s.arg(baseName, QString::number(number));
+        return pathInDirectory(directory, name + ".png"_L1);
+    });
 }

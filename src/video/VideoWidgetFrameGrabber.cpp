@@ -1,5 +1,6 @@
 #include "video/VideoWidgetFrameGrabber.h"
 
+#include "catalogue/MediaModel.h"
 #include "catalogue/MediaUrl.h"
 #include "catalogue/UpdatesOff.h"
 #include "ui_VideoWidgetFrameGrabber.h"
@@ -10,7 +11,6 @@
 #include <QFileDialog>
 #include <QListWidget>
 #include <QMenu>
-#include <QPainter>
 #include <QVideoSink>
 
 #include <algorithm>
@@ -22,17 +22,6 @@ constexpr int kFrameSourceRole = Qt::UserRole + 1;
 constexpr QMargins kThumbnailMargins(11, 11, 11, 11);
 // The first of several files starts here, whatever the form says.
 constexpr qint64 kFirstFileStartMs = 1000;
-
-QImage frameThumbnail(const QImage& frame, const QSize& size) {
-    const QImage scaled = frame.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
-    QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
-    if (canvas.isNull())
-        qDebug() << "Error, unable to allocate image.";
-    canvas.fill(Qt::transparent);
-    QPainter painter(&canvas);
-    painter.drawImage((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2, scaled);
-    return canvas;
-}
 
 } // namespace
 
@@ -199,7 +188,8 @@ void VideoWidgetFrameGrabber::addImageItem(QImage image) {
     QListWidget* list = _ui->listWidget;
     auto* item = new QListWidgetItem;
     const QSize size = list->gridSize().shrunkBy(kThumbnailMargins);
-    item->setData(Qt::DecorationRole, frameThumbnail(image, size));
+    item->setData(Qt::DecorationRole,
+                  centredOnCanvas(image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation), size));
     item->setData(kFullFrameRole, image);
     item->setData(kFrameSourceRole, _mediaPlayer->source());
     item->setTextAlignment(Qt::AlignCenter);

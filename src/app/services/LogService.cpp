@@ -94,13 +94,10 @@ void LogService::report(const char* text, const QString& detail) const {
 void LogService::turnFilesOver() {
     _stream.setDevice(nullptr);
     _file = std::make_unique<QFile>();
-    QString directory = _logDirectory;
-    if (!QFile::exists(directory))
-        report("Error, path doesn't exist at:", directory);
-    if (!directory.endsWith(QDir::separator()))
-        directory += QDir::separator();
-    const QString previous = directory + "app-previous.log"_L1;
-    const QString current = directory + "app-current.log"_L1;
+    if (!QFile::exists(_logDirectory))
+        report("Error, path doesn't exist at:", _logDirectory);
+    const QString previous = QDir(_logDirectory).filePath("app-previous.log"_L1);
+    const QString current = QDir(_logDirectory).filePath("app-current.log"_L1);
     if (QFile::exists(current)) {
         QFile::remove(previous);
         QFile::rename(current, previous);

@@ -17,10 +17,6 @@ namespace {
 
 constexpr auto settingsDataKey = "settingsData"_L1;
 
-QString withClosingSeparator(const QString& path) {
-    return path.endsWith(QDir::separator()) ? path : path + QDir::separator();
-}
-
 } // namespace
 
 Settings* Settings::_instance = nullptr;
@@ -58,9 +54,8 @@ Settings::~Settings() {
 QString Settings::directory() const {
     switch (_settingsLocation) {
     case UserConfigLocation: {
-        const QString path =
-            withClosingSeparator(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) +
-            QCoreApplication::applicationName() + QDir::separator();
+        const QString path = QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+                                 .filePath(QCoreApplication::applicationName());
         if (!QFileInfo::exists(path)) {
             if (_debugging)
                 qInfo() << "info: creating location:" << path;
@@ -70,7 +65,7 @@ QString Settings::directory() const {
         return path;
     }
     case AppDirLocation:
-        return withClosingSeparator(QCoreApplication::applicationDirPath());
+        return QCoreApplication::applicationDirPath();
     }
     qDebug() << "Error, invalid settings location";
     return {};
@@ -84,7 +79,7 @@ QHash<QString, QVariant> Settings::storedTable(const QSettings& file) {
 }
 
 void Settings::read() {
-    _filePath = directory() + _fileName;
+    _filePath = QDir(directory()).filePath(_fileName);
     if (_debugging)
         qDebug() << "Settings path:" << _filePath;
     if (!_settings) {

@@ -87,9 +87,7 @@ QString Utils::findInPath(const QString& fileName) const {
     const QStringList directories = searchPath.split(u';', Qt::SkipEmptyParts);
     for (QString directory : directories) {
         directory.replace(u'\\', u'/');
-        if (!directory.endsWith(u'/'))
-            directory += u'/';
-        const QString path = directory + fileName;
+        const QString path = QDir(directory).filePath(fileName);
         if (QFileInfo::exists(path))
             return path;
     }
@@ -104,8 +102,7 @@ QString nearestExistingPath(const QString& path) {
             return path;
         dir.setPath(parent);
     }
-    const QString separator = dir.path().endsWith(u'/') ? QString() : u"/"_s;
-    const QString found = u"%1%2%3"_s.arg(dir.path(), separator, QFileInfo(path).fileName());
+    const QString found = dir.filePath(QFileInfo(path).fileName());
     return QFileInfo::exists(found) ? found : dir.path();
 }
 
