@@ -3,6 +3,7 @@
 #include "ollama/OllamaPeer.h"
 #include "support/Clips.h"
 
+#include <QAction>
 #include <QBuffer>
 #include <QComboBox>
 #include <QDir>
@@ -20,6 +21,25 @@ void live(Desk& desk, const QList<Step>& steps) {
     const QString differs = desk.perform(steps);
     desk.walk();
     QVERIFY2(differs.isEmpty(), qPrintable(differs));
+}
+
+// The editor steps through the rows in the order of the views, which nothing has sorted.
+void steppingFollowsTheRows(Desk& desk) {
+    const QStringList rows = desk.driver.shownNames();
+    desk.driver.select({rows.constFirst()});
+    desk.driver.trigger("editImage");
+    const QWidget* editor = desk.driver.toolWindow("EditImageDialog");
+    const auto step = [editor](QKeySequence::StandardKey key) {
+        for (QAction* action : editor->findChildren<QAction*>()) {
+            if (action->shortcut() == QKeySequence(key))
+                action->trigger();
+        }
+        return editor->windowTitle().section(' ', 2, 2);
+    };
+    QVERIFY(rows.size() > 2);
+    QCOMPARE(step(QKeySequence::MoveToNextPage), rows[1]);
+    QCOMPARE(step(QKeySequence::MoveToNextPage), rows[2]);
+    QCOMPARE(step(QKeySequence::MoveToPreviousPage), rows[1]);
 }
 
 // The bytes that transformation and quality of the form must give.
@@ -406,6 +426,7 @@ private slots:
             {"editImage", ""},
         };
         live(desk, steps);
+        steppingFollowsTheRows(desk);
     }
 
     void models() {
