@@ -206,6 +206,10 @@ void MainWindow::onFilterImages(const QString& txt) {
 }
 
 void MainWindow::onItemSelectedChanged() {
+    showSelection(true);
+}
+
+void MainWindow::showSelection(bool mayRebind) {
     qDebug() << "Selection changed";
     const QStringList files = selectedFilePaths();
     ui->labelCurrentSelectionTags->setText(tr("Current selection [%1] tags:").arg(files.size()));
@@ -215,7 +219,8 @@ void MainWindow::onItemSelectedChanged() {
         return;
     }
     refreshSelectionTags(files);
-    followTagFile(files.first());
+    if (mayRebind)
+        followTagFile(files.first());
     showMediaPreview(files.first());
     onShowMessage(tr("Selected: %1 items").arg(files.size()));
     if (ui->tWTools->currentWidget() == ui->tabImgDSP)

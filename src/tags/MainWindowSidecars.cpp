@@ -16,7 +16,6 @@ namespace {
 
 constexpr auto txtFileNameProperty = "txtFileName";
 constexpr auto imgFileNameProperty = "imgFileName";
-constexpr auto followedFileProperty = "followedFile";
 
 void logBackup(const QString& txtFileName, const SidecarWrite& write) {
     if (write.outcome == SidecarWrite::NoBackupName)
@@ -100,11 +99,8 @@ void MainWindow::unbindTagFile() {
 }
 
 void MainWindow::followTagFile(const QString& filePath) {
-    // An edit of tags comes here too, with the selection that was followed before.
-    if (isTagFileEdited() && ui->pTETagsFromFile->property(followedFileProperty).toString() == filePath)
-        return;
-    ui->pTETagsFromFile->setProperty(followedFileProperty, filePath);
-    readTagFile(filePath);
+    if (!isTagFileEdited() || ui->pTETagsFromFile->property(imgFileNameProperty).toString() != filePath)
+        readTagFile(filePath);
 }
 
 bool MainWindow::isTagFileEdited() const {

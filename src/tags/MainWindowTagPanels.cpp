@@ -107,7 +107,7 @@ void MainWindow::onTagsChanged(TagChange change) {
         return;
     refreshAllTags();
     if (change == TagChange::Edited)
-        onItemSelectedChanged();
+        showSelection(!isTagFileEdited());
     else if (change == TagChange::Undone)
         refreshSelectionTags(selectedFilePaths());
 }
