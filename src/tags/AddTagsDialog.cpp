@@ -1,6 +1,8 @@
 #include "tags/AddTagsDialog.h"
 
 #include "app/services/LongLines.h"
+#include "tags/CompletionPopup.h"
+#include "tags/TagCompletion.h"
 #include "ui_AddTagsDialog.h"
 
 AddTagsDialog::AddTagsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_unique<Ui::AddTagsDialog>()) {
@@ -9,6 +11,11 @@ AddTagsDialog::AddTagsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_u
     setWindowTitle(tr("Add tags, one per line or/and \",\" separated.."));
     connect(_ui->pBAdd, &QPushButton::clicked, this, &AddTagsDialog::onAccepted);
     connect(_ui->pBCancel, &QPushButton::clicked, this, &QWidget::close);
+    auto* completions =
+        new CompletionPopup(_ui->plainTextEdit, [this](const QString& line, qsizetype cursor) {
+            return tagCompletions(_knownTags, line, cursor);
+        });
+    connect(completions, &CompletionPopup::accepted, _ui->pBAdd, &QPushButton::click);
 }
 
 AddTagsDialog::~AddTagsDialog() {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "tags/TagText.h"
+
 #include <QDialog>
+#include <QList>
 
 #include <memory>
 
@@ -18,6 +21,8 @@ public:
 
     // Switches to editing the text of one sidecar; called once, after construction.
     void setTagFile(const QString& imageFilePath, const QString& filePath, const QString& tags);
+    // The tags that are offered while one is typed.
+    void setKnownTags(const QList<TagCount>& tags) { _knownTags = tags; }
 
 signals:
     void aboutToBeDestroyed();
@@ -29,4 +34,5 @@ public slots:
 
 private:
     std::unique_ptr<Ui::AddTagsDialog> _ui;
+    QList<TagCount> _knownTags;
 };

@@ -35,6 +35,7 @@ void MainWindow::addTagToSelected() {
         qDebug() << "Error, selection is empty...";
     auto* dialog = new AddTagsDialog(this);
     connect(dialog, &AddTagsDialog::addTagsAccepted, this, &MainWindow::onAddTagsAccepted);
+    dialog->setKnownTags(_imageTags->counted());
     openTagsDialog(dialog);
 }
 
@@ -57,6 +58,7 @@ void MainWindow::editTagFor(const QString& filePath) {
     }
     auto* dialog = new AddTagsDialog(this);
     connect(dialog, &AddTagsDialog::addTagsTxtAccepted, this, &MainWindow::onTxtTagsAccepted);
+    dialog->setKnownTags(_imageTags->counted());
     dialog->setTagFile(filePath, txtFileName, QString::fromUtf8(file.readAll()));
     openTagsDialog(dialog);
 }

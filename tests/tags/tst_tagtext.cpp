@@ -1,4 +1,5 @@
 #include "support/Rows.h"
+#include "tags/TagCompletion.h"
 #include "tags/TagText.h"
 #include "tags/TagsExport.h"
 
@@ -46,6 +47,30 @@ private slots:
         QCOMPARE(tagsFromAnswer("a, b,,c\n", ","), QStringList({"a", " b", "c\n"}));
         QCOMPARE(tagsFromAnswer("a, b", ""), QStringList("a, b"));
         QCOMPARE(tagsFromAnswer("aXbxc", "x"), QStringList({"aXb", "c"}));
+    }
+
+    void completionsAreOrdered_data() {
+        addRows<QString, qsizetype, QStringList>({
+            {"beginnings first, then by count, then by text", "s", 0, {"sky 3", "Sea 2", "sea 2", "gross 9"}},
+            {"regardless of case, outer blanks are one tag", "x, SK", 3, {"sky 3"}},
+            {"after a comma", "sky,gr", 4, {"gross 9"}},
+            {"nothing without a word", "sky, ", 0, {}},
+            {"nothing in all of them", "sky x", 0, {}},
+        });
+    }
+    void completionsAreOrdered() {
+        const auto& [line, start, offered] = row<QString, qsizetype, QStringList>();
+        QList<TagCount> known{{"gross", 9}, {"sea", 2}, {"Sea", 2}, {"sky", 1}, {" sky", 2}, {"sk,y", 5}};
+        const CompletionOffer offer = tagCompletions(known, line, line.size());
+        QStringList texts;
+        for (const Completion& completion : offer.rows)
+            texts.append(completion.text + ' ' + completion.note);
+        QCOMPARE(texts, offered);
+        QCOMPARE(offer.start, start);
+        QVERIFY(tagCompletions(known, line + "y", line.size()).rows.isEmpty());
+        for (int number = 0; number < 20; ++number)
+            known.append({"sand " + QString::number(number), 1});
+        QCOMPARE(matchingTags(known, "s").size(), 12);
     }
 
     void replacingIsCaseSensitive() {

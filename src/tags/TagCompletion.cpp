@@ -1,0 +1,60 @@
+#include "tags/TagCompletion.h"
+
+#include <QStringMatcher>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+constexpr qsizetype maxOffered = 12;
+
+struct Match {
+    QStringView tag;
+    qsizetype count = 0;
+    bool isInside = false; // the tag does not begin with the word
+
+    bool operator<(const Match& other) const {
+        return std::tie(isInside, other.count, tag) < std::tie(other.isInside, count, other.tag);
+    }
+};
+
+} // namespace
+
+QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word) {
+    const QStringMatcher matcher(word, Qt::CaseInsensitive);
+    QList<Match> matches;
+    QHash<QStringView, qsizetype> places;
+    for (const TagCount& counted : known) {
+        const QStringView tag = QStringView(counted.tag).trimmed();
+        const qsizetype at = tag.isEmpty() ? -1 : matcher.indexIn(tag);
+        if (at < 0 || tag.contains(u',') || tag.contains(u'\n'))
+            continue;
+        const auto place = places.tryEmplace(tag, matches.size());
+        if (place.inserted)
+            matches.append({tag, counted.count, at > 0});
+        else
+            matches[*place.iterator].count += counted.count;
+    }
+    const auto end = matches.begin() + qMin(matches.size(), maxOffered);
+    std::partial_sort(matches.begin(), end, matches.end());
+    QList<TagCount> offered;
+    for (auto match = matches.begin(); match != end; ++match)
+        offered.append({match->tag.toString(), match->count});
+    return offered;
+}
+
+CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line, qsizetype cursor) {
+    const QStringView rest = QStringView(line).sliced(cursor).trimmed();
+    if (!rest.isEmpty() && rest.front() != u',')
+        return {};
+    const QStringView typed = QStringView(line).first(cursor);
+    const QStringView piece = typed.sliced(typed.lastIndexOf(u',') + 1);
+    const QString word = piece.trimmed().toString();
+    if (word.isEmpty())
+        return {};
+    CompletionOffer offer{cursor - piece.size() + piece.indexOf(word.front())};
+    for (const TagCount& match : matchingTags(known, word))
+        offer.rows.append({match.tag, QString::number(match.count)});
+    return offer;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "tags/CompletionPopup.h"
+#include "tags/TagText.h"
+
+// The rules of completing tags.
+
+// At most twelve tags that contain the word regardless of case: first those that begin with it, then the more
+// frequent, then by their text. Tags that differ in outer blanks alone are one; tags with a comma or a line
+// end are left out, since typed text cannot hold them. An empty word is in every tag.
+[[nodiscard]] QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word);
+
+// The tag that is typed at the cursor of a line: after the last comma, blanks trimmed. Nothing is offered
+// before its first character or inside of it.
+[[nodiscard]] CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line,
+                                             qsizetype cursor);
