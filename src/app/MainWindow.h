@@ -299,6 +299,9 @@ public slots:
 
 private:
     void initTagEntryConnections();
+    // Adds what is typed into the filter line of all tags, or the completion chosen there.
+    void addTypedTags(const QString& chosen);
+    void addTagsToSelected(const QStringList& tags);
     void openTextDialog(int operationType);
 
     // --- Ollama batches (ollama) -----------------------------------------------------------------

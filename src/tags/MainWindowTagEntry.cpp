@@ -4,7 +4,9 @@
 #include "app/services/Settings.h"
 #include "catalogue/FileNaming.h"
 #include "tags/AddTagsDialog.h"
+#include "tags/CompletionPopup.h"
 #include "tags/ReplaceTextDialog.h"
+#include "tags/TagCompletion.h"
 #include "tags/TagRecord.h"
 #include "tags/TagsExportDialog.h"
 #include "ui_MainWindow.h"
@@ -12,7 +14,11 @@
 #include <QDebug>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr qsizetype shownTagCharacters = 200;
 
 // Window-modal without blocking; the dialog deletes itself and keeps its geometry.
 void openTagsDialog(AddTagsDialog* dialog) {
@@ -28,6 +34,31 @@ void openTagsDialog(AddTagsDialog* dialog) {
 
 void MainWindow::initTagEntryConnections() {
     connect(ui->tBExportTags, &QToolButton::clicked, this, &MainWindow::onTagsExport);
+    ui->leFilterAllTags->setToolTip(
+        tr("Shows the tags that contain the text. Ctrl+Enter adds the typed tag to the selected files."));
+    auto* completions =
+        new CompletionPopup(ui->leFilterAllTags, [this](const QString& line, qsizetype cursor) {
+            return tagCompletions(_imageTags->counted(), line, cursor);
+        });
+    connect(completions, &CompletionPopup::accepted, this, &MainWindow::addTypedTags);
+}
+
+void MainWindow::addTypedTags(const QString& chosen) {
+    addTagsToSelected(tagsToAdd(_imageTags->counted(), ui->leFilterAllTags->text(), chosen));
+    // The next tag is typed over this one.
+    ui->leFilterAllTags->selectAll();
+}
+
+void MainWindow::addTagsToSelected(const QStringList& tags) {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty() || tags.isEmpty())
+        return;
+    const WaitCursor waitCursor;
+    _imageTags->append(files, tags);
+    QString added = tags.join(", "_L1);
+    if (added.size() > shownTagCharacters)
+        added = added.first(shownTagCharacters) + QChar(0x2026);
+    onShowMessage(tr("Added \"%1\" to %2 files.").arg(added, QString::number(files.size())));
 }
 
 void MainWindow::addTagToSelected() {

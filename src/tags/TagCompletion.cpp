@@ -58,3 +58,14 @@ CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line
         offer.rows.append({match.tag, QString::number(match.count)});
     return offer;
 }
+
+QStringList tagsToAdd(const QList<TagCount>& known, const QString& typed, const QString& chosen) {
+    QStringList tags = tagsFromText(typed);
+    tags.removeAll(QString());
+    const auto isTyped = [&](const TagCount& counted) {
+        return QStringView(counted.tag).trimmed() == tags.last();
+    };
+    if (!tags.isEmpty() && !chosen.isNull() && std::ranges::none_of(known, isTyped))
+        tags.last() = chosen;
+    return tags;
+}

@@ -14,3 +14,8 @@
 // before its first character or inside of it.
 [[nodiscard]] CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line,
                                              qsizetype cursor);
+
+// The tags to add for a text typed into one line. Its last tag counts as typed when it is known exactly, else
+// the chosen completion replaces it; a null one leaves it as a new tag.
+[[nodiscard]] QStringList tagsToAdd(const QList<TagCount>& known, const QString& typed,
+                                    const QString& chosen);

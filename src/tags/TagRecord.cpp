@@ -36,6 +36,17 @@ QString quotedTags(const QStringList& tags) {
 
 } // namespace
 
+const QList<TagCount>& TagRecord::counted() const {
+    if (!_counted)
+        _counted = countedTags(_tags);
+    return *_counted;
+}
+
+void TagRecord::announce(TagChange change) {
+    _counted.reset();
+    emit changed(change);
+}
+
 void TagRecord::load(const QStringList& keys) {
     // Equal tags of different files share one string.
     QSet<QString> knownTags;
@@ -50,7 +61,7 @@ void TagRecord::load(const QStringList& keys) {
         _tags.insert(key, tags);
     }
     if (!keys.isEmpty())
-        emit changed(TagChange::Read);
+        announce(TagChange::Read);
 }
 
 void TagRecord::remove(const QStringList& keys) {
@@ -59,7 +70,7 @@ void TagRecord::remove(const QStringList& keys) {
         _sidecarTags.remove(key);
     }
     if (!keys.isEmpty())
-        emit changed(TagChange::Read);
+        announce(TagChange::Read);
 }
 
 void TagRecord::clear() {
@@ -68,7 +79,7 @@ void TagRecord::clear() {
     _undo.clear();
     _redo.clear();
     _undoBytes = 0;
-    emit changed(TagChange::Read);
+    announce(TagChange::Read);
 }
 
 void TagRecord::setTags(const QString& key, const QStringList& tags) {
@@ -189,7 +200,7 @@ void TagRecord::finish(Step&& step, TagChange change) {
         }
         dropOldSteps();
     }
-    emit changed(change);
+    announce(change);
 }
 
 void TagRecord::undo() {
@@ -215,7 +226,7 @@ void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
     if (!back.before.isEmpty())
         to.append(std::move(back));
     dropOldSteps();
-    emit changed(TagChange::Undone);
+    announce(TagChange::Undone);
 }
 
 void TagRecord::setUndoLimit(qsizetype bytes) {
@@ -264,6 +275,6 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
             break;
         }
     }
-    emit changed(TagChange::Saved);
+    announce(TagChange::Saved);
     return report;
 }

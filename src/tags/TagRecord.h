@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 // What a change of the record was, for those who show it.
 enum class TagChange {
@@ -53,7 +54,8 @@ public:
     [[nodiscard]] qsizetype size() const { return _tags.size(); }
     [[nodiscard]] bool contains(const QString& key) const { return _tags.contains(key); }
     [[nodiscard]] QStringList tags(const QString& key) const { return _tags.value(key); }
-    [[nodiscard]] QList<TagCount> counted() const { return countedTags(_tags); }
+    // Counted once after each change.
+    [[nodiscard]] const QList<TagCount>& counted() const;
     [[nodiscard]] QStringList flattened() const { return flattenedTags(_tags); }
 
     // The files whose tags are not those of their sidecar when it was last read or written.
@@ -116,8 +118,10 @@ private:
     void finish(Step&& step, TagChange change);
     void takeBack(QList<Step>& from, QList<Step>& to);
     void dropOldSteps();
+    void announce(TagChange change);
 
     Tags _tags;
+    mutable std::optional<QList<TagCount>> _counted;
     // Of the files that differ from their sidecar: what the sidecar holds. Equal lists share their memory.
     Tags _sidecarTags;
     QList<Step> _undo;

@@ -73,6 +73,20 @@ private slots:
         QCOMPARE(matchingTags(known, "s").size(), 12);
     }
 
+    void typedTagsAreAdded_data() {
+        addRows<QString, QString, QStringList>({
+            {"the tag that is known", " sky", "blue sky", {"sky"}},
+            {"the chosen one", "Sky", "blue sky", {"blue sky"}},
+            {"a new one", "Sky", {}, {"Sky"}},
+            {"several, of which the last is being typed", "new, sk", "sky", {"new", "sky"}},
+            {"nothing", " ,", "sky", {}},
+        });
+    }
+    void typedTagsAreAdded() {
+        const auto& [typed, chosen, tags] = row<QString, QString, QStringList>();
+        QCOMPARE(tagsToAdd({{"sky", 1}, {"blue sky", 1}}, typed, chosen), tags);
+    }
+
     void replacingIsCaseSensitive() {
         QStringList tags{"catalog", "Cat", "cat cat", "dog"};
         replaceInTags(tags, "cat", "dog");
