@@ -35,6 +35,7 @@ class TagRecovery;
 class VideoWidget;
 enum class ResizeMode;
 enum class TagChange;
+struct MediaFacts;
 struct ResizeOptions;
 
 namespace Ui {
@@ -172,6 +173,7 @@ private:
                    const std::function<bool(int row, const QString& filePath)>& isHidden);
     // Panels, preview and metadata. The raw text editor follows the first file if it may.
     void showSelection(bool mayRebind);
+    [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath) const;
     void showMediaPreview(const QString& filePath);
 
     SortFilterProxyModel* _proxyModel = nullptr;

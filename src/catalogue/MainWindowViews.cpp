@@ -6,12 +6,15 @@
 #include "catalogue/MediaFilter.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
+#include "catalogue/MediaQuery.h"
 #include "catalogue/SelectionWatcher.h"
 #include "catalogue/ShortTextDelegate.h"
 #include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/ViewSetup.h"
+#include "tags/CompletionPopup.h"
+#include "tags/TagCompletion.h"
 #include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
@@ -23,6 +26,7 @@
 namespace {
 
 constexpr QSize smallIconSize(32, 32);
+constexpr qsizetype shownWordCharacters = 60;
 
 void setUpMediaView(QAbstractItemView* view) {
     view->setItemDelegate(new ShortTextDelegate(view));
@@ -71,6 +75,9 @@ void MainWindow::initViewConnections() {
         connect(header, &QWidget::customContextMenuRequested, this, &MainWindow::onHeaderContextMenu);
     connect(_selection, &SelectionWatcher::changed, this, &MainWindow::onItemSelectedChanged);
     connect(ui->leFilterImages, &QLineEdit::textChanged, this, &MainWindow::onFilterImages);
+    new CompletionPopup(ui->leFilterImages, [this](const QString& line, qsizetype cursor) {
+        return queryCompletions(_imageTags->counted(), line, cursor);
+    });
     connect(ui->dockWidget_ImgPreview, &QWidget::customContextMenuRequested, this,
             &MainWindow::onDockWidgetImagePreviewCustomMenu);
     connect(ui->imgWidget, &EditImageWidget::zoomChanged, this, [this](QPointF zoom) {
@@ -193,10 +200,31 @@ void MainWindow::hideFiles(const QString& reason,
     _proxyModel->refilter();
 }
 
+MediaFacts MainWindow::mediaFacts(int row, const QString& filePath) const {
+    return {resolutionFromText(_itemModel->item(row, ColResolution)->text()), isVideoFile(filePath),
+            _imageTags->isUnsaved(filePath), _imageTags->tags(filePath)};
+}
+
 void MainWindow::onFilterImages(const QString& txt) {
+    const QString reason = tr("%1 hidden by the filter line");
+    if (MediaQuery::isQuery(txt)) {
+        MediaQuery query(txt);
+        if (query.isValid()) {
+            int found = 0;
+            hideFiles(reason, [&](int row, const QString& filePath) {
+                const bool matches = query.matches(mediaFacts(row, filePath));
+                found += matches ? 1 : 0;
+                return !matches;
+            });
+            onShowMessage(tr("Found %1 files.").arg(found));
+            return;
+        }
+        onShowMessage(tr("No filter word: \"%1\". Searching for the text.")
+                          .arg(query.wrongWord().first(qMin(query.wrongWord().size(), shownWordCharacters))));
+    }
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt);
-    hideFiles(tr("%1 hidden by the filter line"), [&](int row, const QString& filePath) {
+    hideFiles(reason, [&](int row, const QString& filePath) {
         if (txt.isEmpty())
             return false;
         if (wantsMissingTxt)

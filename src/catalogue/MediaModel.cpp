@@ -77,6 +77,13 @@ QString resolutionText(const QSize& resolution) {
     return u"%1x%2"_s.arg(resolution.width()).arg(resolution.height());
 }
 
+QSize resolutionFromText(const QString& text) {
+    const qsizetype cross = text.indexOf(u'x');
+    if (cross < 0)
+        return {};
+    return {QStringView(text).first(cross).toInt(), QStringView(text).sliced(cross + 1).toInt()};
+}
+
 QString mediaToolTip(const QSize& resolution, const QString& filePath) {
     const QFileInfo info(filePath);
     return resolutionText(resolution) + u' ' + info.suffix().toUpper() + u'\n' + info.fileName() + u'\n' +

@@ -59,6 +59,8 @@ struct MediaRecord {
 [[nodiscard]] QString embeddedComment(const QImageReader& reader);
 
 [[nodiscard]] QString resolutionText(const QSize& resolution);
+// The size of such a text; invalid for any other.
+[[nodiscard]] QSize resolutionFromText(const QString& text);
 [[nodiscard]] QString mediaToolTip(const QSize& resolution, const QString& filePath);
 
 // Whether the sidecar of a media file exists and holds anything.

@@ -1,5 +1,7 @@
 #include "tags/TagCompletion.h"
 
+#include "catalogue/MediaQuery.h"
+
 #include <QStringMatcher>
 
 #include <algorithm>
@@ -68,4 +70,21 @@ QStringList tagsToAdd(const QList<TagCount>& known, const QString& typed, const 
     if (!tags.isEmpty() && !chosen.isNull() && std::ranges::none_of(known, isTyped))
         tags.last() = chosen;
     return tags;
+}
+
+CompletionOffer queryCompletions(const QList<TagCount>& known, const QString& line, qsizetype cursor) {
+    if (cursor < line.size())
+        return {};
+    const MediaQuery::Typed typed = MediaQuery::typedAtEnd(line);
+    CompletionOffer offer{typed.start};
+    if (typed.kind == MediaQuery::Typed::Tag) {
+        for (const TagCount& match : matchingTags(known, typed.text))
+            offer.rows.append({MediaQuery::quoted(match.tag), QString::number(match.count)});
+    } else if (typed.kind == MediaQuery::Typed::Word) {
+        for (const QueryWord& word : MediaQuery::words()) {
+            if (word.text.startsWith(typed.text, Qt::CaseInsensitive))
+                offer.rows.append({word.text, word.help});
+        }
+    }
+    return offer;
 }

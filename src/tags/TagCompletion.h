@@ -15,6 +15,10 @@
 [[nodiscard]] CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line,
                                              qsizetype cursor);
 
+// The words of a query of the filter line, and the tags after those that take one.
+[[nodiscard]] CompletionOffer queryCompletions(const QList<TagCount>& known, const QString& line,
+                                               qsizetype cursor);
+
 // The tags to add for a text typed into one line. Its last tag counts as typed when it is known exactly, else
 // the chosen completion replaces it; a null one leaves it as a new tag.
 [[nodiscard]] QStringList tagsToAdd(const QList<TagCount>& known, const QString& typed,

@@ -4,6 +4,7 @@
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/MediaQuery.h"
 #include "catalogue/SortFilterProxyModel.h"
 #include "support/MediaFolder.h"
 #include "support/Rows.h"
@@ -109,6 +110,66 @@ private slots:
         // Larger than its canvas, it is cut evenly at the edges.
         item.setThumbnail(small.scaled(8, 4), {2, 2});
         QCOMPARE(canvas().pixelColor(1, 1), QColor(Qt::red));
+    }
+
+    void queriesFindFiles_data() {
+        // The found ones of: a picture of 1500x1000 with "sky" and "blue sky", one of 512x512 with "x" twice
+        // that is not saved, a clip without tags or size. Without any: the word that is not understood.
+        addRows<QString, QString>({
+            {"a tag, in any case", ":tag SKY", "1"},
+            {"a tag with a blank", ":tag \"blue sky\"", "1"},
+            {"quotes that are still open", ":tag \"blue sky", "1"},
+            {"without a tag", ":-tag sky", "23"},
+            {"no tags", ":tags=0", "3"},
+            {"tags, twice counted", ":tags>1 :tags<3", "12"},
+            {"width and height", ":w>512 :h=1000", "1"},
+            {"a size that is unknown", ":w<9999", "12"},
+            {"within one percent", ":ratio 1506:1000", "1"},
+            {"kinds of files, words in any case", ":Video|:IMAGE :unsaved", "23"},
+            {"a tag twice", ":dup", "2"},
+            {"a bar in quotes", ":tag \"|\" | :video", "3"},
+            {"a quote in quotes", ":tag \"a\"\"b c\"|:image", "12"},
+            {"a word with blanks that needs quotes", ":tag blue sky", "sky"},
+            {"an unfinished word", ":video :ta", ":ta"},
+            {"a missing value", ":video :tag", ":tag"},
+            {"no ratio", ":ratio 3", "3"},
+            {"no number", ":w>wide", ":w>wide"},
+            {"a bar without alternatives", ":video||:image", "|"},
+            {"a bar at the end", ":video |", "|"},
+        });
+    }
+    void queriesFindFiles() {
+        const auto& [text, result] = row<QString, QString>();
+        const QList<MediaFacts> files{{{1500, 1000}, false, false, {" sky", "blue sky"}},
+                                      {{512, 512}, false, true, {"x", "x "}},
+                                      {{-1, -1}, true, false, {}}};
+        MediaQuery query(text);
+        QString found = query.wrongWord();
+        for (int number = 0; query.isValid() && number < files.size(); ++number) {
+            if (query.matches(files[number]))
+                found += QString::number(number + 1);
+        }
+        QCOMPARE(found, result);
+        QVERIFY(MediaQuery(":tag " + MediaQuery::quoted(result + " \"|")).isValid());
+    }
+
+    void queriesAreCompleted_data() {
+        using enum MediaQuery::Typed::Kind;
+        addRows<QString, int, qsizetype, QString>({
+            {"a word", ":video :ta", Word, 7, ":ta"},
+            {"an alternative", ":video|:", Word, 7, ":"},
+            {"a tag", ":-TAG bl", Tag, 6, "bl"},
+            {"a tag in open quotes", ":tag \"blue s", Tag, 5, "blue s"},
+            {"a tag before its first character", ":tag ", Tag, 5, ""},
+            {"nothing after a value", ":tag \"blue\"", Nothing, 0, ""},
+            {"nothing after a blank", ":video ", Nothing, 0, ""},
+            {"nothing in other text", "a :ta", Nothing, 0, ""},
+        });
+    }
+    void queriesAreCompleted() {
+        const auto& [text, kind, start, typed] = row<QString, int, qsizetype, QString>();
+        const MediaQuery::Typed found = MediaQuery::typedAtEnd(text);
+        QCOMPARE(std::tuple(int(found.kind), found.start, found.text), std::tuple(kind, start, typed));
     }
 
     void theFilterSearchesNamesColumnsAndTags_data() {

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QList>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+// What a query looks at in one file.
+struct MediaFacts {
+    QSize resolution; // invalid where it is unknown
+    bool isVideo = false;
+    bool isUnsaved = false;
+    QStringList tags = {};
+};
+
+// A word of the query language.
+struct QueryWord {
+    QString text; // as it is typed, up to where its value begins
+    QString help; // one line
+};
+
+// A filter text of words such as ":tag sky :w>1024 | :video". Blanks join conditions that must all hold, a
+// bar separates alternatives. Values with blanks stand in quotes, in which a quote is doubled.
+class MediaQuery {
+    Q_DECLARE_TR_FUNCTIONS(MediaQuery)
+
+public:
+    explicit MediaQuery(const QString& text);
+
+    // Whether a filter text is a query at all, right or wrong.
+    [[nodiscard]] static bool isQuery(const QString& text);
+    [[nodiscard]] static QList<QueryWord> words();
+    // The value as it is typed after a word that takes one.
+    [[nodiscard]] static QString quoted(const QString& value);
+
+    // What is being typed at the end of a text.
+    struct Typed {
+        enum Kind { Nothing, Word, Tag };
+        Kind kind = Nothing;
+        qsizetype start = 0;
+        QString text = {};
+    };
+    [[nodiscard]] static Typed typedAtEnd(const QString& text);
+
+    [[nodiscard]] bool isValid() const { return _wrongWord.isNull(); }
+    // The first word that is not understood; null in a valid query.
+    [[nodiscard]] const QString& wrongWord() const { return _wrongWord; }
+    // Tags are compared regardless of case and of outer blanks. Only for a valid query.
+    [[nodiscard]] bool matches(const MediaFacts& facts);
+
+private:
+    enum class Subject { Tag, TagCount, Width, Height, Ratio, Video, Image, Unsaved, Duplicate };
+    struct Condition {
+        Subject subject;
+        bool isNegated = false;
+        char comparison = '='; // or '<' or '>'
+        double number = 0;     // the number compared with, the ratio, or the number of the tag
+
+        bool operator==(const Condition&) const = default;
+    };
+    using Conditions = QList<Condition>; // all of which must hold
+    struct Word;
+
+    [[nodiscard]] static QList<Word> split(const QString& text);
+    void parse(const QList<Word>& words);
+    [[nodiscard]] bool parseSimple(const QString& word, Condition& condition) const;
+    [[nodiscard]] bool holds(const Condition& condition, const MediaFacts& facts,
+                             const QList<int>& wantedTags) const;
+    [[nodiscard]] QList<int> wantedTags(const QStringList& tags);
+
+    QList<Conditions> _alternatives;
+    QString _wrongWord;
+    QHash<QString, int> _wanted;    // numbers of the tags that conditions name, case folded
+    QHash<QString, int> _knownTags; // tags of files that were looked up; -1 where none is wanted
+};
