@@ -35,6 +35,7 @@ class TagRecovery;
 class VideoWidget;
 enum class ResizeMode;
 enum class TagChange;
+enum class TagMove;
 struct MediaFacts;
 struct ResizeOptions;
 
@@ -166,6 +167,11 @@ private:
     void initTableView();
     void initModels();
     void initViewConnections();
+    void initViewKeys();
+    // Opens the first selected file in the window for its kind.
+    void openSelectedFile();
+    // Selects the row so many rows on in the view that is shown.
+    void stepRow(int step);
     [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
     // Hides the files for which the predicate of row and file key holds, and shows all others. The reason is
     // shown with their number, "%1".
@@ -181,7 +187,7 @@ private:
 
     // --- Context menu of the views (catalogue) ---------------------------------------------------
 public slots:
-    void onImagesCustomContextMenu();
+    void onImagesCustomContextMenu(const QPoint& pos = {});
 
 private:
     void initContextMenuConnections();
@@ -268,10 +274,12 @@ public slots:
     void onAllImagesTagSelectedChanged();
     void onFilterTag(const QString& txt);
     void onFilterAllTags(const QString& txt);
-    void onImageTagCustomContextMenu();
-    void onImagesTagsCustomContextMenu();
+    void onImageTagCustomContextMenu(const QPoint& pos = {});
+    void onImagesTagsCustomContextMenu(const QPoint& pos = {});
     void onTagCopyToClipboard();
     void onAllTagCopy();
+    // Adds the tags of the clipboard to the selected files.
+    void onTagsPaste();
     void onTagDelete();
     void onTagsDelete();
     void onAllTagDelete();
@@ -279,6 +287,9 @@ public slots:
 private:
     void initTagViews();
     void initTagPanelConnections();
+    void initTagPanelKeys();
+    // Moves the current tag of the one selected file.
+    void moveImageTag(TagMove move);
     // What follows each change of the record.
     void onTagsChanged(TagChange change);
     Q_INVOKABLE void refreshAllTags();

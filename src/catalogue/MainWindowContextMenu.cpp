@@ -2,6 +2,7 @@
 
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaModel.h"
+#include "catalogue/SelectionWatcher.h"
 #include "catalogue/ViewSetup.h"
 #include "ui_MainWindow.h"
 
@@ -14,7 +15,7 @@ void MainWindow::initContextMenuConnections() {
         connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
 }
 
-void MainWindow::onImagesCustomContextMenu() {
+void MainWindow::onImagesCustomContextMenu(const QPoint& pos) {
     const QStringList files = selectedFilePaths();
     if (files.isEmpty())
         return;
@@ -42,7 +43,7 @@ void MainWindow::onImagesCustomContextMenu() {
     menu.addAction(tr("&Move files"), this, &MainWindow::moveFiles);
     menu.addAction(tr("&Delete stray txt files"), this, &MainWindow::deleteStrayTxtFiles);
     menu.addAction(tr("&Delete file"), this, &MainWindow::deleteFile);
-    menu.exec(QCursor::pos());
+    menu.exec(menuPlace(_selection->currentView(), pos));
 }
 
 void MainWindow::addViewMenu(QMenu& menu) {

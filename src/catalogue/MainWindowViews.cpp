@@ -22,6 +22,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMenu>
+#include <QShortcut>
 
 namespace {
 
@@ -84,6 +85,55 @@ void MainWindow::initViewConnections() {
         ui->dockWidget_ImgPreview->setWindowTitle(
             tr("Image %2 preview [zoom: %1]").arg(QString::number(zoom.x()), ui->imgWidget->imageSizeText()));
     });
+    initViewKeys();
+}
+
+void MainWindow::initViewKeys() {
+    for (QAbstractItemView* view : mediaViews()) {
+        const auto addViewKey = [this, view](Qt::Key key, void (MainWindow::*slot)()) {
+            auto* shortcut = new QShortcut(key, view);
+            shortcut->setContext(Qt::WidgetShortcut);
+            connect(shortcut, &QShortcut::activated, this, slot);
+        };
+        addViewKey(Qt::Key_Return, &MainWindow::openSelectedFile);
+        addViewKey(Qt::Key_Enter, &MainWindow::openSelectedFile);
+        addViewKey(Qt::Key_Delete, &MainWindow::deleteFile);
+        connect(view, &QAbstractItemView::doubleClicked, this, &MainWindow::openSelectedFile);
+    }
+    const auto addKey = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    addKey(Qt::Key_F5, &MainWindow::onRefreshOpenFilePath);
+    addKey(Qt::CTRL | Qt::Key_PageUp, [this] { stepRow(-1); });
+    addKey(Qt::CTRL | Qt::Key_PageDown, [this] { stepRow(1); });
+    addKey(Qt::CTRL | Qt::Key_F, [this] {
+        ui->leFilterImages->setFocus();
+        ui->leFilterImages->selectAll();
+    });
+}
+
+void MainWindow::openSelectedFile() {
+    const QStringList files = selectedFilePaths();
+    if (files.isEmpty())
+        return;
+    if (isVideoFile(files.first()))
+        editVideo(files.first());
+    else
+        editImage();
+}
+
+void MainWindow::stepRow(int step) {
+    QAbstractItemView* view = _selection->currentView();
+    const int count = view->model()->rowCount();
+    if (count == 0)
+        return;
+    const int current = view->currentIndex().row();
+    const int next = current < 0 ? (step > 0 ? 0 : count - 1) : qBound(0, current + step, count - 1);
+    const QModelIndex index = view->model()->index(next, ColName);
+    // The view itself would ask the keyboard, where Ctrl is down.
+    view->selectionModel()->setCurrentIndex(index,
+                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view->scrollTo(index);
 }
 
 void MainWindow::initViews() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QHeaderView>
 #include <QListView>
 
@@ -18,4 +19,10 @@ inline bool restoreHeader(QHeaderView* header, const QByteArray& state) {
     if (header->sortIndicatorSection() < 0)
         header->setSortIndicator(-1, Qt::AscendingOrder);
     return isRestored;
+}
+
+// Where a context menu opens on the screen: at the place in the view that was asked for, which is the current
+// item for the menu key, or at the mouse.
+inline QPoint menuPlace(const QAbstractItemView* view, const QPoint& pos) {
+    return pos.isNull() ? QCursor::pos() : view->viewport()->mapToGlobal(pos);
 }

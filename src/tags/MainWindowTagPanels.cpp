@@ -13,6 +13,7 @@
 #include <QDebug>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QShortcut>
 
 namespace {
 
@@ -100,6 +101,52 @@ void MainWindow::initTagPanelConnections() {
             &MainWindow::onAllImagesTagSelectedChanged);
     connect(ui->leFilterTag, &QLineEdit::textChanged, this, &MainWindow::onFilterTag);
     connect(ui->leFilterAllTags, &QLineEdit::textChanged, this, &MainWindow::onFilterAllTags);
+    initTagPanelKeys();
+}
+
+void MainWindow::initTagPanelKeys() {
+    const auto addKey = [this](const QKeySequence& keys, QListWidget* list, auto action) {
+        auto* shortcut = new QShortcut(keys, list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    addKey(QKeySequence::Copy, ui->lwImageTags, &MainWindow::onTagCopyToClipboard);
+    addKey(QKeySequence::Copy, ui->lwAllImagesTags, &MainWindow::onAllTagCopy);
+    for (QListWidget* list : {ui->lwImageTags, ui->lwAllImagesTags})
+        addKey(QKeySequence::Paste, list, &MainWindow::onTagsPaste);
+    addKey(Qt::Key_Delete, ui->lwImageTags, &MainWindow::onTagDelete);
+    addKey(Qt::ALT | Qt::Key_Up, ui->lwImageTags, [this] { moveImageTag(TagMove::Up); });
+    addKey(Qt::ALT | Qt::Key_Down, ui->lwImageTags, [this] { moveImageTag(TagMove::Down); });
+    addKey(Qt::ALT | Qt::Key_Home, ui->lwImageTags, [this] { moveImageTag(TagMove::First); });
+    addKey(Qt::ALT | Qt::Key_End, ui->lwImageTags, [this] { moveImageTag(TagMove::Last); });
+}
+
+void MainWindow::onTagsPaste() {
+    QStringList tags = tagsFromText(QGuiApplication::clipboard()->text());
+    tags.removeAll(QString());
+    addTagsToSelected(tags);
+}
+
+void MainWindow::moveImageTag(TagMove move) {
+    const QStringList files = selectedFilePaths();
+    const QListWidget* list = ui->lwImageTags;
+    const QListWidgetItem* current = list->currentItem();
+    if (files.size() != 1 || !current)
+        return;
+    QStringList tags = imageTags(files.first());
+    int row = list->currentRow();
+    // A list that was sorted shows another order than the one that is moved in.
+    if (tags.value(row) != current->text())
+        row = int(tags.indexOf(current->text()));
+    if (row < 0)
+        return;
+    const qsizetype moved = movedTagRow(tags.size(), row, move);
+    if (moved == row)
+        return;
+    tags.move(row, moved);
+    setImageTags(files.first(), tags);
+    refreshImageTags(files.first());
+    ui->lwImageTags->setCurrentRow(int(moved));
 }
 
 void MainWindow::onTagsChanged(TagChange change) {
@@ -194,17 +241,17 @@ void MainWindow::deleteTagsEverywhere(const QStringList& tags) {
     _imageTags->removeEverywhere(tags);
 }
 
-void MainWindow::onImageTagCustomContextMenu() {
+void MainWindow::onImageTagCustomContextMenu(const QPoint& pos) {
     QListWidget* list = ui->lwImageTags;
     QMenu menu;
     menu.addAction(tr("&Copy to clipboard"), this, &MainWindow::onTagCopyToClipboard);
     addTagListActions(menu, list, _imageTagsSortOrder);
     menu.addAction(tr("&Delete"), this, &MainWindow::onTagDelete);
     menu.addAction(tr("Delete &all"), this, &MainWindow::onTagsDelete);
-    menu.exec(QCursor::pos());
+    menu.exec(menuPlace(list, pos));
 }
 
-void MainWindow::onImagesTagsCustomContextMenu() {
+void MainWindow::onImagesTagsCustomContextMenu(const QPoint& pos) {
     QListWidget* list = ui->lwAllImagesTags;
     QMenu menu;
     menu.addAction(tr("&Copy to clipboard"), this, &MainWindow::onAllTagCopy);
@@ -216,7 +263,7 @@ void MainWindow::onImagesTagsCustomContextMenu() {
     menu.addAction(tr("&Refresh"), this, &MainWindow::refreshAllTags);
     menu.addSeparator();
     menu.addAction(tr("&Delete"), this, &MainWindow::onAllTagDelete);
-    menu.exec(QCursor::pos());
+    menu.exec(menuPlace(list, pos));
 }
 
 void MainWindow::addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order) {

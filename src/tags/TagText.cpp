@@ -78,6 +78,20 @@ void splitTags(QStringList& tags, const QString& src) {
     tags = kept + pieces;
 }
 
+qsizetype movedTagRow(qsizetype count, qsizetype row, TagMove move) {
+    switch (move) {
+    case TagMove::Up:
+        return qMax(qsizetype(0), row - 1);
+    case TagMove::Down:
+        return qMin(count - 1, row + 1);
+    case TagMove::First:
+        return 0;
+    case TagMove::Last:
+        return count - 1;
+    }
+    return row;
+}
+
 void removeTags(QStringList& tags, const QStringList& removed) {
     const QSet<QString> unwanted(removed.cbegin(), removed.cend());
     tags.removeIf([&](const QString& tag) { return unwanted.contains(tag); });

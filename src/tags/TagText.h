@@ -32,6 +32,12 @@ void replaceInTags(QStringList& tags, const QString& src, const QString& dst);
 // list, those of the last tag first; a tag that matches only in another case goes there whole.
 void splitTags(QStringList& tags, const QString& src);
 
+// A step of one tag within the order of its file.
+enum class TagMove { Up, Down, First, Last };
+
+// The row of a tag after a move, of so many rows.
+[[nodiscard]] qsizetype movedTagRow(qsizetype count, qsizetype row, TagMove move);
+
 // Removes every occurrence of the given tags.
 void removeTags(QStringList& tags, const QStringList& removed);
 
