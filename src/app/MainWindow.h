@@ -172,6 +172,8 @@ private:
     void openSelectedFile();
     // Selects the row so many rows on in the view that is shown.
     void stepRow(int step);
+    // Selects one row of the view that is shown, at most the last.
+    void selectRow(int row);
     [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
     // Hides the files for which the predicate of row and file key holds, and shows all others. The reason is
     // shown with their number, "%1".

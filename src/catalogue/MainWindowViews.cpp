@@ -72,8 +72,14 @@ QList<QAbstractItemView*> MainWindow::mediaViews() const {
 }
 
 void MainWindow::initViewConnections() {
-    for (const QHeaderView* header : {ui->tableView->horizontalHeader(), ui->treeView->header()})
+    for (const QHeaderView* header : {ui->tableView->horizontalHeader(), ui->treeView->header()}) {
         connect(header, &QWidget::customContextMenuRequested, this, &MainWindow::onHeaderContextMenu);
+        // The views sort first, as they are connected first.
+        connect(header, &QHeaderView::sortIndicatorChanged, this, [this] {
+            QAbstractItemView* view = _selection->currentView();
+            view->scrollTo(view->currentIndex());
+        });
+    }
     connect(_selection, &SelectionWatcher::changed, this, &MainWindow::onItemSelectedChanged);
     connect(ui->leFilterImages, &QLineEdit::textChanged, this, &MainWindow::onFilterImages);
     new CompletionPopup(ui->leFilterImages, [this](const QString& line, qsizetype cursor) {
@@ -123,14 +129,18 @@ void MainWindow::openSelectedFile() {
 }
 
 void MainWindow::stepRow(int step) {
-    QAbstractItemView* view = _selection->currentView();
-    const int count = view->model()->rowCount();
-    if (count == 0)
-        return;
+    const QAbstractItemView* view = _selection->currentView();
     const int current = view->currentIndex().row();
-    const int next = current < 0 ? (step > 0 ? 0 : count - 1) : qBound(0, current + step, count - 1);
-    const QModelIndex index = view->model()->index(next, ColName);
-    // The view itself would ask the keyboard, where Ctrl is down.
+    const int ahead = step > 0 ? 0 : view->model()->rowCount() - 1;
+    selectRow(current < 0 ? ahead : qMax(0, current + step));
+}
+
+void MainWindow::selectRow(int row) {
+    QAbstractItemView* view = _selection->currentView();
+    const QModelIndex index = view->model()->index(qMin(row, view->model()->rowCount() - 1), ColName);
+    if (!index.isValid())
+        return;
+    // The view itself would ask the keyboard, where Ctrl may be down.
     view->selectionModel()->setCurrentIndex(index,
                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     view->scrollTo(index);

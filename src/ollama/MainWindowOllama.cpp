@@ -15,10 +15,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr auto usualToolTip = "usualToolTip";
+
+} // namespace
+
 void MainWindow::initOllamaConnections() {
     connect(ui->lEOllamaIp, &QLineEdit::textChanged, this, &MainWindow::onOllamaIpChanged);
     connect(ui->tBOllamaReconect, &QToolButton::clicked, this, &MainWindow::checkOllamaServer);
     connect(ui->tBSendOllamaPrompt, &QToolButton::clicked, this, &MainWindow::onOllamaSendPrompt);
+    connect(ui->lEOllamaIp, &QLineEdit::returnPressed, this, &MainWindow::checkOllamaServer);
+    ui->pBOllamaGo->setProperty(usualToolTip, ui->pBOllamaGo->toolTip());
 }
 
 void MainWindow::initOllama() {
@@ -53,7 +61,10 @@ void MainWindow::onOllamaIpChanged(const QString& txt) {
 
 void MainWindow::ollamaConnectionStatus(bool connected) {
     // A busy server may answer too late, and during a batch the button is the way to abort.
-    ui->pBOllamaGo->setEnabled(connected || _ollamaBatch != 0);
+    const bool isUsable = connected || _ollamaBatch != 0;
+    ui->pBOllamaGo->setEnabled(isUsable);
+    ui->pBOllamaGo->setToolTip(isUsable ? ui->pBOllamaGo->property(usualToolTip).toString()
+                                        : tr("No Ollama server answers at this address."));
 }
 
 void MainWindow::onOllamaSendPrompt() {

@@ -97,10 +97,13 @@ void MainWindow::editTagFor(const QString& filePath) {
 void MainWindow::openTextDialog(int operationType) {
     ReplaceTextDialog dialog;
     dialog.setOperationType(operationType);
-    if (operationType == ReplaceTextDialog::Replace)
+    if (operationType == ReplaceTextDialog::Replace) {
         connect(&dialog, &ReplaceTextDialog::replaceText, this, &MainWindow::replaceTagText);
-    else
+        if (const auto selected = ui->lwAllImagesTags->selectedItems(); selected.size() == 1)
+            dialog.setSourceText(selected.first()->text());
+    } else {
         connect(&dialog, &ReplaceTextDialog::splitText, this, &MainWindow::splitTagText);
+    }
     dialog.exec();
 }
 

@@ -25,6 +25,11 @@ void ReplaceTextDialog::setOperationType(int type) {
     _ui->widgetDst->setVisible(type != Split);
 }
 
+void ReplaceTextDialog::setSourceText(const QString& text) {
+    _ui->lESrcText->setText(text);
+    _ui->lESrcText->selectAll();
+}
+
 void ReplaceTextDialog::onClose() {
     if (sender() == _ui->pBCancel) {
         close();

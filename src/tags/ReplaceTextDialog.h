@@ -19,6 +19,8 @@ public:
     ~ReplaceTextDialog() override;
 
     void setOperationType(int type);
+    // The text to start from, selected so that typing replaces it.
+    void setSourceText(const QString& text);
 
 signals:
     void replaceText(QString src, QString dst);
