@@ -1,15 +1,11 @@
 #include "catalogue/FileNaming.h"
-#include "catalogue/IconIdentityProxyModel.h"
 #include "catalogue/MediaFilter.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
 #include "catalogue/MediaQuery.h"
-#include "catalogue/SortFilterProxyModel.h"
 #include "support/MediaFolder.h"
 #include "support/Rows.h"
-
-#include <QAbstractItemModelTester>
 
 // Names, sizes, records and models of media files, without a window.
 class TestMediaRules : public QObject {

@@ -68,7 +68,7 @@ const QList<Scene>& scenes() {
         {"a second scan", scanAgain},
         {"a file dialog", &MainWindow::importFiles, hasModal<QFileDialog>, true},
         {"a question", &MainWindow::deleteFile, hasModal<QMessageBox>, true},
-        {"a context menu", &MainWindow::onImagesCustomContextMenu, hasPopup, true},
+        {"a context menu", [](MainWindow& window) { window.onImagesCustomContextMenu(); }, hasPopup, true},
         {"a request for the models", &MainWindow::checkOllamaServer},
         {"a batch of prompts", &MainWindow::onOllamaSendPrompt, sendsPrompts},
         {"a resize batch", &MainWindow::onProcessResize},
