@@ -18,8 +18,6 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <algorithm>
-
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -119,13 +117,7 @@ void MainWindow::deleteFile() {
         showBlockingProgress(tr("deleted %1/%2").arg(&path - files.data() + 1).arg(files.size()));
     }
     showBlockingProgress({});
-    const QModelIndexList indexes = selectedIndexes();
-    const auto first = std::ranges::min_element(indexes, {}, &QModelIndex::row);
-    const int row = first != indexes.end() ? first->row() : -1;
     removeFileItems(files);
-    // The one that took the place, so that one after the other can be looked at.
-    if (row >= 0)
-        selectRow(row);
     // Last, as the rows that are removed change the selection, which has a message of its own.
     for (const QString& error : std::as_const(errors))
         onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(error));
