@@ -101,6 +101,13 @@ void changeDock(QDockWidget* dock) {
     window->addDockWidget(isLeft ? Qt::RightDockWidgetArea : Qt::LeftDockWidgetArea, dock);
 }
 
+// Neighbours of one kind differ afterwards.
+void changeValue(QWidget* widget) {
+    const double step = 3.0 + widget->objectName().back().unicode() % 7;
+    const double sign = widget->inherits("QSlider") ? -1.0 : 1.0;
+    widget->setProperty("value", widget->property("value").toDouble() + sign * step);
+}
+
 void change(QWidget* widget) {
     if (auto* splitter = qobject_cast<QSplitter*>(widget))
         changeSplitter(splitter);
@@ -122,8 +129,7 @@ void change(QWidget* widget) {
     else if (auto* line = qobject_cast<QLineEdit*>(widget); line && line->objectName() != "lEWorkingPath")
         line->setText("text of " + widget->objectName());
     else if (widget->property("value").isValid() && !widget->inherits("QProgressBar"))
-        widget->setProperty("value", widget->property("value").toDouble() +
-                                         3.0 * (widget->inherits("QSlider") ? -1 : 1));
+        changeValue(widget);
     else if (widget->property("checked").isValid())
         widget->setProperty("checked", !widget->property("checked").toBool());
 }
