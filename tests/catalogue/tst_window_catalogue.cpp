@@ -66,6 +66,17 @@ private slots:
         driver.rescan();
         QVERIFY(!header->isSectionHidden(ColSize));
     }
+
+    void theListTakesNoDrags() {
+        const MediaFolder folder;
+        folder.addImage("a.png");
+        WindowDriver driver(folder.path());
+        driver.select({"a.png"});
+        for (const char* entry : {"&View/&List simple", "&View/&Icon"}) {
+            QVERIFY(driver.chooseFromMediaMenu(entry));
+            QCOMPARE(driver.widget<QListView>("listView")->dragDropMode(), QAbstractItemView::NoDragDrop);
+        }
+    }
 };
 
 QTEST_MAIN(TestWindowCatalogue)

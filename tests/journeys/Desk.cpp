@@ -221,13 +221,8 @@ QString Desk::perform(const Step& step) {
             const Facts now = world();
             for (const QString& name : std::as_const(chosenByWindow))
                 now.contains(name) ? void(expected[name] = now[name]) : void(expected.remove(name));
-            // The watcher and the end of a load may come last; the log holds what was shown before them.
-            Facts acceptable = expected;
-            if (now["statusbar"] == "(background)" &&
-                plain(WindowDriver::log()).contains(expected["statusbar"]))
-                acceptable["statusbar"] = now["statusbar"];
-            differs = difference(withWindows(acceptable, before, now), now);
-            return differs.isEmpty();
+            differs = difference(withWindows(expected, before, now), now);
+            return differs.isEmpty() && isLoadOver();
         },
         qEnvironmentVariableIsSet("TESSARINE_RECORD") ? 900 : 10'000);
     if (!isSame && qEnvironmentVariableIsSet("TESSARINE_RECORD")) {
@@ -247,6 +242,13 @@ QString Desk::perform(const Step& step) {
         return {};
     }
     return isSame ? QString() : differs;
+}
+
+// Its last message must not come in the middle of the next step.
+bool Desk::isLoadOver() const {
+    const QString log = _log.join('\n');
+    return log.lastIndexOf("ImageLoaderThreaded::processQueue") <=
+           log.lastIndexOf("Loaded all media previews in");
 }
 
 // What a window holds comes and goes with it, unless the step says more.

@@ -62,6 +62,7 @@ public slots:
 
 private:
     [[nodiscard]] QString perform(const Step& step);
+    [[nodiscard]] bool isLoadOver() const;
     [[nodiscard]] static Facts withWindows(Facts expected, const Facts& before, const Facts& now);
     void act(const QString& what);
     [[nodiscard]] Facts world();
