@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMediaPlayer>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -436,8 +437,11 @@ Facts Desk::world() {
             if (!restless.contains(name) && !isInsideList(widget) && !isSameList && !isHiddenButton)
                 facts[owner + name] = plain(shownBy(widget));
             const auto* play = window->findChild<QAbstractButton*>("tBPlayPause");
-            if (const auto* video = qobject_cast<const QVideoWidget*>(widget);
-                play && video && play->window() == window && play->text() == ">")
+            const auto* video = qobject_cast<const QVideoWidget*>(widget);
+            if (!video || !play || play->window() != window)
+                continue;
+            facts[owner + "length"] = QString::number(window->findChild<QMediaPlayer*>()->duration());
+            if (play->text() == ">")
                 facts[owner + "frame"] =
                     QString::number(frameNumber(video->videoSink()->videoFrame().toImage()));
         }

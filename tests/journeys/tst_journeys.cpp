@@ -479,7 +479,8 @@ private slots:
                                 "labelCurrentSelectionTags=Current selection [1] tags: ; selected=clip.mp4 ; "
                                 "stackedWidgetMediaPreview=page 1 ; statusbar=Selected: 1 items ; "
                                 "tWComments=clip.mp4|Comment: a remark|Duration: 10000|Resolution: 160x64"},
-            {"listView > Edit v&ideo", "VideoWidget=Video editor - clip.mp4"},
+            {"listView > Edit v&ideo",
+             "VideoWidget=Video editor - clip.mp4 ; VideoWidget.frame=0 ; VideoWidget.length=10000"},
             {"VideoWidget.tBFrameNext", ""},
             {"VideoWidget.&Frame next", "VideoWidget.frame=1"},
             {"VideoWidget.tBFramePrev", "VideoWidget.frame=0"},
@@ -490,9 +491,9 @@ private slots:
              "labelTagsFromFile=File tag, txt, missing for: FOLDER/clip_TIME.txt ; "
              "listView=a.png|clip.mp4|clip_TIME.png|next.mp4 ; row clip_TIME.png=160x64 none ; "
              "statusbar=(background) ; tBLastResult=grabbed 1"},
-            {"VideoWidget.tBFileNext",
-             "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; VideoWidget.statusbar=(nothing)"},
-            {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4"},
+            {"VideoWidget.tBFileNext", "VideoWidget=Video editor - next.mp4 ; VideoWidget.frame=0 ; "
+                                       "VideoWidget.statusbar=(nothing) ; VideoWidget.length=2000"},
+            {"VideoWidget.tBFilePrev", "VideoWidget=Video editor - clip.mp4 ; VideoWidget.length=10000"},
             {"VideoWidget.tBGrabSeries", "VideoWidgetFrameGrabber=Frame grabber: FOLDER/clip.mp4"},
             {"VideoWidgetFrameGrabber.sBFrameNum = 3", "VideoWidgetFrameGrabber.sBFrameNum=3"},
             {"VideoWidgetFrameGrabber.pBGrabFrames", "VideoWidgetFrameGrabber.listWidget=1|6666|9999"},
@@ -513,17 +514,18 @@ private slots:
              "VideoWidgetFrameGrabber=Frame grabber ; asked=Select video files"},
             {"VideoWidgetFrameGrabber.pBClose", "VideoWidgetFrameGrabber=(nothing)"},
             {"VideoWidget.action_OpenVideo -> FOLDER/next.mp4",
-             "VideoWidget=Video editor - next.mp4 ; VideoWidget.statusbar=(nothing) ; asked=Open video file"},
+             "VideoWidget=Video editor - next.mp4 ; VideoWidget.statusbar=(nothing) ; asked=Open video file "
+             "; VideoWidget.length=2000"},
             {"VideoWidget.action_Open_URL -> FOLDER/clip.mp4",
-             "VideoWidget=Video editor - clip.mp4 ; asked=Video URL:"},
+             "VideoWidget=Video editor - clip.mp4 ; asked=Video URL: ; VideoWidget.length=10000"},
             {"VideoWidget.&Grab frame", "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk "
                                         "clip_TIME.png=frame 0|frame 0|frame 125|frame 166|frame 249 ; "
                                         "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
                                         "clip_TIME.png|clip_TIME.png|next.mp4"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=||"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=>"},
-            {"editVideo",
-             "VideoWidget=Video editor ; VideoWidget.frame=-1 ; VideoWidget.statusbar=(nothing)"},
+            {"editVideo", "VideoWidget=Video editor ; VideoWidget.frame=-1 ; VideoWidget.statusbar=(nothing) "
+                          "; VideoWidget.length=0"},
         };
         live(desk, steps);
     }
@@ -633,7 +635,8 @@ private slots:
              "selection [1] tags: ; labelTagsFromFile=File: FOLDER/clip.txt ; selected=clip.mp4 ; "
              "stackedWidgetMediaPreview=page 1 ; statusbar=Selected: 1 items ; tWComments=clip.mp4|Comment: "
              "a remark|Duration: 10000|Resolution: 160x64"},
-            {"listView > Edit v&ideo", "VideoWidget=Video editor - clip.mp4"},
+            {"listView > Edit v&ideo",
+             "VideoWidget=Video editor - clip.mp4 ; VideoWidget.frame=0 ; VideoWidget.length=10000"},
             {"press 5 in VideoWidget", "VideoWidget.frame=125"},
             {"VideoWidget.tBGrabFrame",
              "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk clip_TIME.png=frame 125 ; "
