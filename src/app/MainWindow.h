@@ -179,8 +179,6 @@ private:
     // shown with their number, "%1".
     void hideFiles(const QString& reason,
                    const std::function<bool(int row, const QString& filePath)>& isHidden);
-    // Panels, preview and metadata. The raw text editor follows the first file if it may.
-    void showSelection(bool mayRebind);
     [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath) const;
     void showMediaPreview(const QString& filePath);
 

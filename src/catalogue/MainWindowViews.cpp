@@ -294,10 +294,6 @@ void MainWindow::onFilterImages(const QString& txt) {
 }
 
 void MainWindow::onItemSelectedChanged() {
-    showSelection(true);
-}
-
-void MainWindow::showSelection(bool mayRebind) {
     qDebug() << "Selection changed";
     const QStringList files = selectedFilePaths();
     ui->labelCurrentSelectionTags->setText(tr("Current selection [%1] tags:").arg(files.size()));
@@ -307,8 +303,7 @@ void MainWindow::showSelection(bool mayRebind) {
         return;
     }
     refreshSelectionTags(files);
-    if (mayRebind)
-        followTagFile(files.first());
+    followTagFile(files.first());
     showMediaPreview(files.first());
     onShowMessage(tr("Selected: %1 items").arg(files.size()));
     if (ui->tWTools->currentWidget() == ui->tabImgDSP)

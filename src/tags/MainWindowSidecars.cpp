@@ -16,6 +16,7 @@ namespace {
 
 constexpr auto txtFileNameProperty = "txtFileName";
 constexpr auto imgFileNameProperty = "imgFileName";
+constexpr auto followedFileProperty = "followedFile";
 
 void logBackup(const QString& txtFileName, const SidecarWrite& write) {
     if (write.outcome == SidecarWrite::NoBackupName)
@@ -99,8 +100,11 @@ void MainWindow::unbindTagFile() {
 }
 
 void MainWindow::followTagFile(const QString& filePath) {
-    if (!isTagFileEdited() || ui->pTETagsFromFile->property(imgFileNameProperty).toString() != filePath)
-        readTagFile(filePath);
+    // An edit of tags comes here too, with the selection that was followed before.
+    if (isTagFileEdited() && ui->pTETagsFromFile->property(followedFileProperty).toString() == filePath)
+        return;
+    ui->pTETagsFromFile->setProperty(followedFileProperty, filePath);
+    readTagFile(filePath);
 }
 
 bool MainWindow::isTagFileEdited() const {

@@ -154,7 +154,7 @@ void MainWindow::onTagsChanged(TagChange change) {
         return;
     refreshAllTags();
     if (change == TagChange::Edited)
-        showSelection(!isTagFileEdited());
+        onItemSelectedChanged();
     else if (change == TagChange::Undone)
         refreshSelectionTags(selectedFilePaths());
 }

@@ -667,13 +667,6 @@ public:
         return facts;
     }
 
-    [[nodiscard]] QString seenPreview() const {
-        const QString title =
-            driver.widget<QDockWidget>("dockWidget_ImgPreview")->windowTitle().section(" [", 0, 0);
-        const QImage preview = driver.widget<QWidget>("imgWidget")->grab().toImage();
-        return title + ' ' + (title == "Video preview" ? "none" : middleColour(preview));
-    }
-
     void resolveBinding() {
         if (_bindings.isEmpty())
             return;
@@ -689,10 +682,7 @@ public:
                               : shown == _bindings.end() ? _bindings.first()
                                                          : *shown;
         if (_isPreviewDue) {
-            // An edit of tags shows the selection anew, whose order a sort may have changed.
-            const auto previewed = std::ranges::find_if(
-                _bindings, [&](const QString& name) { return _rows[name].preview == seenPreview(); });
-            _preview = _rows[isKept && previewed != _bindings.end() ? *previewed : first].preview;
+            _preview = _rows[first].preview;
             _followed = first;
         }
         _isTyped = isKept;
@@ -747,7 +737,10 @@ public:
         facts["searched tags"] = sorted(driver.tagTexts("lwAllImagesTags", true));
         facts["editor label"] = driver.text("labelTagsFromFile");
         facts["editor"] = driver.text("pTETagsFromFile");
-        facts["preview"] = seenPreview();
+        const QString title =
+            driver.widget<QDockWidget>("dockWidget_ImgPreview")->windowTitle().section(" [", 0, 0);
+        const QImage preview = driver.widget<QWidget>("imgWidget")->grab().toImage();
+        facts["preview"] = title + ' ' + (title == "Video preview" ? "none" : middleColour(preview));
         QStringList texts;
         const auto* metadata = driver.widget<QTreeWidget>("tWComments");
         for (int top = 0; top < metadata->topLevelItemCount(); ++top) {
