@@ -227,8 +227,10 @@ private:
     // itself.
     void transferFiles(const QString& verb,
                        const std::function<bool(QFile& source, const QString& target)>& transfer);
-    // Returns the reason of a failure; null where the file was imported.
-    QString importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource);
+    // Returns the reason of a failure; null where the file was imported. Appends the new path of a media
+    // file.
+    QString importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource,
+                       QStringList& mediaFiles);
     [[nodiscard]] bool wantsToOpenMany(qsizetype count);
 
     // --- Embedded comments (catalogue) -----------------------------------------------------------
@@ -258,6 +260,8 @@ private:
     // Takes the tags of the sidecars into the record. The editor shows the last one unless the user has
     // typed.
     void readTagFiles(const QStringList& filePaths);
+    // The same as a step of undo.
+    void importTagFiles(const QStringList& filePaths);
     void unbindTagFile();
     // Keeps what the user has typed while the first selected file stays the same.
     void followTagFile(const QString& filePath);

@@ -168,19 +168,19 @@ void MainWindow::importFiles() {
     const bool autoRename = Settings::instance()->get(keys::importFilesAutoRename);
     const WaitCursor waitCursor;
     QStringList failures;
-    qsizetype done = 0;
+    QStringList mediaFiles;
     for (const QString& source : sources) {
-        const QString error = importFile(source, directory, autoRename, deleteSource);
-        if (error.isNull())
-            ++done;
-        else
+        const QString error = importFile(source, directory, autoRename, deleteSource, mediaFiles);
+        if (!error.isNull())
             failures.append(fileFailure(source, error));
     }
-    showResult(tr("imported"), done, sources.size(), failures);
+    // After the last copy, as a sidecar may come after its media file.
+    importTagFiles(mediaFiles);
+    showResult(tr("imported"), sources.size() - failures.size(), sources.size(), failures);
 }
 
 QString MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
-                               bool deleteSource) {
+                               bool deleteSource, QStringList& mediaFiles) {
     const QFileInfo info(source);
     QString target = pathInDirectory(directory, u"%1.%2"_s.arg(info.completeBaseName(), info.suffix()));
     if (QFile::exists(target)) {
@@ -210,7 +210,7 @@ QString MainWindow::importFile(const QString& source, const QString& directory, 
     queuePreview(target, previewSize());
     // A text file has no tags of its own: it is the sidecar of others, which an entry would overwrite.
     if (checkMediaKey(target))
-        readTagFiles({target});
+        mediaFiles.append(target);
     return {};
 }
 

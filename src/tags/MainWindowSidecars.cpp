@@ -92,6 +92,12 @@ void MainWindow::readTagFiles(const QStringList& filePaths) {
         readTagFile(filePaths.last());
 }
 
+void MainWindow::importTagFiles(const QStringList& filePaths) {
+    _imageTags->importFiles(filePaths);
+    if (!filePaths.isEmpty() && !isTagFileEdited())
+        readTagFile(filePaths.last());
+}
+
 void MainWindow::unbindTagFile() {
     ui->pTETagsFromFile->setProperty(txtFileNameProperty, QString());
     ui->pTETagsFromFile->setProperty(imgFileNameProperty, QString());

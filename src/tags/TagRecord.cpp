@@ -48,6 +48,24 @@ void TagRecord::announce(TagChange change) {
 }
 
 void TagRecord::load(const QStringList& keys) {
+    read(keys);
+    if (!keys.isEmpty())
+        announce(TagChange::Read);
+}
+
+void TagRecord::importFiles(const QStringList& keys) {
+    QStringList added = keys;
+    added.removeIf([this](const QString& key) { return contains(key); });
+    read(keys);
+    Step step{.pattern = tr("import %1 files"), .isImport = true};
+    for (const QString& key : std::as_const(added)) {
+        if (!tags(key).isEmpty())
+            step.before.insert(key, {});
+    }
+    finish(std::move(step), TagChange::Read);
+}
+
+void TagRecord::read(const QStringList& keys) {
     // Equal tags of different files share one string.
     QSet<QString> knownTags;
     _tags.reserve(_tags.size() + keys.size());
@@ -60,8 +78,6 @@ void TagRecord::load(const QStringList& keys) {
             tag = *knownTags.insert(tag);
         _tags.insert(key, tags);
     }
-    if (!keys.isEmpty())
-        announce(TagChange::Read);
 }
 
 void TagRecord::remove(const QStringList& keys) {
@@ -84,14 +100,14 @@ void TagRecord::clear() {
 
 void TagRecord::setTags(const QString& key, const QStringList& tags) {
     Step step{tr("edit %1"), QFileInfo(key).fileName()};
-    change(step, _tags.tryEmplace(key).iterator, tags);
+    change(step, entryOf(key), tags);
     finish(std::move(step), TagChange::Stored);
 }
 
 void TagRecord::append(const QStringList& keys, const QStringList& tags) {
     Step step{tr("add %1 to %2 files"), quotedTags(tags)};
     for (const QString& key : keys) {
-        const auto entry = _tags.tryEmplace(key).iterator;
+        const auto entry = entryOf(key);
         change(step, entry, *entry + tags);
     }
     finish(std::move(step), TagChange::Edited);
@@ -100,7 +116,7 @@ void TagRecord::append(const QStringList& keys, const QStringList& tags) {
 void TagRecord::removeTags(const QStringList& keys, const QStringList& tags) {
     Step step{tr("delete %1 from %2 files"), quotedTags(tags)};
     for (const QString& key : keys) {
-        const auto entry = _tags.tryEmplace(key).iterator;
+        const auto entry = entryOf(key);
         QStringList kept = *entry;
         ::removeTags(kept, tags);
         change(step, entry, kept);
@@ -143,11 +159,8 @@ void TagRecord::setSavedTags(const QString& key, const QStringList& tags) {
 }
 
 void TagRecord::appendAnswer(const QString& key, const QStringList& tags, int batch) {
-    if (!_tags.contains(key))
-        _tags.insert(key, sidecarTags(key));
-    Step step{tr("captions of %1 files"), {}};
-    step.batch = batch;
-    const auto entry = _tags.find(key);
+    Step step{.pattern = tr("captions of %1 files"), .batch = batch};
+    const auto entry = entryOf(key);
     change(step, entry, *entry + tags);
     finish(std::move(step), TagChange::Stored);
 }
@@ -158,7 +171,7 @@ int TagRecord::newBatch() {
 }
 
 qsizetype TagRecord::restore(const Tags& tags) {
-    Step step{tr("restore %1 files"), {}};
+    Step step{.pattern = tr("restore %1 files")};
     for (const auto& [key, restored] : tags.asKeyValueRange()) {
         if (const auto entry = _tags.find(key); entry != _tags.end())
             change(step, entry, restored);
@@ -166,6 +179,11 @@ qsizetype TagRecord::restore(const Tags& tags) {
     const qsizetype count = step.before.size();
     finish(std::move(step), TagChange::Edited);
     return count;
+}
+
+TagRecord::Tags::iterator TagRecord::entryOf(const QString& key) {
+    const auto entry = _tags.find(key);
+    return entry != _tags.end() ? entry : _tags.insert(key, sidecarTags(key));
 }
 
 // Keeps what the file had in the step. Without a difference nothing is kept.
@@ -216,6 +234,12 @@ void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
         return;
     Step step = from.takeLast();
     _undoBytes -= step.bytes;
+    if (step.isImport) {
+        takeBackImport(step.before.keys(), &from == &_undo);
+        to.append(std::move(step));
+        announce(TagChange::Undone);
+        return;
+    }
     Step back{step.pattern, step.what};
     for (const auto& [key, before] : std::as_const(step.before).asKeyValueRange()) {
         // Files that have left the record stay out of it.
@@ -227,6 +251,19 @@ void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
         to.append(std::move(back));
     dropOldSteps();
     announce(TagChange::Undone);
+}
+
+void TagRecord::takeBackImport(const QStringList& keys, bool isUndone) {
+    QStringList absent;
+    for (const QString& key : keys) {
+        if (isUndone) {
+            _tags.remove(key);
+            _sidecarTags.remove(key);
+        } else if (!contains(key) && QFileInfo::exists(key)) {
+            absent.append(key);
+        }
+    }
+    read(absent);
 }
 
 void TagRecord::setUndoLimit(qsizetype bytes) {

@@ -69,7 +69,8 @@ public:
     // Removes all entries and all steps of undo.
     void clear();
 
-    // Edits, each one step of undo.
+    // Edits, each one step of undo. A file without an entry first gets the tags of its sidecar, or the next
+    // save would replace them.
     void setTags(const QString& key, const QStringList& tags);
     void append(const QStringList& keys, const QStringList& tags);
     void removeTags(const QStringList& keys, const QStringList& tags);
@@ -78,9 +79,11 @@ public:
     void splitText(const QString& src);
     // Takes the tags of a text that has just been written to the file's sidecar.
     void setSavedTags(const QString& key, const QStringList& tags);
-    // Appends the tags of an answer. A file that has left the record first gets those of its sidecar, or the
-    // next save would replace them by the answer alone. Answers of one batch in a row are one step.
+    // Appends the tags of an answer. Answers of one batch in a row are one step.
     void appendAnswer(const QString& key, const QStringList& tags, int batch);
+    // Reads the sidecars of files that are new here. Taking it back removes their entries and leaves the
+    // sidecars alone: nothing is unsaved afterwards.
+    void importFiles(const QStringList& keys);
     [[nodiscard]] static int newBatch();
     // Takes over what was recovered; keys without an entry are left out. Returns how many were changed.
     qsizetype restore(const Tags& tags);
@@ -105,18 +108,22 @@ signals:
 private:
     // What the touched files had before; taking it back leaves here what they had after.
     struct Step {
-        QString pattern; // of its text: what was edited, then the number of files
-        QString what;    // null where the number alone says it
+        QString pattern;   // of its text: what was edited, then the number of files
+        QString what = {}; // null where the number alone says it
         Tags before = {};
         qsizetype bytes = 0;
-        int batch = 0; // of answers; 0 for any other step
+        int batch = 0;         // of answers; 0 for any other step
+        bool isImport = false; // the touched files had no entry
     };
 
     [[nodiscard]] static QString textOf(const Step& step);
+    [[nodiscard]] Tags::iterator entryOf(const QString& key);
+    void read(const QStringList& keys);
     void change(Step& step, Tags::iterator entry, const QStringList& tags);
     void noteSidecarTags(const QString& key, const QStringList& before, const QStringList& now);
     void finish(Step&& step, TagChange change);
     void takeBack(QList<Step>& from, QList<Step>& to);
+    void takeBackImport(const QStringList& keys, bool isUndone);
     void dropOldSteps();
     void announce(TagChange change);
 

@@ -120,6 +120,29 @@ private slots:
         QVERIFY(!record.canUndo() && record.tags("/a.png").size() == 2);
     }
 
+    void anImportIsTakenBackAndTheSidecarStays() {
+        const MediaFolder folder;
+        const QStringList keys{folder.filePath("a.png"), folder.filePath("b.png"), folder.filePath("c.png")};
+        for (const char* name : {"a.png", "b.png", "c.png"})
+            folder.addImage(name);
+        folder.addTags("b.png", "old");
+        TagRecord record;
+        record.load({keys.at(0)});
+        record.importFiles(keys.mid(1));
+        QCOMPARE(record.undoText(), QString("import 1 files"));
+        record.append({keys.at(1)}, {"sky"});
+        record.undo();
+        record.undo();
+        QVERIFY(!record.contains(keys.at(1)) && record.unsavedKeys().isEmpty() && !record.canUndo());
+        record.redo();
+        QCOMPARE(record.tags(keys.at(1)), QStringList("old"));
+        record.undo();
+        // An edit of a file without an entry keeps what its sidecar holds.
+        record.append({keys.at(1)}, {"sea"});
+        record.save({});
+        QCOMPARE(folder.content("b.txt"), QByteArray("old,sea"));
+    }
+
     void savingCostsOneFileAFault() {
         const MediaFolder folder;
         const QStringList keys{folder.filePath("a.png"), folder.filePath("b.png"), folder.filePath("s.png"),
