@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -131,6 +132,18 @@ void StatusPanel::showResult(const OperationResult& result) {
     _lastResult->setText(literalText(result.text));
     _lastResult->setToolTip(linesToolTip(_failures, _failures.size()));
     _lastResult->setVisible(!result.text.isEmpty());
+}
+
+void StatusPanel::addToResult(const QString& verb, const QString& failure) {
+    QStringList failures;
+    if (_addedFiles == 0)
+        QTimer::singleShot(0, this, [this] { _addedFiles = 0; });
+    else
+        failures = _failures;
+    ++_addedFiles;
+    if (!failure.isNull())
+        failures.append(failure);
+    showResult(operationResult(verb, _addedFiles - failures.size(), _addedFiles, failures));
 }
 
 void StatusPanel::repaintNow() {

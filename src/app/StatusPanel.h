@@ -46,6 +46,9 @@ public:
     // at once.
     void showBlockingProgress(const QString& text);
     void showResult(const OperationResult& result);
+    // One file of an operation that reports each by itself; those of one turn of the event loop are counted
+    // together. The failure is null where the file was done.
+    void addToResult(const QString& verb, const QString& failure);
 
     // Paints the window of the panel's status bar in the middle of a blocking loop, at most 20 times a
     // second.
@@ -75,5 +78,6 @@ private:
     QString _progressText;
     QString _blockingText;
     QStringList _failures;
+    qsizetype _addedFiles = 0; // in this turn of the event loop
     QElapsedTimer _sinceRepaint;
 };

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/StatusPanel.h"
 #include "app/WindowPlace.h"
 #include "app/services/FileFailure.h"
 #include "app/services/ImageFile.h"
@@ -52,12 +53,12 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
     if (QString error; !writeImageFile(img, path, {.format = frameFormat, .quality = frameQuality}, &error)) {
         qDebug() << "Error, unable to save image to:" << path;
         onShowMessage(tr("Error, unable to save file to: %1").arg(path));
-        showResult(tr("grabbed"), 0, 1, {fileFailure(path, error)});
+        _statusPanel->addToResult(tr("grabbed"), fileFailure(path, error));
         answer(tr("Error, unable to save file to: %1").arg(path));
         return;
     }
     answer(tr("Saved frame to: %1").arg(path));
-    showResult(tr("grabbed"), 1, 1, {});
+    _statusPanel->addToResult(tr("grabbed"), {});
     addFileItem(path);
     reloadFile(path);
 }

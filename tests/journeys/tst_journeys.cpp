@@ -122,7 +122,8 @@ private slots:
              "asked=Select files to import ; complaints=Error, unable to find model item for: "
              "\"FOLDER/c.png\" ; disk c.png=20x20 yellow ; labelTagsFromFile=File: FOLDER/c.txt ; "
              "listView=a.png|b.jpg|c.png ; lwAllImagesTags=cat|dog|waiting ; pTETagsFromFile=waiting ; row "
-             "c.png=20x20 yellow ; statusbar=(background) ; tBLastResult=imported 1"},
+             "c.png=20x20 yellow ; statusbar=(background) ; tBLastResult=imported 1 ; tBUnsavedCount=0 "
+             "unsaved"},
             {"listView > &Import files -> FOLDER/sub/c.png",
              "asked=Select files to import ; complaints=Unable to import file from FOLDER/sub/c.png, file "
              "already exist at: FOLDER/c.png ; statusbar=Unable to import file from FOLDER/sub/c.png, file "
@@ -142,7 +143,7 @@ private slots:
              "tags: ; labelTagsFromFile=* ; listView=a.png|a.png|a.png|b.jpg|c.png|d.png ; "
              "lwAllImagesTags=cat|dog|inner ; lwImageTags=(nothing) ; pTETagsFromFile=* ; row "
              "other/a.png=22x22 cyan ; row sub/a.png=40x30 red ; row sub/c.png=20x20 yellow ; "
-             "selected=(nothing)"},
+             "selected=(nothing) ; tBUnsavedCount=(nothing)"},
             {"select b.jpg|d.png",
              "dockWidget_ImgPreview=Image 50x30 preview ; imgWidget=blue ; labelCurrentSelectionTags=Current "
              "selection [2] tags: ; labelTagsFromFile=File tag, txt, missing for: FOLDER/b.txt ; "
@@ -505,7 +506,8 @@ private slots:
              "VideoWidgetFrameGrabber.listWidget=6666|9999"},
             {"VideoWidgetFrameGrabber.pBAddAll",
              "disk clip_TIME.png=frame 0|frame 125|frame 166|frame 249 ; "
-             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4"},
+             "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|clip_TIME.png|next.mp4 ; "
+             "tBLastResult=grabbed 2"},
             {"VideoWidgetFrameGrabber.listWidget > &Clear", "VideoWidgetFrameGrabber.listWidget=(nothing)"},
             {"VideoWidgetFrameGrabber.pBSelecFiles -> FOLDER/next.mp4",
              "VideoWidgetFrameGrabber.listWidget=1000|1332|1998 ; asked=Select video files"},
@@ -521,7 +523,7 @@ private slots:
             {"VideoWidget.&Grab frame", "VideoWidget.statusbar=Saved frame to: FOLDER/clip_TIME.png ; disk "
                                         "clip_TIME.png=frame 0|frame 0|frame 125|frame 166|frame 249 ; "
                                         "listView=a.png|clip.mp4|clip_TIME.png|clip_TIME.png|clip_TIME.png|"
-                                        "clip_TIME.png|clip_TIME.png|next.mp4"},
+                                        "clip_TIME.png|clip_TIME.png|next.mp4 ; tBLastResult=grabbed 1"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=||"},
             {"VideoWidget.tBPlayPause", "VideoWidget.frame=* ; VideoWidget.tBPlayPause=>"},
             {"editVideo", "VideoWidget=Video editor ; VideoWidget.frame=-1 ; VideoWidget.statusbar=(nothing) "
