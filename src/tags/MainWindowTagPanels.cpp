@@ -2,10 +2,10 @@
 
 #include "app/WaitCursor.h"
 #include "app/services/LongLines.h"
-#include "catalogue/SizeRememberingDelegate.h"
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/ViewSetup.h"
 #include "tags/ReplaceTextDialog.h"
+#include "tags/TagDelegate.h"
 #include "tags/TagRecord.h"
 #include "ui_MainWindow.h"
 
@@ -27,6 +27,7 @@ QListWidgetItem* makeCountedTagItem(const TagCount& counted) {
     QListWidgetItem* item = makeTagItem(counted.tag);
     item->setToolTip(MainWindow::tr("Count: %1").arg(counted.count));
     item->setTextAlignment(Qt::AlignCenter);
+    item->setData(RoleTagCount, counted.count);
     return item;
 }
 
@@ -36,7 +37,7 @@ void setUpTagList(QListWidget* list) {
     list->setSpacing(8);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setUniformItemSizes(false);
-    list->setItemDelegate(new SizeRememberingDelegate(list));
+    list->setItemDelegate(new TagDelegate(list));
     list->setSortingEnabled(false);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);

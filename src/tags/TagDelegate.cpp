@@ -1,0 +1,35 @@
+#include "tags/TagDelegate.h"
+
+#include <QListView>
+#include <QPainter>
+
+namespace {
+
+constexpr qreal frameRadius = 4;
+constexpr int frameAlpha = 70; // of 255
+
+} // namespace
+
+void TagDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    SizeRememberingDelegate::paint(painter, option, index);
+    painter->save();
+    const bool isSelected = option.state & QStyle::State_Selected;
+    QColor frame = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+    frame.setAlpha(frameAlpha);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(frame);
+    painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), frameRadius, frameRadius);
+
+    const auto* list = qobject_cast<const QListView*>(option.widget);
+    if (const QVariant count = index.data(RoleTagCount); list && list->spacing() > 0 && count.isValid()) {
+        // Within the spacing, as an item that grew would lay the whole list out anew.
+        const QRect gap(option.rect.left(), option.rect.bottom() + 1, option.rect.width(), list->spacing());
+        QFont small = option.font;
+        small.setPixelSize(gap.height());
+        painter->setFont(small);
+        painter->setPen(option.palette.color(QPalette::PlaceholderText));
+        painter->drawText(gap, Qt::AlignCenter, option.locale.toString(count.toInt()));
+    }
+    painter->restore();
+}
