@@ -330,6 +330,13 @@ QPalette paletteOf(const ThemeColors& colors) {
         if (shade.isSet)
             palette.setBrush(brush.group, brush.role, QBrush(shadeColor(shade)));
     }
+    // The style's own placeholders are near black, which a dark edit swallows.
+    QColor placeholder = palette.color(QPalette::Text);
+    if (!colors.placeholderText.isSet &&
+        placeholder.lightness() > palette.color(QPalette::Base).lightness()) {
+        placeholder.setAlphaF(0.5F);
+        palette.setColor(QPalette::PlaceholderText, placeholder);
+    }
     return palette;
 }
 
