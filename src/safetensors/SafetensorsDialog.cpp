@@ -36,6 +36,7 @@ SafetensorsDialog::SafetensorsDialog(QWidget* parent)
     : QDialog(parent), _ui(std::make_unique<Ui::SafetensorsDialog>()) {
     _ui->setupUi(this);
     keepLongLinesQuick(_ui->pTEOutput);
+    _ui->splitter->setSizes({width() / 2, width() / 2});
     connect(_ui->tBOpenSafetensorFile, &QToolButton::clicked, this, &SafetensorsDialog::onOpenSafetensorFile);
     connect(_ui->tBShowInFileBrowser, &QToolButton::clicked, this, &SafetensorsDialog::onShowInFileBrowser);
     connect(_ui->tBSafetensorPrev, &QToolButton::clicked, this, &SafetensorsDialog::onSafetensorNext);
@@ -72,6 +73,7 @@ void SafetensorsDialog::setSafetensorFile(const QString& fileName, bool includeT
     _ui->pTEOutput->appendPlainText(inspectionText(entries));
     if (!inspector.messages().isEmpty())
         _ui->pTEOutput->appendPlainText(inspector.messages());
+    _ui->pTEOutput->moveCursor(QTextCursor::Start);
     _currentFile = fileName;
     setWindowTitle(tr("File: %1").arg(QFileInfo(fileName).fileName()));
     showPreview(fileName);

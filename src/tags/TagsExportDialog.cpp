@@ -26,6 +26,7 @@ void TagsExportDialog::setTags(const QStringList& tags) {
     _tags = tags;
     _counts = tagCounts(tags);
     updateText();
+    _ui->plainTextEdit->moveCursor(QTextCursor::Start);
 }
 
 void TagsExportDialog::updateText() {
