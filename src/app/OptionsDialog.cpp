@@ -1,6 +1,6 @@
 #include "app/OptionsDialog.h"
 
-#include "app/services/Settings.h"
+#include "app/WindowPlace.h"
 #include "ui_OptionsDialog.h"
 
 OptionsDialog::OptionsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_unique<Ui::OptionsDialog>()) {
@@ -14,9 +14,7 @@ OptionsDialog::~OptionsDialog() = default;
 
 void OptionsDialog::loadOptions() {
     const Settings* settings = Settings::instance();
-    const QByteArray geometry = settings->get(keys::optionDialogGeometry);
-    if (!geometry.isEmpty())
-        restoreGeometry(geometry);
+    restoreWindow(this, keys::optionDialogGeometry);
     const QSize gridSize = settings->get(keys::gridSizeListView);
     _ui->sBGridSizeW->setValue(gridSize.width());
     _ui->sBGridSizeH->setValue(gridSize.height());

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/WaitCursor.h"
+#include "app/WindowPlace.h"
 #include "app/services/Settings.h"
 #include "catalogue/FileNaming.h"
 #include "tags/AddTagsDialog.h"
@@ -26,7 +27,7 @@ void openTagsDialog(AddTagsDialog* dialog) {
         Settings::instance()->set(keys::addTagsDialogGeometry, dialog->saveGeometry());
     });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->restoreGeometry(Settings::instance()->get(keys::addTagsDialogGeometry));
+    restoreWindow(dialog, keys::addTagsDialogGeometry);
     dialog->open();
 }
 
