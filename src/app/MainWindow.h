@@ -219,6 +219,10 @@ public slots:
     void openInNativeApp();
     void showPathInFileBrowser();
 
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
 private:
     void initFileOperationConnections();
     // Asks for a directory, starting at the last one; empty when the user cancels.
@@ -227,6 +231,11 @@ private:
     // itself.
     void transferFiles(const QString& verb,
                        const std::function<bool(QFile& source, const QString& target)>& transfer);
+    // The working directory, or empty after a message about it.
+    [[nodiscard]] QString importDirectory();
+    void importPaths(const QStringList& sources, const QString& directory);
+    // Opens a directory that comes alone, after the question about it; imports anything else.
+    void openDropped(const QStringList& paths);
     // Returns the reason of a failure; null where the file was imported. Appends the new path of a media
     // file.
     QString importFile(const QString& source, const QString& directory, bool autoRename, bool deleteSource,

@@ -12,10 +12,14 @@
 
 #include <QDebug>
 #include <QDesktopServices>
+#include <QDir>
 #include <QDirIterator>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 
 #include <optional>
@@ -44,9 +48,20 @@ DirectoryNames namesInDirectory(const QString& directory) {
     return names;
 }
 
+QStringList localPaths(const QMimeData* data) {
+    QStringList paths;
+    const QList<QUrl> urls = data->urls();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile())
+            paths.append(QDir::cleanPath(url.toLocalFile()));
+    }
+    return paths;
+}
+
 } // namespace
 
 void MainWindow::initFileOperationConnections() {
+    setAcceptDrops(true);
     connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
 }
 
@@ -149,21 +164,32 @@ void MainWindow::deleteStrayTxtFiles() {
     showResult(tr("deleted"), stray.size() - failures.size(), stray.size(), failures);
 }
 
-void MainWindow::importFiles() {
+QString MainWindow::importDirectory() {
     const QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
         tellUser(this, tr("Set working directory. Path is empty."));
-        return;
+        return {};
     }
     if (!QFile::exists(directory)) {
         tellUser(this, tr("Working directory don't exists at: %1").arg(directory));
-        return;
+        return {};
     }
+    return directory;
+}
+
+void MainWindow::importFiles() {
+    const QString directory = importDirectory();
+    if (directory.isEmpty())
+        return;
     const QStringList sources =
         QFileDialog::getOpenFileNames(this, tr("Select files to import"), _workingPath, tr("Files (*.*)"));
     if (sources.isEmpty())
         return;
     _workingPath = QFileInfo(sources.first()).path();
+    importPaths(sources, directory);
+}
+
+void MainWindow::importPaths(const QStringList& sources, const QString& directory) {
     const bool deleteSource = Settings::instance()->get(keys::importFilesDeleteSrc);
     const bool autoRename = Settings::instance()->get(keys::importFilesAutoRename);
     const WaitCursor waitCursor;
@@ -177,6 +203,27 @@ void MainWindow::importFiles() {
     // After the last copy, as a sidecar may come after its media file.
     importTagFiles(mediaFiles);
     showResult(tr("imported"), sources.size() - failures.size(), sources.size(), failures);
+}
+
+void MainWindow::openDropped(const QStringList& paths) {
+    if (paths.size() == 1 && QFileInfo(paths.first()).isDir()) {
+        ui->lEWorkingPath->setText(paths.first());
+        onWorkingPathEdited();
+    } else if (const QString directory = importDirectory(); !directory.isEmpty()) {
+        importPaths(paths, directory);
+    }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!localPaths(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that the files come from waits until this returns, and a question may follow.
+    QTimer::singleShot(0, this, [this, paths = localPaths(event->mimeData())] { openDropped(paths); });
 }
 
 QString MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,

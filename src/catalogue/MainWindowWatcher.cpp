@@ -1,11 +1,13 @@
 #include "app/MainWindow.h"
 
 #include "app/Questions.h"
+#include "catalogue/DirectoryCompletion.h"
 #include "catalogue/FileNaming.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/UpdatesOff.h"
+#include "tags/CompletionPopup.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -21,6 +23,13 @@ void MainWindow::initWatcherConnections() {
     connect(ui->tBSrcSelectPath, &QToolButton::clicked, this, &MainWindow::onSrcSelectPath);
     connect(ui->tBRefreshOpenFilePath, &QToolButton::clicked, this, &MainWindow::onRefreshOpenFilePath);
     connect(ui->lEWorkingPath, &QLineEdit::editingFinished, this, &MainWindow::onWorkingPathEdited);
+    new CompletionPopup(ui->lEWorkingPath, [](const QString& line, qsizetype cursor) {
+        const DirectoryMatches matches = matchingDirectories(line, cursor);
+        CompletionOffer offer{matches.start};
+        for (const QString& name : matches.names)
+            offer.rows.append({name, {}});
+        return offer;
+    });
 }
 
 void MainWindow::watchWorkingDirectory() {

@@ -6,12 +6,15 @@
 #include "video/VideoWidget.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QTreeWidget>
 
 // The work of a day without the mouse.
@@ -148,6 +151,45 @@ private slots:
         driver.select({"clip.mp4"});
         emit view->doubleClicked(view->currentIndex());
         QVERIFY(driver.window().findChild<VideoWidget*>());
+    }
+
+    void filesAndDirectoriesAreDropped() {
+        const MediaFolder folder;
+        folder.addImage("work/a.png");
+        folder.addImage("other/b.png");
+        folder.addTags("other/b.png", "sky");
+        WindowDriver driver(folder.filePath("work"));
+        const auto drop = [&](const QStringList& names) {
+            QMimeData data;
+            QList<QUrl> urls;
+            for (const QString& name : names)
+                urls.append(QUrl::fromLocalFile(folder.filePath(name)));
+            data.setUrls(urls);
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&driver.window(), &enter);
+            QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&driver.window(), &event);
+        };
+        auto* result = driver.widget<QToolButton>("tBLastResult");
+        drop({"other/b.png", "other/b.txt", "gone.png", "other"});
+        QTRY_COMPARE(result->text(), QString("imported 2 of 4, 2 failed"));
+        QTRY_COMPARE(driver.catalogueNames(), QStringList({"a.png", "b.png"}));
+        QCOMPARE(driver.window().imageTags(folder.filePath("work/b.png")), QStringList("sky"));
+        const ModalAnswer answer(QMessageBox::Yes);
+        drop({"other/"});
+        QTRY_VERIFY(answer.isUsed());
+        QTRY_COMPARE(driver.catalogueNames(), QStringList({"b.png"}));
+
+        // The path line completes what is typed at its end.
+        auto* line = driver.widget<QLineEdit>("lEWorkingPath");
+        QCOMPARE(line->text(), folder.filePath("other"));
+        line->setFocus();
+        line->setText(folder.filePath("W"));
+        QTest::keyClicks(line, "o");
+        QCOMPARE(offered(line), QStringList("work "));
+        QTest::keyClick(line, Qt::Key_Down);
+        QTest::keyClick(line, Qt::Key_Tab);
+        QCOMPARE(line->text(), folder.filePath("work"));
     }
 
 private:
