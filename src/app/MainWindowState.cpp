@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int firstPreviewWidth = 280;
+
 // A value that is kept between runs: how it comes back, and how it is stored.
 struct KeptValue {
     std::function<void(const Settings&)> read;
@@ -154,9 +156,12 @@ void MainWindow::makeRoomForTools(bool mayResize) {
     const QSize tools = style()->sizeFromContents(
         QStyle::CT_TabWidget, &frame,
         QSize(std::max(tabs.width(), pages.width()), tabs.height() + pages.height()), ui->tWTools);
-    if (mayResize)
-        resize((sizeHint() + tools - ui->tWTools->sizeHint()).boundedTo(screen()->availableSize()));
-    resizeDocks({ui->dockWidget_Tools}, {tools.width()}, Qt::Horizontal);
+    if (mayResize) {
+        const QSize preview(firstPreviewWidth - ui->dockWidget_ImgPreview->sizeHint().width(), 0);
+        resize((sizeHint() + tools - ui->tWTools->sizeHint() + preview).boundedTo(screen()->availableSize()));
+    }
+    resizeDocks({ui->dockWidget_ImgPreview, ui->dockWidget_Tools}, {firstPreviewWidth, tools.width()},
+                Qt::Horizontal);
 }
 
 void MainWindow::writeSettings() {

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/StatusPanel.h"
+#include "app/WrappingRow.h"
 #include "app/services/Settings.h"
 #include "catalogue/IconIdentityProxyModel.h"
 #include "catalogue/MediaFilter.h"
@@ -28,6 +29,7 @@ namespace {
 
 constexpr QSize smallIconSize(32, 32);
 constexpr qsizetype shownWordCharacters = 60;
+constexpr int firstNameWidth = 220;
 
 void setUpMediaView(QAbstractItemView* view) {
     view->setItemDelegate(new ShortTextDelegate(view));
@@ -150,6 +152,12 @@ void MainWindow::initViews() {
     setWindowTitle(QString::fromLatin1("%1 - %2").arg(QCoreApplication::applicationName(),
                                                       QCoreApplication::applicationVersion()));
     setDockNestingEnabled(true);
+    auto* rowBelowViews = new WrappingRow;
+    for (QLayout* layout : {ui->horizontalLayoutWorkingPath, ui->horizontalLayoutSaveTags}) {
+        ui->verticalLayout->removeItem(layout);
+        rowBelowViews->addLayout(layout, layout == ui->horizontalLayoutWorkingPath ? 1 : 0);
+    }
+    ui->verticalLayout->addLayout(rowBelowViews);
     for (QAbstractItemView* view : mediaViews())
         setUpMediaView(view);
     initListView();
@@ -164,6 +172,9 @@ void MainWindow::initViews() {
                                              tr("Bottom left"), tr("Bottom center"), tr("Bottom right")});
     ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
     ui->tWComments->setItemDelegate(new ShortTextDelegate(ui->tWComments));
+    // The keys in sight are whole; the rows out of sight are not measured, of which there may be many.
+    ui->tWComments->header()->setResizeContentsPrecision(0);
+    ui->tWComments->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
 void MainWindow::initListView() {
@@ -207,6 +218,8 @@ void MainWindow::initModels() {
     setMediaModel(ui->listView, _proxyModel);
     setMediaModel(ui->treeView, iconProxyModel);
     setMediaModel(ui->tableView, iconProxyModel);
+    ui->treeView->header()->resizeSection(ColName, firstNameWidth);
+    ui->tableView->horizontalHeader()->resizeSection(ColName, firstNameWidth);
     _selection = new SelectionWatcher(ui->stackedWidget, mediaViews(), this);
 }
 

@@ -30,8 +30,13 @@ QWidget* ShortTextDelegate::createEditor(QWidget* parent, const QStyleOptionView
 
 bool ShortTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                                   const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const QString text = index.data(Qt::ToolTipRole).toString();
-    if (event->type() != QEvent::ToolTip || !Qt::mightBeRichText(text))
+    QString text = index.data(Qt::ToolTipRole).toString();
+    if (event->type() != QEvent::ToolTip || (!text.isEmpty() && !Qt::mightBeRichText(text)))
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    // A text that is cut off, and has no tool tip of its own, is its own tool tip.
+    if (text.isEmpty() && sizeHint(option, index).width() > option.rect.width())
+        text = displayText(index.data(Qt::DisplayRole), option.locale);
+    if (text.isEmpty())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(), plainToolTip(text), view);
     return true;

@@ -314,7 +314,7 @@ private slots:
                                 "statusbar=(background) ; tBLastResult=resized 2"},
             {"tWTools = 3", "tWTools=page 3"},
             {"cBDspEffectsList = Brightness", ""},
-            {"tBAddEffect", "dockWidget_ImgPreview=Image 160x128 preview ; imgWidget=red ; "
+            {"tBAddEffect", "dockWidget_ImgPreview=Image 280x224 preview ; imgWidget=red ; "
                             "lWDspEffects=Brightness 10 (list)"},
             {"horizontalSlider = 255",
              "imgWidget=none ; lWDspEffects=Brightness 255 (list) ; statusbar=Filters applied to: 1 files"},
@@ -335,7 +335,7 @@ private slots:
             {"lWDspEffects > &Toggle bypass", "imgWidget=none ; lWDspEffects=Sharpen|Brightness 255 (list) ; "
                                               "statusbar=Filters applied to: 1 files"},
             {"pBDspReset", "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue"},
-            {"tbProfileNew_HL", "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 160x128 "
+            {"tbProfileNew_HL", "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 280x224 "
                                 "preview ; imgWidget=red ; lWDspEffects= (list)"},
             {"ProfilesEditWidget.lEProfileName = Soft", "ProfilesEditWidget.lEProfileName=Soft"},
             {"ProfilesEditWidget.pBApply", "ProfilesEditWidget=(nothing)"},
