@@ -80,8 +80,9 @@ void MainWindow::clearItemModel() {
                             tr("AudioCodec"), tr("VideoBitRate"), tr("VideoCodec"), tr("VideoFrameRate"),
                             tr("Comment"), tr("Suffix"), tr("Has txt file")});
     const Settings* settings = Settings::instance();
-    restoreHeader(ui->treeView->header(), settings->get(keys::treeViewHeaderState));
-    restoreHeader(ui->tableView->horizontalHeader(), settings->get(keys::tableViewHorizontalHeaderState));
+    restoreMediaHeader(ui->treeView->header(), settings->get(keys::treeViewHeaderState));
+    restoreMediaHeader(ui->tableView->horizontalHeader(),
+                       settings->get(keys::tableViewHorizontalHeaderState));
 }
 
 void MainWindow::addFileItem(const QString& filePath) {

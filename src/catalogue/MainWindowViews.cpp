@@ -29,7 +29,6 @@ namespace {
 
 constexpr QSize smallIconSize(32, 32);
 constexpr qsizetype shownWordCharacters = 60;
-constexpr int firstNameWidth = 220;
 
 void setUpMediaView(QAbstractItemView* view) {
     view->setItemDelegate(new ShortTextDelegate(view));
@@ -218,8 +217,6 @@ void MainWindow::initModels() {
     setMediaModel(ui->listView, _proxyModel);
     setMediaModel(ui->treeView, iconProxyModel);
     setMediaModel(ui->tableView, iconProxyModel);
-    ui->treeView->header()->resizeSection(ColName, firstNameWidth);
-    ui->tableView->horizontalHeader()->resizeSection(ColName, firstNameWidth);
     _selection = new SelectionWatcher(ui->stackedWidget, mediaViews(), this);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "catalogue/MediaModel.h"
+
 #include <QCursor>
 #include <QHeaderView>
 #include <QListView>
@@ -19,6 +21,13 @@ inline bool restoreHeader(QHeaderView* header, const QByteArray& state) {
     if (header->sortIndicatorSection() < 0)
         header->setSortIndicator(-1, Qt::AscendingOrder);
     return isRestored;
+}
+
+// The same for the columns of a scan, which come with the widths of the style.
+inline void restoreMediaHeader(QHeaderView* header, const QByteArray& state) {
+    constexpr int firstNameWidth = 220;
+    if (!restoreHeader(header, state))
+        header->resizeSection(ColName, firstNameWidth);
 }
 
 // Where a context menu opens on the screen: at the place in the view that was asked for, which is the current
