@@ -26,18 +26,17 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTableView>
 #include <QToolButton>
-#include <QTreeView>
 
 namespace {
 
 constexpr QSize mainWindowSize(1240, 740);
 constexpr int stillMs = 400;
+constexpr int sheetWidth = 2000;
+constexpr int themeColumns = 4;
 
 template <typename T>
 T* child(const QWidget* parent, const char* name) {
@@ -71,9 +70,6 @@ Scenes::Scenes(const QString& dataDirectory, const QString& pictureDirectory, Ol
     _driver.click("tBOllamaReconect");
     window()->move(0, 0);
     window()->resize(mainWindowSize);
-    _driver.window().resizeDocks({_driver.widget<QDockWidget>("dockWidget_ImgPreview"),
-                                  _driver.widget<QDockWidget>("dockWidget_Tools")},
-                                 {280, 340}, Qt::Horizontal);
     _driver.window().onImagesSortByFileName();
     QTest::qWait(stillMs);
 }
@@ -128,13 +124,11 @@ void Scenes::views() {
     select({"alpine_lake.png"});
     save("main-window", window());
     showView(1);
-    _driver.widget<QTreeView>("treeView")->setColumnWidth(0, 170);
     select({"pan_noon.mp4"});
     QTest::qWait(1500);
     save("view-tree", window());
     showView(2);
     showTab("tabImageCOmment");
-    _driver.widget<QTableView>("tableView")->setColumnWidth(0, 170);
     select({"alpine_lake.png", "evening_fjord.png"});
     save("view-table", window());
     showView(0);
@@ -224,7 +218,6 @@ void Scenes::model() {
     _driver.window().onInspectSafetensor();
     auto* dialog = toolWindow<SafetensorsDialog>(window());
     dialog->resize(900, 460);
-    child<QSplitter>(dialog, "splitter")->setSizes({480, 400});
     child<QAbstractButton>(dialog, "cBTensor")->click();
     save("inspector", dialog);
     dialog->close();
@@ -244,28 +237,25 @@ void Scenes::exportAndOptions() {
     _driver.window().onOptions();
 }
 
-void Scenes::applyTheme(int theme) {
-    const QList<QAction*> actions = _driver.widget<QMenu>("menu_Themes")->actions();
-    for (QAction* action : actions) {
-        if (action->property("themeId").toInt() == theme)
-            action->trigger();
-    }
-}
-
-// Four themes in one picture, each a quarter of it.
+// All themes of the menu in one picture.
 void Scenes::themes() {
     const QSize size(1100, 640);
     window()->resize(size);
     select({"midnight.png"});
-    QImage all(size * 2, QImage::Format_RGB32);
-    QPainter painter(&all);
-    int place = 0;
-    for (const int theme : {5, 13, 7, 18}) {
-        applyTheme(theme);
-        painter.drawImage((place % 2) * size.width(), (place / 2) * size.height(), seen(window()));
-        ++place;
+    const QList<QAction*> actions = _driver.widget<QMenu>("menu_Themes")->actions();
+    const int rows = int(actions.size() + themeColumns - 1) / themeColumns;
+    const QSize tile = size.scaled(sheetWidth / themeColumns, size.height(), Qt::KeepAspectRatio);
+    QImage sheet(sheetWidth, rows * tile.height(), QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    for (qsizetype place = 0; place < actions.size(); ++place) {
+        actions.at(place)->trigger();
+        const QPoint corner(int(place) % themeColumns * tile.width(),
+                            int(place) / themeColumns * tile.height());
+        painter.drawImage(corner,
+                          seen(window()).scaled(tile, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     painter.end();
-    if (!all.scaledToWidth(1600, Qt::SmoothTransformation).save(_pictures + "/themes.png"))
+    if (!sheet.save(_pictures + "/themes.png"))
         qFatal("cannot write the themes");
 }

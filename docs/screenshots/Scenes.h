@@ -28,7 +28,6 @@ private:
     void showView(int page);
     void select(const QStringList& fileNames);
     void showTab(const char* tab);
-    void applyTheme(int theme);
     [[nodiscard]] QImage seen(QWidget* widget) const;
     void save(const QString& name, QWidget* widget) const;
     [[nodiscard]] QWidget* window() { return &_driver.window(); }
