@@ -151,8 +151,10 @@ QImage ImageDSP::blurred(const QImage& image, const QRect& rect, int radius, boo
     const quint16 alpha = blurWeight(radius);
     if (area.isEmpty() || alpha == kNoBlurWeight)
         return result;
+    // A view of foreign rows gets rows of its own here, of another length.
+    uchar* const bits = result.bits();
     const qsizetype stride = result.bytesPerLine();
-    uchar* const topLeft = result.bits() + area.top() * stride + qsizetype{4} * area.left();
+    uchar* const topLeft = bits + area.top() * stride + qsizetype{4} * area.left();
     if (alphaOnly) {
         blurAlpha(topLeft, stride, area.width(), area.height(), alpha);
         return result;
