@@ -1,5 +1,4 @@
 #include "safetensors/JsonParser.h"
-#include "safetensors/JsonString.h"
 #include "support/Rows.h"
 
 #include <bit>
@@ -50,13 +49,6 @@ std::string repeated(const std::string& text, int times) {
     return QByteArray::fromStdString(text).repeated(times).toStdString();
 }
 
-// What the decoder says of a string in quotes.
-std::string stringError(const std::string& quoted) {
-    JsonStringDecoder decoder;
-    std::string out;
-    return decoder.decode(quoted, out) ? "" : std::string(decoder.error());
-}
-
 const std::string invalid = "invalid token";
 const std::string corrupted = "input is corrupted";
 const std::string undefined = "undefined";
@@ -76,38 +68,33 @@ private slots:
             {"text after NUL does not exist", "[1\0,2]"s, corrupted},
             // Space and terminators.
             {"empty object with blanks", "{ \t}", "{}"},
-            {"empty array with line ends", " [\r\n]", "[]"},
-            {"blanks around the colon", "{\"a\" : 1 }", "{a:1}"},
             {"tab before a comma", "[1\t,2]", invalid},
-            {"tab after a literal", "[true\t]", undefined},
             {"trailing comma in an array", "[1,2,]", invalid},
-            {"trailing comma in an object", "{\"a\":1,}", invalid},
             {"array ends after bracket", "[ ", corrupted},
-            {"object ends after brace", "{ ", corrupted},
-            {"object ends after member", "{\"a\":1", corrupted},
             {"key without quotes", "{a:1}", invalid},
             {"key order is kept", R"({"b":1,"a":2})", "{b:1,a:2}"},
-            {"same key on two levels", R"({"a":{"a":1}})", "{a:{a:1}}"},
             {"duplicated key by escape", R"({"a":1,"\u0061":2})", duplicated},
             {"duplicate goes before a later error", R"({"a":1,"a":2 x)", duplicated},
             // Literals and numbers.
             {"literal at the end", "true\0x"s, "true"},
-            {"literal too long", "truex", undefined},
             {"plus sign", "+1", invalid},
             {"point last", "1.", invalid},
             {"exponent without digits", "1e", invalid},
-            {"upper-case exponent", "1E5", invalid},
-            {"hexadecimal without digits", "0x", invalid},
             {"hexadecimal with a wrong digit", "0x1G", invalid},
             // Strings.
             {"string without end", "\"abc", invalid},
-            {"string that ends in a backslash", "\"abc\\", invalid},
             {"string that ends in an escaped quote", "\"abc\\\"", invalid},
-            {"string before a letter", "\"abc\"d", invalid},
             {"string with NUL", "\"a\0b\""s, invalid},
             {"raw line feed", "\"a\nb\"", invalid},
             {"all short escapes", "\"\\\"\\\\\\/\\b\\f\\n\\r\\t\"", "\"\"\\/\b\f\n\r\t\""},
             {"escaped NUL", R"("a\u0000b")", "\"a\0b\""s},
+            {"escapes of two, three and four bytes", R"("\u00e9\u4e2d\ud83d\ude00")", "\"é中😀\""},
+            {"unknown escape", R"("\x")", invalid},
+            {"three digits", R"("\u123")", invalid},
+            {"no hex digit", R"("\u00g0")", invalid},
+            {"low half alone", R"("\uDC00")", invalid},
+            {"high half before a letter", R"("\uD800a")", invalid},
+            {"high half before a code above both", R"("\uD800\uE000")", invalid},
         });
     }
     void values() {
@@ -116,7 +103,6 @@ private slots:
     }
 
     void numbers_data() {
-        constexpr double infinity = std::numeric_limits<double>::infinity();
         constexpr double denormal = std::numeric_limits<double>::denorm_min();
         const std::string zeros(900, '0');
         const std::string halfway = "9007199254740993"; // between two doubles, the lower one is even
@@ -124,24 +110,16 @@ private slots:
         std::snprintf(halfDenormal, sizeof halfDenormal, "%.1075Lf", std::ldexp(1.0L, -1075));
         addRows<std::string, double>({
             {"negative zero", "-0", -0.0},
-            {"minus alone", "-", -0.0},
             {"leading zeros", "007", 7},
             {"hexadecimal", "-0xF", -0.0},
             {"tie goes to even", halfway, 9007199254740992.0},
-            {"tie and zeros stay a tie", halfway + "." + zeros, 9007199254740992.0},
             {"tie and a digit past the kept ones", halfway + "." + zeros + "1", 9007199254740994.0},
-            {"past unsigned 64 bits", "18446744073709551616", 18446744073709551616.0},
             {"800 digits behind the point", "0." + std::string(800, '3'), 1.0 / 3},
             {"largest double", "1.7976931348623157e308", std::numeric_limits<double>::max()},
-            {"half a step above the largest", "1.7976931348623159e308", infinity},
-            {"too small and negative", "-0." + zeros + "1", -0.0},
-            {"smallest denormal", "0." + std::string(323, '0') + "5", denormal},
             {"half the smallest denormal", halfDenormal, 0},
             {"a little more than that", halfDenormal + zeros + "1", denormal},
             {"zero with a huge exponent", "0e99999999999", 0},
-            {"huge exponent", "1e99999999999999999999", infinity},
             {"exponent of 65536 meets its zeros", "0." + std::string(65535, '0') + "1e65536", 1},
-            {"exponent digits past the limit", "0." + std::string(65535, '0') + "1e655361", 1},
         });
     }
     void numbers() {
@@ -153,41 +131,6 @@ private slots:
         QCOMPARE(std::bit_cast<quint64>(*value.number()), std::bit_cast<quint64>(expected));
     }
 
-    void stringErrors_data() {
-        const std::string digits = "invalid string: '\\u' must be followed by 4 hex digits";
-        const std::string low = "invalid string: surrogate U+D800..U+DBFF must be followed by U+DC00..U+DFFF";
-        const std::string high = "invalid string: surrogate U+DC00..U+DFFF must follow U+D800..U+DBFF";
-        addRows<std::string, std::string>({
-            {"no quote", "a\"", "first character must be '\"'"},
-            {"no closing quote", "\"a", "invalid string: missing closing quote"},
-            {"unknown escape", R"("\x")", "invalid string: forbidden character after backslash"},
-            {"three digits", R"("\u123")", digits},
-            {"no hex digit", R"("\u00g0")", digits},
-            {"low half alone", R"("\uDC00")", high},
-            {"high half before a letter", R"("\uD800a")", low},
-            {"high half before a code above both", R"("\uD800\uE000")", low},
-        });
-    }
-    void stringErrors() {
-        const auto& [quoted, expected] = row<std::string, std::string>();
-        QCOMPARE(stringError(quoted), expected);
-        QCOMPARE(parsed(quoted), invalid);
-    }
-
-    // Code points of all lengths, plain and by escapes.
-    void codePointsAreEncoded() {
-        for (char32_t code = QChar::LastValidCodePoint; code >= 0x20; code -= code > 0x11000 ? 0xFFF : 1) {
-            const QString text = QString::fromUcs4(&code, 1);
-            if (QChar::isSurrogate(code) || code == '"' || code == '\\')
-                continue;
-            std::string escaped;
-            for (const QChar half : text)
-                escaped += QString("\\u%1").arg(int(half.unicode()), 4, 16, QChar('0')).toStdString();
-            QCOMPARE(parsed('"' + escaped + '"'), '"' + text.toStdString() + '"');
-            QCOMPARE(parsed('"' + text.toStdString() + '"'), '"' + text.toStdString() + '"');
-        }
-    }
-
     // Every first and second byte, with none to two plain ones after them.
     void sequencesAreChecked() {
         for (int bytes = 0x8000; bytes <= 0xFFFF; ++bytes) {
@@ -195,10 +138,8 @@ private slots:
             if (const char second = text[1]; second >= 0 && (second < ' ' || second == '"' || second == '\\'))
                 continue;
             for (int length = 2; length <= 4; ++length, text += '\x80')
-                QCOMPARE(stringError('"' + text + '"'),
-                         QByteArrayView(text).isValidUtf8() ? "" : "invalid string: ill-formed UTF-8 byte");
+                QCOMPARE(parsed('"' + text + '"') != invalid, QByteArrayView(text).isValidUtf8());
         }
-        QCOMPARE(stringError("\"\xE1\x80\xC0\""), "invalid string: ill-formed UTF-8 byte");
     }
 
     void nestingIsLimited() {
@@ -208,29 +149,6 @@ private slots:
         QCOMPARE(parsed(repeated("[[],", 600)), corrupted);
         QCOMPARE(parsed(repeated("{\"a\":", 10'000'000)), corrupted);
         QCOMPARE(parsed("[" + repeated("[],", 600) + "0]").size(), 1U + 600 * 3 + 2);
-    }
-
-    void orderedDictKeepsFirstPlaces() {
-        OrderedDict<int> dict;
-        std::vector<std::string> keys;
-        for (int i = 0; i < 100; ++i) {
-            keys.push_back(std::to_string(i * 37 % 100)); // sorted at first, then not
-            dict.insert(keys.back(), i);
-            QVERIFY(!dict.insertNew(keys[static_cast<std::size_t>(i) / 2], 5));
-        }
-        dict.insert("37", -1);
-        const OrderedDict<int> copy = dict;
-        QCOMPARE(copy.size(), 100U);
-        QCOMPARE(copy.keys(), keys);
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            int value = 0;
-            QVERIFY(copy.at(i, value) && copy.count(keys[i]));
-            QCOMPARE(value, i == 1 ? -1 : int(i));
-            QCOMPARE(*copy.find(keys[i]), value);
-        }
-        int untouched = 7;
-        QVERIFY(!copy.at(100, untouched) && !copy.count("100"));
-        QCOMPARE(untouched, 7);
     }
 };
 
