@@ -1,43 +1,17 @@
-#include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
+#include "app/services/ThemePalettes.h"
 #include "app/services/Themes.h"
-#include "support/MediaFolder.h"
 #include "support/Rows.h"
 #include "support/WindowDriver.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QMenu>
-#include <QSettings>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QToolBar>
 
 namespace {
-
-// The colours of the roles of a text like "Window 353535, Text ffffff/ffffff/808080" (active, inactive,
-// disabled).
-QString colorsOf(const QPalette& palette, const QString& roles) {
-    QStringList entries;
-    for (const QString& entry : roles.split(", ")) {
-        const QString role = entry.section(' ', 0, 0);
-        QStringList colors;
-        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-            const int number = QMetaEnum::fromType<QPalette::ColorRole>().keyToValue(qPrintable(role));
-            colors << palette.color(group, static_cast<QPalette::ColorRole>(number)).name().sliced(1);
-        }
-        entries << role + ' ' + (colors.count(colors.first()) == 3 ? colors.first() : colors.join('/'));
-    }
-    return entries.join(", ");
-}
-
-// A look that no theme has.
-QPalette foreignLook() {
-    QApplication::setStyle(QStyleFactory::create("Windows"));
-    QApplication::setPalette(QPalette(Qt::magenta));
-    return QApplication::palette();
-}
 
 // The one colour of an icon's opaque pixels; invalid if there are several.
 QColor flatColor(const QIcon& icon) {
@@ -50,83 +24,53 @@ QColor flatColor(const QIcon& icon) {
     return found.size() == 1 ? QColor(*found.begin()) : QColor();
 }
 
-QAction* entry(const QList<QAction*>& actions, Themes::Theme theme) {
-    for (QAction* action : actions)
-        if (action->property("themeId").toInt() == theme)
-            return action;
-    qFatal("no entry of theme %d", theme);
-}
-
 } // namespace
 
-// How the themes look, what the menu offers, and that a choice is kept.
+// Each theme chosen from the menu: its look, its icons, and that it comes back with the next start.
 class TestThemes : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { _systemPalette = QApplication::palette(); }
-    void init() {
-        WindowDriver::forgetSettings();
-        foreignLook();
+    void palettesHaveTheirColours() {
+        QCryptographicHash colours(QCryptographicHash::Md5);
+        for (int theme = Themes::NONE; theme <= Themes::PLASTIQUE; ++theme) {
+            const QPalette palette = themePalette(static_cast<Themes::Theme>(theme));
+            for (int number = 0; number < QPalette::NColorRoles; ++number) {
+                const auto role = static_cast<QPalette::ColorRole>(number);
+                for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+                    if (palette.isBrushSet(group, role))
+                        colours.addData(palette.color(group, role).name(QColor::HexArgb).toLatin1());
+                }
+            }
+        }
+        QCOMPARE(colours.result().toHex(), QByteArray("e940e29c69bd0138774f3df711a62963"));
     }
-    void cleanup() { Themes::destroyInstance(); }
 
-    void themesOfTheStyleTakeItsColors_data() {
-        const auto paletteOf = [](const char* style) {
-            return std::unique_ptr<QStyle>(QStyleFactory::create(style))->standardPalette();
-        };
-        addRows<Themes::Theme, QString, QPalette>({
-            {"the system's", Themes::NONE, "fusion", _systemPalette},
-            {"Windows 11 elsewhere", Themes::Windows11, "windows", _systemPalette},
-            {"light Fusion", Themes::LIGHT_Fusion, "fusion", paletteOf("Fusion")},
+    void choicesComeBack_data() {
+        addRows<Themes::Theme, QString, QColor, QColor>({
+            {"green", Themes::EMERALD, "fusion", QColor(0x0f513b), QColor(100, 200, 100)},
+            {"light", Themes::PIZZABROWN, "fusion", QColor(0xbc643c), Qt::black},
+            {"dark", Themes::DARKFUSION, "fusion", QColor(0x4b4b4b), Qt::white},
+            {"red", Themes::RUBY, "fusion", QColor(0xac151f), QColor(200, 100, 100)},
         });
     }
-    void themesOfTheStyleTakeItsColors() {
-        const auto& [theme, style, palette] = row<Themes::Theme, QString, QPalette>();
-        Themes::instance()->setTheme(theme);
-        QCOMPARE(QApplication::style()->name(), style);
-        const QString roles = "Window, Button, Dark";
-        QCOMPARE(colorsOf(QApplication::palette(), roles), colorsOf(palette, roles));
-        QVERIFY(!Themes::instance()->isDarkTheme());
-    }
-
-    void aChoiceSurvivesARestartInAllWindows() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        {
-            const WindowDriver driver(folder.path());
-            const auto actions = driver.widget<QMenu>("menu_Themes")->actions();
-            entry(actions, Themes::EMERALD)->trigger();
-            const QAction* tool = driver.widget<QToolBar>("toolBar")->actions().first();
-            QCOMPARE(flatColor(tool->icon()), QColor(100, 200, 100));
-            entry(actions, Themes::PIZZABROWN)->trigger();
-            QCOMPARE(flatColor(tool->icon()), QColor(Qt::black));
-            entry(actions, Themes::DARKFUSION)->trigger();
-            QCOMPARE(flatColor(tool->icon()), QColor(Qt::white));
-            entry(actions, Themes::RUBY)->trigger();
-            QCOMPARE(flatColor(tool->icon()), QColor(200, 100, 100));
+    void choicesComeBack() {
+        const auto& [theme, style, highlight, icons] = row<Themes::Theme, QString, QColor, QColor>();
+        WindowDriver::forgetSettings();
+        WindowDriver driver;
+        for (QAction* action : driver.widget<QMenu>("menu_Themes")->actions()) {
+            if (action->property("themeId").toInt() == theme)
+                action->trigger();
         }
-        foreignLook();
-        const WindowDriver driver(folder.path());
-        QCOMPARE(QApplication::palette().color(QPalette::Highlight), QColor(0xac151f));
-        QCOMPARE(QApplication::style()->name(), QString("fusion"));
-        QVERIFY(entry(driver.widget<QMenu>("menu_Themes")->actions(), Themes::RUBY)->isChecked());
-        for (const char* name : {"tBSaveTags", "pBOllamaGo", "tBAddEffect"})
-            QCOMPARE(flatColor(driver.widget<QAbstractButton>(name)->icon()), QColor(200, 100, 100));
+        for (const bool isRestarted : {false, true}) {
+            if (isRestarted)
+                driver.restart();
+            QCOMPARE(QApplication::style()->name(), style);
+            QCOMPARE(QApplication::palette().color(QPalette::Highlight), highlight);
+            QCOMPARE(flatColor(driver.widget<QToolBar>("toolBar")->actions().first()->icon()), icons);
+            QCOMPARE(flatColor(driver.widget<QAbstractButton>("tBSaveTags")->icon()), icons);
+        }
     }
-
-    void aStoredNumberThatIsNoThemeIsKept() {
-        constexpr int number = 20;
-        QSettings(QCoreApplication::applicationDirPath() + "/settings.data", QSettings::IniFormat)
-            .setValue("settingsData", QVariantHash{{keys::appTheme.key, number}});
-        const QPalette look = foreignLook();
-        const WindowDriver driver;
-        QCOMPARE(QApplication::palette(), look);
-        QCOMPARE(Settings::instance()->data(keys::appTheme.key).toInt(), number);
-    }
-
-private:
-    QPalette _systemPalette;
 };
 
 QTEST_MAIN(TestThemes)
