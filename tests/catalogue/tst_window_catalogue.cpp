@@ -4,7 +4,6 @@
 #include "support/WindowDriver.h"
 
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QListView>
 #include <QStyledItemDelegate>
 #include <QTreeView>
@@ -65,17 +64,6 @@ private slots:
         choose("Hide", ColSize);
         driver.rescan();
         QVERIFY(!header->isSectionHidden(ColSize));
-    }
-
-    void theListTakesNoDrags() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        WindowDriver driver(folder.path());
-        driver.select({"a.png"});
-        for (const char* entry : {"&View/&List simple", "&View/&Icon"}) {
-            QVERIFY(driver.chooseFromMediaMenu(entry));
-            QCOMPARE(driver.widget<QListView>("listView")->dragDropMode(), QAbstractItemView::NoDragDrop);
-        }
     }
 };
 

@@ -1,11 +1,8 @@
-#include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/MediaModel.h"
 #include "support/MediaFolder.h"
 #include "support/ModalAnswer.h"
 #include "support/WindowDriver.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QLineEdit>
 #include <QProcess>
@@ -56,35 +53,6 @@ private slots:
                                  30000);
     }
 
-    void deletingGoesToTheTrash() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        folder.addImage("b.png");
-        folder.addTags("a.png", "x");
-        WindowDriver driver(folder.path());
-        driver.select({"a.png"});
-        {
-            const ModalAnswer answer(QMessageBox::Cancel);
-            QVERIFY(driver.chooseFromMediaMenu("&Delete file"));
-            QCOMPARE(answer.text(), QString("Delete files."));
-            QCOMPARE(answer.informativeText(), QString("Do you want to delete 1 files?"));
-        }
-        QVERIFY(folder.exists("a.png"));
-        const ModalAnswer answer(QMessageBox::Ok);
-        QVERIFY(driver.chooseFromMediaMenu("&Delete file"));
-        QVERIFY(!folder.exists("a.png") && folder.exists("a.txt"));
-        QCOMPARE(driver.catalogueNames(), QStringList("b.png"));
-        QVERIFY(driver.tagTexts("lwAllImagesTags").isEmpty());
-
-        folder.addFile("b.txt", "kept");
-        folder.addFile("a_backup_0.txt", "stray");
-        driver.select({"b.png"});
-        QVERIFY(driver.chooseFromMediaMenu("&Delete stray txt files"));
-        QTRY_COMPARE(WindowDriver::logCount("Found 2 stray txt files, moved to trash bin."), 1);
-        QCOMPARE(WindowDriver::logCount("unable to move file to trash"), 0);
-        QCOMPARE(folder.names(), QStringList({"b.png", "b.txt"}));
-    }
-
     void changingTheDirectoryAsks() {
         const MediaFolder first;
         const MediaFolder second;
@@ -111,13 +79,6 @@ private slots:
         second.addImage("seen.png");
         QTRY_COMPARE(driver.catalogueNames(), QStringList({"second.png", "seen.png"}));
     }
-
-public slots:
-    // Stands in for the desktop.
-    void openUrl(const QUrl& url) { _openedUrls.append(url); }
-
-private:
-    QList<QUrl> _openedUrls;
 };
 
 QTEST_MAIN(TestWindowFiles)

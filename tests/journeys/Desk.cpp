@@ -14,10 +14,8 @@
 #include <QDirIterator>
 #include <QDockWidget>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QInputDialog>
-#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -205,6 +203,8 @@ QString Desk::perform(const Step& step) {
         WindowDriver::settle();
     }
     Facts expected = before;
+    if (parts.first().startsWith("select ") && !parts.first().contains(" in "))
+        expected.insert(selectionFacts(parts.first().section(' ', 1).split('|')));
     QStringList chosenByWindow;
     for (const QString& change : QString::fromUtf8(step.changes).split(" ; ", Qt::SkipEmptyParts)) {
         const QString value = change.section('=', 1);
@@ -215,6 +215,7 @@ QString Desk::perform(const Step& step) {
         else
             expected[change.section('=', 0, 0)] = value;
     }
+    expected.removeIf([](const Facts::iterator& fact) { return fact.value().isEmpty(); });
     QString differs;
     const bool isSame = QTest::qWaitFor(
         [&] {
@@ -243,6 +244,31 @@ QString Desk::perform(const Step& step) {
         return {};
     }
     return isSame ? QString() : differs;
+}
+
+// What a selection shows of the files. The tags of their record, and what clips tell, are left to the step.
+Facts Desk::selectionFacts(QStringList names) const {
+    Facts facts;
+    facts["labelCurrentSelectionTags"] = QString("Current selection [%1] tags:").arg(names.size());
+    facts["statusbar"] = QString("Selected: %1 items").arg(names.size());
+    facts["selected"] = names.join('|');
+    const QString txtName = names[0].section('.', 0, -2) + ".txt";
+    facts["labelTagsFromFile"] =
+        (folder.exists(txtName) ? "File: FOLDER/" : "File tag, txt, missing for: FOLDER/") + txtName;
+    facts["pTETagsFromFile"] = plain(folder.content(txtName));
+    if (const QImage image(folder.filePath(names[0])); !image.isNull()) {
+        facts["dockWidget_ImgPreview"] =
+            QString("Image %1x%2 preview").arg(image.width()).arg(image.height());
+        facts["imgWidget"] = middleColour(image);
+        facts["stackedWidgetMediaPreview"] = "page 0";
+        for (QString& name : names) {
+            const QImage selected(folder.filePath(name));
+            for (const QString& key : selected.textKeys())
+                name += '|' + key + ": " + selected.text(key);
+        }
+        facts["tWComments"] = names.join('|');
+    }
+    return facts;
 }
 
 // Its last message must not come in the middle of the next step.
@@ -285,7 +311,11 @@ void Desk::act(const QString& what) {
         driver.select(what.section(' ', 1).split('|', Qt::SkipEmptyParts));
     } else if (parts[0] == "press") {
         const QKeySequence keys(parts[1]);
-        QTest::keyClick(widget(parts[3]), keys[0].key(), keys[0].keyboardModifiers());
+        QWidget* target = widget(parts[3]);
+        target->activateWindow();
+        static_cast<void>(QTest::qWaitForWindowActive(target->window()));
+        target->setFocus();
+        QTest::keyClick(target, keys[0].key(), keys[0].keyboardModifiers());
     } else if (parts[0] == "write") {
         const QStringList size = parts[3].split('x');
         folder.addImage(parts[1], QSize(size[0].toInt(), size[1].toInt()), QColor(parts[2]));
@@ -301,7 +331,10 @@ void Desk::act(const QString& what) {
         else if (auto* tabs = qobject_cast<QTabWidget*>(target))
             tabs->setCurrentIndex(value.toInt());
         else
-            target->setProperty(target->property("value").isValid() ? "value" : "text", value);
+            target->setProperty(target->property("value").isValid()  ? "value"
+                                : target->property("text").isValid() ? "text"
+                                                                     : "checked",
+                                value);
     } else if (auto* tool = qobject_cast<QToolButton*>(
                    what.contains(" > ") ? widget(what.section(" > ", 0, 0)) : nullptr)) {
         _used.insert(tool->objectName());

@@ -19,7 +19,8 @@ class QWidget;
 //   NAME                     clicks a button or triggers an action
 //   NAME = VALUE             sets a line, a box, a slider or a list's current entry
 //   NAME > ENTRY             picks an entry of a context menu, "&Sort/&Name" of a submenu
-//   select A|B               selects rows, or items of a list by "select A|B in NAME"
+//   select A|B               selects rows, whose files tell most of what it changes, or items of a list by
+//                            "select A|B in NAME"
 //   press KEYS in NAME       a key or a shortcut
 //   write FILE COLOUR WxH    what another program does; also: remove FILE
 //   restart
@@ -62,6 +63,7 @@ public slots:
 
 private:
     [[nodiscard]] QString perform(const Step& step);
+    [[nodiscard]] Facts selectionFacts(QStringList names) const;
     [[nodiscard]] bool isLoadOver() const;
     [[nodiscard]] static Facts withWindows(Facts expected, const Facts& before, const Facts& now);
     void act(const QString& what);

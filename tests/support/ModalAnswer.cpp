@@ -72,17 +72,13 @@ void ModalAnswer::timerEvent(QTimerEvent* event) {
 
 void ModalAnswer::answerDialog(QDialog* dialog) {
     _isUsed = true;
-    if (const auto* box = qobject_cast<QMessageBox*>(dialog)) {
+    if (const auto* box = qobject_cast<QMessageBox*>(dialog))
         _text = box->text();
-        _informativeText = box->informativeText();
-    }
     _dialogAnswer(dialog);
 }
 
 void ModalAnswer::answerMenu(QMenu* menu) {
     _isUsed = true;
-    for (const QAction* action : menu->actions())
-        _menuEntries.append(action->isSeparator() ? QString("-") : action->text());
     _menuAnswer(menu);
 }
 

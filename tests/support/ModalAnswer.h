@@ -28,8 +28,6 @@ public:
     // Whether the window came and was answered, and the texts of a message box.
     [[nodiscard]] bool isUsed() const { return _isUsed; }
     [[nodiscard]] QString text() const { return _text; }
-    [[nodiscard]] QString informativeText() const { return _informativeText; }
-    [[nodiscard]] QStringList menuEntries() const { return _menuEntries; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -42,8 +40,6 @@ private:
     MenuAnswer _menuAnswer;
     bool _isUsed = false;
     QString _text;
-    QString _informativeText;
-    QStringList _menuEntries;
 };
 
 // Types a path into the next file dialog and accepts it; an empty path cancels.

@@ -220,9 +220,3 @@ QStringList WindowDriver::tagTexts(const char* listName, bool onlySelected) cons
     }
     return texts;
 }
-
-bool WindowDriver::chooseFromMediaMenu(const QString& entry) const {
-    const ModalAnswer answer(entry);
-    _window->onImagesCustomContextMenu();
-    return answer.isUsed();
-}

@@ -71,9 +71,6 @@ public:
     void select(const QStringList& fileNames) const;
     [[nodiscard]] QStringList tagTexts(const char* listName, bool onlySelected = false) const;
 
-    // Opens the context menu of the media views and picks an entry.
-    bool chooseFromMediaMenu(const QString& entry) const;
-
 private:
     std::unique_ptr<MainWindow> _window;
     qsizetype _readLog = 0;
