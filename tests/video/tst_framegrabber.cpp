@@ -5,12 +5,9 @@
 #include "support/ModalAnswer.h"
 
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
-#include <QVideoSink>
 
 // Position in milliseconds and frame number.
 using Frames = QList<std::pair<int, int>>;
@@ -52,35 +49,6 @@ private slots:
         QTRY_COMPARE(player->mediaStatus(), QMediaPlayer::InvalidMedia);
         QCoreApplication::processEvents();
         QCOMPARE(items(), expected);
-    }
-
-    void selectedFramesAreAddedAndRemoved() {
-        QSignalSpy frames(_grabber.get(), &VideoWidgetFrameGrabber::addFrames);
-        _grabber->onAddAll();
-        QVERIFY(frames.isEmpty());
-        set(1, 3);
-        grab("h264.mp4");
-        QTRY_COMPARE(list()->count(), 3);
-        set(1, 1);
-        chooseClips({"theora.ogv"});
-        QTRY_COMPARE(list()->count(), 4);
-        list()->item(3)->setSelected(true);
-        list()->item(1)->setSelected(true);
-        emit list() -> customContextMenuRequested({});
-        QHash<QString, QAction*> entries;
-        for (QAction* entry : _grabber->findChild<QMenu*>()->actions())
-            entries.insert(entry->text(), entry);
-        QVERIFY(entries.contains("Add &all"));
-        entries["Add &selected"]->trigger();
-        QStringList added;
-        for (const QVariantList& signal : std::as_const(frames))
-            for (const QImage& frame : signal.at(0).value<QList<QImage>>())
-                added << QString::number(frameNumber(frame)) + ' ' + signal.at(1).toString();
-        QCOMPARE(added, (QStringList{"166 " + clipPath("h264.mp4"), "24 " + _folder.filePath("theora.ogv")}));
-        entries["&Remove selected"]->trigger();
-        QCOMPARE(items(), (Frames{{1, 0}, {9999, 249}}));
-        entries["&Clear"]->trigger();
-        QCOMPARE(list()->count(), 0);
     }
 
 private:

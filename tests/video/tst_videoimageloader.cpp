@@ -11,23 +11,6 @@ class TestVideoImageLoader : public QObject {
     Q_OBJECT
 
 private slots:
-    void clipsWithoutPictureFail() {
-        VideoImageLoader loader;
-        QSignalSpy frames(&loader, &VideoImageLoader::imageFrame);
-        QSignalSpy failures(&loader, &VideoImageLoader::failed);
-        for (const char* name :
-             {"text.mp4", "no-index.mp4", "no-picture.mp4", "sound-only.ogg", "no such file.mp4"}) {
-            loader.grabFrame(clipPath(name), 0);
-            QVERIFY(failures.isEmpty()); // never from within
-            QVERIFY(failures.wait(4000));
-            loader.grabFrame(clipPath("mpeg4.avi"), 0);
-            QTRY_COMPARE(frames.count(), 1);
-            QCOMPARE(frames.takeFirst().first().toString(), clipPath("mpeg4.avi"));
-            QCOMPARE(failures, QList<QVariantList>{{clipPath(name)}});
-            failures.clear();
-        }
-    }
-
     void losesPatience() {
         QTcpServer silent;
         QVERIFY(silent.listen(QHostAddress::LocalHost));
@@ -55,24 +38,6 @@ private slots:
             QCOMPARE(names.last(), clipPath("mpeg4.avi"));
         }
         QCOMPARE(numbers, QSet<int>{0});
-    }
-
-    void stoppedLoaderIsSilent() {
-        VideoImageLoader loader;
-        QSignalSpy frames(&loader, &VideoImageLoader::imageFrame);
-        QSignalSpy failures(&loader, &VideoImageLoader::failed);
-        loader.stopPlayer(); // before any job
-        for (const char* name : {"h264.mp4", "text.mp4"}) {
-            loader.grabFrame(clipPath(name), 0);
-            loader.stopPlayer();
-        }
-        VideoImageLoader other;
-        other.setSize({80, 80});
-        QSignalSpy otherFrames(&other, &VideoImageLoader::imageFrame);
-        other.grabFrame(clipPath("rotated.mp4"), 0);
-        QTRY_COMPARE(otherFrames.count(), 1);
-        QCOMPARE(otherFrames.first().at(1).value<QImage>().size(), QSize(32, 80));
-        QVERIFY(frames.isEmpty() && failures.isEmpty());
     }
 };
 

@@ -1,9 +1,9 @@
-#include "video/ProgressBar.h"
 #include "video/VideoPreviewWidget.h"
 
 #include "support/Clips.h"
 
 #include <QAudioOutput>
+#include <QProgressBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -35,19 +35,6 @@ private slots:
         QTRY_COMPARE(player->playbackState(), QMediaPlayer::StoppedState);
         preview.start({});
         QVERIFY(player->source().isEmpty());
-    }
-
-    void seekBarFollowsMouse() {
-        ProgressBar bar;
-        bar.resize(300, 20);
-        bar.setRange(0, 1000);
-        // The value at each place; beyond the ends the one before stays.
-        const std::pair<int, int> places[] = {{150, 500}, {101, 336}, {301, 336}, {-3, 336}, {0, 0}};
-        QTest::mousePress(&bar, Qt::LeftButton, {}, {150, 5});
-        for (const auto& [x, value] : places) {
-            QTest::mouseMove(&bar, {x, 5});
-            QCOMPARE(bar.value(), value);
-        }
     }
 };
 

@@ -10,7 +10,6 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QStatusTipEvent>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QVideoSink>
 #include <QVideoWidget>
@@ -105,31 +104,6 @@ private slots:
         QTRY_COMPARE(frameNumber(picture()), 0);
         QTest::keyClick(_window.get(), Qt::Key_G, Qt::ControlModifier);
         QCOMPARE(saved, QStringList("0"));
-    }
-
-    void walksDirectory() {
-        const QTemporaryDir directory;
-        QStringList all;
-        for (const char* name : {"a.mp4", "b.MP4", "c.mp4", "no video.txt"}) {
-            all << directory.filePath(name);
-            QVERIFY(QFile::copy(clipPath("h264.mp4"), all.last()));
-        }
-        _window->openFile(all.first());
-        QStringList met;
-        for (int i = 0; i < 3; ++i) {
-            button("tBFileNext")->click();
-            met << _player->source().path();
-        }
-        QCOMPARE(met.last(), all.first());
-        button("tBFilePrev")->click();
-        QCOMPARE(_player->source().path(), met.at(1));
-
-        _window->openFile(directory.filePath("gone.mp4"));
-        for (int i = 0; i < 2; ++i) { // then with nothing open
-            button("tBFileNext")->click();
-            QCOMPARE(_window->windowTitle(), "Video editor - ");
-            QVERIFY(_player->source().isEmpty());
-        }
     }
 
     void badMediaAndEmptyWindow() {

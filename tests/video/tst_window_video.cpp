@@ -1,12 +1,8 @@
-#include "app/services/Settings.h"
-#include "app/services/SettingsKeys.h"
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaModel.h"
 #include "support/Clips.h"
 #include "support/MediaFolder.h"
 #include "support/WindowDriver.h"
-#include "video/VideoWidget.h"
-#include "video/VideoWidgetFrameGrabber.h"
 
 #include <QSignalSpy>
 #include <QTransform>
