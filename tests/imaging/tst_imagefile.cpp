@@ -93,19 +93,6 @@ private slots:
             QFile::remove(_folder.filePath(name));
     }
 
-    void placesThatTakeNothing() {
-        QString error;
-        QVERIFY(!writeImageFile(noise(), _folder.filePath("nowhere/a.png"), {}, &error));
-        QCOMPARE(error, QString("Device not writable"));
-    }
-
-    void largeImagesAreDecoded() {
-        constexpr quint64 gibibyte = quint64(1) << 30;
-        QCOMPARE(imageAllocationLimit(0), 1024);
-        QCOMPARE(imageAllocationLimit(5 * gibibyte), 1280);
-        QCOMPARE(imageAllocationLimit(~quint64(0)), 2147483647);
-    }
-
 private:
     MediaFolder _folder;
 };

@@ -1,13 +1,7 @@
 #include "imaging/ImageDSP.h"
 #include "imaging/ImageFilterWidgetBase.h"
-#include "imaging/ImageFilterWidgetSlider.h"
 #include "imaging/ImageFilters.h"
 #include "support/Rows.h"
-
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QSlider>
-#include <QSpinBox>
 
 #include <memory>
 
@@ -29,37 +23,6 @@ class TestImageFilters : public QObject {
     Q_OBJECT
 
 private slots:
-    void rowsStartAsTheTableTells_data() {
-        using Range = QList<int>; // lowest, highest, value
-        addRows<QString, QString, Range, bool>({
-            {"brightness", "brightness", "Brightness", Range{-255, 255, 10}, true},
-            {"contrast", "Contrast", "Contrast", Range{10, 30, 10}, true},
-            {"blur", "BLUR", "Blur", Range{0, 18, 0}, false},
-            {"white point", "WhitePoint", "WhitePoint", Range{0, 255, 255}, false},
-            {"black point", "blackPoint", "BlackPoint", Range{0, 255, 0}, false},
-            {"sharpen", "Sharpen", "Sharpen", Range(), true},
-            {"no such filter", "Nonsense", "Invalid", Range{10, 30, 10}, false},
-        });
-    }
-    void rowsStartAsTheTableTells() {
-        const auto& [name, label, range, applies] = row<QString, QString, QList<int>, bool>();
-        makeRow(name);
-        QCOMPARE(child<QLabel>("labelFiltername")->text(), label);
-        QVERIFY(_row->isFilterEnabled());
-        if (range.isEmpty()) {
-            QVERIFY(!qobject_cast<ImageFilterWidgetSlider*>(_row->optionWidget()));
-        } else {
-            const auto* const slider = child<QSlider>("horizontalSlider");
-            const auto* const box = child<QSpinBox>("spinBox");
-            QCOMPARE(QList<int>({slider->minimum(), slider->maximum(), slider->value()}), range);
-            QCOMPARE(QList<int>({box->minimum(), box->maximum(), box->value()}), range);
-            QVERIFY(child<QDoubleSpinBox>("doubleSpinBox")->isHidden() && !box->isHidden());
-        }
-        const QImage result = apply(colourful());
-        QCOMPARE(_applied, applies);
-        QCOMPARE(result == colourful(), !applies);
-    }
-
     void rowsRunTheirRoutine_data() {
         const QImage image = colourful();
         QImage sharp = image;

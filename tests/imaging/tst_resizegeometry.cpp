@@ -32,13 +32,6 @@ private slots:
         QCOMPARE(result ? std::optional(result->size()) : std::nullopt, size);
     }
 
-    void previewsAreOnlyMadeSmaller() {
-        const QImage image(40, 30, QImage::Format_RGB32);
-        QCOMPARE(reducedToFit(image, {40, 30}).cacheKey(), image.cacheKey());
-        QCOMPARE(reducedToFit(image, {20, 100}).size(), QSize(20, 15));
-        QCOMPARE(reducedToFit(image, {100, 20}).size(), QSize(26, 20));
-    }
-
     void outputDirectories_data() {
         addRows<QString, QString, QString>({
             {"relative", "/data/set", "out", "/data/set/out"},
@@ -50,12 +43,6 @@ private slots:
     void outputDirectories() {
         const auto& [workingPath, text, directory] = row<QString, QString, QString>();
         QCOMPARE(resolveOutputDirectory(workingPath, text), directory);
-    }
-
-    void outputFilesLieFlat() {
-        QCOMPARE(outputFilePath("/data/sub/a.png", "/data"), QString("/data/a.png"));
-        QCOMPARE(outputFilePath("/data/a.png", "/data/."), QString("/data/./a.png"));
-        QCOMPARE(outputFilePath("/data/%2.png", "/out/%1"), QString("/out/%1/%2.png"));
     }
 };
 

@@ -1,17 +1,9 @@
-#include "imaging/ImageFilterWidgetBase.h"
-#include "imaging/ImageFilterWidgetSlider.h"
-#include "imaging/ImageFilters.h"
-#include "imaging/ProfilesEditWidget.h"
 #include "support/MediaFolder.h"
-#include "support/ModalAnswer.h"
-#include "support/Rows.h"
 #include "support/WindowDriver.h"
 
 #include "editor/EditImageWidget.h"
 
 #include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QTabWidget>
 
 // Filter chains, profiles and batch resize as a user runs them.
@@ -57,63 +49,10 @@ private slots:
         QCOMPARE(folder.content("large.png"), large);
     }
 
-    void aSelectionDecodesOnce() {
-        const MediaFolder folder;
-        folder.addImage("cut.jpg", {200, 200});
-        folder.addFile("cut.jpg", folder.content("cut.jpg").chopped(100));
-        WindowDriver driver(folder.path());
-        driver.widget<QTabWidget>("tWTools")->setCurrentIndex(3);
-        // The decoder tells each time that the end is missing.
-        const auto decodings = [] { return WindowDriver::logCount("premature end"); };
-        const qsizetype before = decodings();
-        driver.select({"cut.jpg"});
-        QCOMPARE(decodings(), before + 1);
-        QVERIFY(!driver.widget<EditImageWidget>("imgWidget")->imageSize().isEmpty());
-    }
-
-    void outputsThatCannotBeWritten_data() {
-        addRows<QString, QString, QString>({
-            {"a file in the directory's place", "a.png", "taken", "Device not writable"},
-            {"below a file", "a.png", "taken/deep", "Device not writable"},
-            {"absolute", "a.png", "/proc/nowhere", "Device not writable"},
-            {"in place, without a writer of the format", "a.svg", "", "Unsupported image format"},
-        });
-    }
-    void outputsThatCannotBeWritten() {
-        const auto& [name, output, error] = row<QString, QString, QString>();
-        const MediaFolder folder;
-        folder.addImage("a.png", {8, 8});
-        folder.addFile("a.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>");
-        folder.addFile("taken", "a file");
-        const QByteArray before = folder.content(name);
-        WindowDriver driver(folder.path());
-        addEffect(driver, "Brightness");
-        driver.widget<QLineEdit>("lEDspDirOutput")->setText(output);
-        driver.widget<QLineEdit>("lEScaleDirOutput")->setText(output);
-        driver.select({name});
-        driver.click("pBDspApply");
-        QCOMPARE(driver.statusText(), QString("Filters applied to: 1 files"));
-        driver.click("pBProcessResize");
-        QVERIFY(driver.statusText().startsWith("Resize completed, resized: 1 in "));
-        QCOMPARE(WindowDriver::logCount(name + " error: " + error), 2);
-        QCOMPARE(WindowDriver::logCount("Error, unable to create out path ") > 0, output.contains('/'));
-        QCOMPARE(WindowDriver::logCount("Applied filter to"), 0);
-        QCOMPARE(folder.content("taken"), QByteArray("a file"));
-        QCOMPARE(folder.content(name), before);
-    }
-
 private:
     static void addEffect(WindowDriver& driver, const QString& name) {
         driver.widget<QComboBox>("cBDspEffectsList")->setCurrentText(name);
         driver.click("tBAddEffect");
-    }
-    static ImageFilterWidgetBase* effect(WindowDriver& driver, const QString& name) {
-        auto* list = driver.widget<QListWidget>("lWDspEffects");
-        for (int place = 0; place < list->count(); ++place) {
-            if (list->item(place)->data(Qt::UserRole + 1).toString() == name)
-                return qobject_cast<ImageFilterWidgetBase*>(list->itemWidget(list->item(place)));
-        }
-        qFatal("no row %s", qPrintable(name));
     }
 };
 
