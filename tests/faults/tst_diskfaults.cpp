@@ -8,15 +8,10 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListView>
-#include <QPlainTextEdit>
-#include <QRegularExpression>
-#include <QSpinBox>
 
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <sched.h>
 
 namespace {
@@ -120,22 +115,6 @@ private:
     MediaFolder _folder;
 };
 
-// A limit of the size of files, which every system has; the log stays below it.
-class FileSizeLimit {
-public:
-    FileSizeLimit() {
-        getrlimit(RLIMIT_FSIZE, &_before);
-        const rlimit limit{4 << 20, _before.rlim_max};
-        std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &_before); }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit _before{};
-};
-
 } // namespace
 
 // Every operation of the real window while the disk fails under it.
@@ -181,33 +160,6 @@ private slots:
                 QVERIFY2(disk.sidecar() == "old", operation.name);
             QCoreApplication::processEvents();
         }
-    }
-
-    void aWriteThatFallsShortIsNamed() {
-        const MediaFolder folder;
-        folder.addImage("a.png");
-        folder.addImage("b.bmp", {8, 8});
-        WindowDriver driver(folder.path());
-        const QString text = (QString(99, 't') + '\n').repeated(50'000);
-        const QString txtFileName = folder.filePath("a.txt");
-        driver.window().setImageTags(folder.filePath("a.png"), {text});
-        driver.window().setImageTags(folder.filePath("b.bmp"), {"short"});
-        const FileSizeLimit limit;
-        driver.window().onSaveTags();
-        QCOMPARE(folder.content("b.txt"), QByteArray("short"));
-        QCOMPARE(folder.content("a.txt"), text.first(4 << 20).toUtf8());
-        QVERIFY(WindowDriver::log().contains(QRegularExpression("Failed to write data to txt file:.*" +
-                                                                QRegularExpression::escape(txtFileName))));
-        driver.select({"a.png"});
-        driver.widget<QPlainTextEdit>("pTETagsFromFile")->setPlainText(text);
-        driver.window().onSaveTagTxtFile();
-        QCOMPARE(WindowDriver::logCount("Error, txt file is cut short: \"" + txtFileName), 1);
-        driver.select({"b.bmp"});
-        for (const char* name : {"sBSpecificW", "sBSpecificH"})
-            driver.widget<QSpinBox>(name)->setValue(1500);
-        driver.window().onProcessResize();
-        QCOMPARE(WindowDriver::logCount("Error, unable to write file: " + folder.filePath("./scaled/b.bmp")),
-                 1);
     }
 
     void silentLossIsNamed() {

@@ -8,14 +8,12 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
-#include <QListWidget>
 #include <QMediaPlayer>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTimer>
-#include <QToolButton>
 
 namespace {
 
@@ -80,25 +78,6 @@ const QList<Scene>& scenes() {
     return all;
 }
 
-QString imagePath(const QString& directory, int number) {
-    return QString("%1/%2.png").arg(directory).arg(number);
-}
-
-// The two texts that take turns in a sidecar.
-QString savedText(int number, bool isSecond) {
-    return QString(isSecond ? "second " : "first ").repeated(2000) + QString::number(number);
-}
-
-constexpr int savedFiles = 60;
-
-void saveForEver(MainWindow& window, const QString& directory) {
-    for (bool isSecond = false;; isSecond = !isSecond) {
-        for (int number = 0; number < savedFiles; ++number)
-            window.setImageTags(imagePath(directory, number), {savedText(number, isSecond)});
-        window.onSaveTags();
-    }
-}
-
 // The other process: opens the window on a directory, begins the scene and ends it in the middle.
 int play(const QString& name, const QString& directory, const QString& server) {
     MainWindow window;
@@ -109,19 +88,16 @@ int play(const QString& name, const QString& directory, const QString& server) {
     const auto scene = std::ranges::find_if(scenes(), [&](const Scene& s) { return name == s.name; });
     bool hasBegun = false;
     bool isInside = false;
-    const auto begin = [&](MainWindow& ready) {
-        if (scene == scenes().end())
-            saveForEver(ready, directory);
-        isInside = true;
-        scene->begin(ready);
-    };
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         if (!hasBegun && rows->rowCount() > 0) {
             hasBegun = true;
             window.findChild<QListView*>("listView")->selectAll();
             // In a timer of its own: this one does not fire again before its slot ends.
-            QTimer::singleShot(0, &window, [&] { begin(window); });
+            QTimer::singleShot(0, &window, [&] {
+                isInside = true;
+                scene->begin(window);
+            });
         } else if (isInside && (!scene->isUnderWay || scene->isUnderWay(window))) {
             poll.stop();
             if (scene->isModal)
@@ -148,7 +124,6 @@ private slots:
         for (const Scene& scene : scenes())
             QTest::newRow(scene.name) << QString(scene.name);
     }
-
     void theWindowClosesDuring() {
         QFETCH(QString, scene);
         const MediaFolder folder;
@@ -167,30 +142,6 @@ private slots:
         QCOMPARE(program.exitCode(), 0);
         QVERIFY(QFileInfo(QCoreApplication::applicationDirPath() + "/settings.data").size() > 0);
         QCOMPARE(folder.names(), before);
-    }
-
-    void aKilledSaveCutsOneSidecarAtMost() {
-        const MediaFolder folder;
-        for (int number = 0; number < savedFiles; ++number)
-            folder.addImage(QString("%1.png").arg(number), {4, 4});
-        for (int round = 0; round < 3; ++round) {
-            folder.addFile("0.txt", "before");
-            QProcess program;
-            program.start(QCoreApplication::applicationFilePath(),
-                          {"--play", "save for ever", folder.path(), "http://127.0.0.1:9/"});
-            QTRY_VERIFY_WITH_TIMEOUT(folder.content("0.txt").startsWith("second"), 120000);
-            program.kill();
-            QVERIFY(program.waitForFinished());
-            int cut = 0;
-            for (int number = 0; number < savedFiles; ++number) {
-                const QByteArray text = folder.content(QString("%1.txt").arg(number));
-                const QByteArray first = savedText(number, false).toUtf8();
-                const QByteArray second = savedText(number, true).toUtf8();
-                QVERIFY(first.startsWith(text) || second.startsWith(text));
-                cut += text == first || text == second ? 0 : 1;
-            }
-            QVERIFY2(cut <= 1, qPrintable(QString("%1 sidecars are cut").arg(cut)));
-        }
     }
 };
 
