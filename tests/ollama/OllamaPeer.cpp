@@ -1,11 +1,8 @@
 #include "ollama/OllamaPeer.h"
 
 #include <QTcpSocket>
-#include <QTimer>
 
 namespace {
-
-constexpr int dripMs = 150;
 
 PeerRequest parsedRequest(const QByteArray& head) {
     PeerRequest request;
@@ -16,13 +13,6 @@ PeerRequest parsedRequest(const QByteArray& head) {
         request.headers.insert(line.first(colon).toLower(), line.sliced(colon + 1).trimmed());
     }
     return request;
-}
-
-void drip(QTcpSocket* socket, const QByteArray& bytes) {
-    if (bytes.isEmpty())
-        return;
-    socket->write(bytes.first(1));
-    QTimer::singleShot(dripMs, socket, [socket, bytes] { drip(socket, bytes.sliced(1)); });
 }
 
 } // namespace
@@ -81,9 +71,6 @@ void OllamaPeer::answerTo(QTcpSocket* socket, const Answer& answer) {
         socket->write(head + answer.body);
     } else if (answer.manner == Held) {
         _held.insert(socket, head + answer.body);
-    } else if (answer.manner == Dripping) {
-        socket->write(head);
-        drip(socket, answer.body);
     } else if (answer.manner == Half) {
         socket->write(head + answer.body.first(answer.body.size() / 2));
         socket->disconnectFromHost();

@@ -19,8 +19,8 @@ class OllamaPeer : public QTcpServer {
     Q_OBJECT
 
 public:
-    // Held waits for release(), Silent for ever; Dripping takes 150 ms a byte; Half and Closing hang up.
-    enum Manner { Whole, Held, Silent, Dripping, Half, Closing };
+    // Held waits for release(), Silent for ever; Half and Closing hang up.
+    enum Manner { Whole, Held, Silent, Half, Closing };
 
     struct Answer {
         QByteArray body;

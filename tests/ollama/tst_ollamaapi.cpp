@@ -54,7 +54,6 @@ private slots:
     void badServers_data() {
         addRows<Answer, QString, bool, QString>({
             {"no JSON", {"hello"}, "", true, "illegal number - hello"},
-            {"a slow one", {"  {} ", OllamaPeer::Dripping}, "", true, ""},
             {"an error status",
              {R"({"version":"1","error":""})", OllamaPeer::Whole, "500 Oops"},
              "1",
