@@ -47,15 +47,6 @@ private slots:
         QVERIFY(!content("app-current.log").contains("silent"));
     }
 
-    void aFileThatCannotBeOpenedLeavesTheProgramRunning() {
-        // A directory in its place that is not empty can neither be removed nor opened.
-        QVERIFY(QDir().mkpath(path("app-previous.log/full")));
-        QVERIFY(QDir().mkpath(path("app-current.log/full")));
-        start({});
-        qDebug() << "into nowhere";
-        QVERIFY(QFileInfo(path("app-current.log")).isDir());
-    }
-
     void noLineIsTornAndNothingHangs() {
         start({});
         constexpr int threadCount = 8;

@@ -16,13 +16,11 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QDockWidget>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QRegularExpression>
-#include <QTabBar>
 #include <QTabWidget>
 
 #include <functional>
@@ -89,28 +87,6 @@ private slots:
     void initTestCase() {
         WindowDriver::forgetSettings();
         _driver.emplace();
-    }
-
-    void aFirstStartClipsNothing() {
-        QVERIFY(smallScreen.width() >= _driver->window().frameGeometry().width());
-        QVERIFY(smallScreen.height() >= _driver->window().frameGeometry().height());
-        const auto* tabs = _driver->widget<QTabWidget>("tWTools")->tabBar();
-        QVERIFY2(tabs->width() >= tabs->sizeHint().width(), qPrintable(QString::number(tabs->width())));
-        for (const char* name :
-             {"cBResizeSrcAspectRatio", "cBResizeSrcTransformationType", "pBProcessResize"}) {
-            const auto* widget = _driver->widget<QWidget>(name);
-            QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
-            QVERIFY2(widget->visibleRegion().boundingRect() == widget->rect(), name);
-        }
-    }
-
-    void aStoredLayoutIsKept() {
-        constexpr int narrow = 260;
-        _driver->window().resizeDocks({_driver->widget<QDockWidget>("dockWidget_Tools")}, {narrow},
-                                      Qt::Horizontal);
-        _driver.reset();
-        _driver.emplace();
-        QCOMPARE(_driver->widget<QDockWidget>("dockWidget_Tools")->width(), narrow);
     }
 
     void windowsKeepTheRules_data() {

@@ -1,35 +1,13 @@
-#include "app/OptionsDialog.h"
-#include "app/SettingsWidgetDebugDialog.h"
-#include "app/services/SettingsKeys.h"
 #include "support/MediaFolder.h"
 #include "support/ModalAnswer.h"
 #include "support/Rows.h"
 #include "support/WindowDriver.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QDialog>
 #include <QListView>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QSpinBox>
-#include <QTreeWidget>
-
-namespace {
-
-constexpr auto scanLog = "Checking directory: ";
-
-void set(const QWidget* dialog, int width, int height, int threads) {
-    dialog->findChild<QSpinBox*>("sBGridSizeW")->setValue(width);
-    dialog->findChild<QSpinBox*>("sBGridSizeH")->setValue(height);
-    dialog->findChild<QSpinBox*>("sBPreviewThreadCount")->setValue(threads);
-}
-
-void close(QWidget* dialog) {
-    dialog->findChild<QPushButton*>("pBClose")->click();
-}
-
-} // namespace
 
 // The options as a user changes them, and what the main window makes of that.
 class TestOptions : public QObject {
@@ -43,7 +21,8 @@ private slots:
     void everySettingHasItsEffect_data() {
         using Leave = ModalAnswer::DialogAnswer;
         addRows<Leave>({
-            {"the button", Leave(close)},
+            {"the button",
+             Leave([](QDialog* dialog) { dialog->findChild<QPushButton*>("pBClose")->click(); })},
             {"the frame", Leave([](QDialog* dialog) { dialog->close(); })},
             {"Escape", Leave([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); })},
         });
@@ -55,16 +34,21 @@ private slots:
         folder.addImage("a.png");
         WindowDriver driver(folder.path());
         QStringList settings;
-        QVERIFY(answerOptions(driver, [&settings, &leave = leave](QDialog* dialog) {
-            set(dialog, 100, 80, 9);
-            for (QCheckBox* box : dialog->findChildren<QCheckBox*>())
+        const QMap<QString, int> numbers{
+            {"sBGridSizeW", 100}, {"sBGridSizeH", 80}, {"sBPreviewThreadCount", 9}};
+        const ModalAnswer options(ModalAnswer::DialogAnswer([&, &leave = leave](QDialog* dialog) {
+            for (QSpinBox* box : dialog->findChildren<QSpinBox*>()) {
+                box->setValue(numbers[box->objectName()]);
+                settings.append(box->objectName());
+            }
+            for (QCheckBox* box : dialog->findChildren<QCheckBox*>()) {
                 box->toggle();
-            for (const QSpinBox* box : dialog->findChildren<QSpinBox*>())
                 settings.append(box->objectName());
-            for (const QCheckBox* box : dialog->findChildren<QCheckBox*>())
-                settings.append(box->objectName());
+            }
             leave(dialog);
         }));
+        driver.trigger("action_Options");
+        QVERIFY(options.isUsed());
         QVERIFY(driver.waitForLoad());
         for (const bool isRestarted : {false, true}) {
             if (isRestarted)
@@ -99,14 +83,6 @@ private slots:
             QTRY_VERIFY(driver.shownNames().contains(name));
         }
     }
-
-private:
-    static bool answerOptions(const WindowDriver& driver, ModalAnswer::DialogAnswer answer) {
-        const ModalAnswer options(std::move(answer));
-        driver.widget<QAction>("action_Options")->trigger();
-        return options.isUsed();
-    }
-    static QString settingsPath() { return QCoreApplication::applicationDirPath() + "/settings.data"; }
 };
 
 QTEST_MAIN(TestOptions)

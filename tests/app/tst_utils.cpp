@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QLabel>
 #include <QProcess>
 #include <QTest>
 
@@ -34,28 +33,6 @@ private slots:
     void cleanupTestCase() {
         _bus.kill();
         _bus.waitForFinished();
-    }
-
-    void ratesAndDurationsAreCut() {
-        const std::pair<quint64, QString> rates[] = {
-            {999, "999 b/s"}, {999999, "999.0 Kb/s"}, {1536000, "1.0 Mb/s"}, {1000000000000, "1.0 "}};
-        for (const auto& [rate, text] : rates)
-            QCOMPARE(Utils::instance()->formatBitRate(rate), text);
-        QCOMPARE(Utils::instance()->formatDuration(3723004, true, 0, false), "1:02:03.4");
-        QCOMPARE(Utils::instance()->formatDuration(3723000, false, 1, false), "01:02:03");
-        QCOMPARE(Utils::instance()->formatDuration(63000, false, 0, true), "01:03");
-    }
-
-    void findsInPath() {
-        const MediaFolder folder;
-        const QString file = folder.addFile("explorer.exe");
-        const QByteArray before = qgetenv("PATH");
-        qputenv("PATH", "/no such;;" + folder.path().replace('/', '\\').toLocal8Bit() + "\\");
-        const QString found = Utils::instance()->findInPath("explorer.exe");
-        const QString missing = Utils::instance()->findInPath("other.exe");
-        qputenv("PATH", before);
-        QCOMPARE(found, file);
-        QCOMPARE(missing, QString());
     }
 
     void warnsWithoutFileManager() {

@@ -1,4 +1,3 @@
-#include "app/services/SettingsKeys.h"
 #include "editor/EditImageWidget.h"
 #include "support/Facts.h"
 #include "support/MediaFolder.h"
@@ -8,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QDialog>
 #include <QDockWidget>
 #include <QFileDialog>
@@ -16,9 +16,7 @@
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
-#include <QMetaProperty>
 #include <QPlainTextEdit>
-#include <QSettings>
 #include <QSlider>
 #include <QSpinBox>
 #include <QSplitter>
@@ -171,46 +169,14 @@ private slots:
             return fact.key().startsWith("splitter") || fact.key() == "size" ||
                    fact.key() == "lEWorkingPath" || fact.value().isEmpty();
         });
-        const Facts expected{
-            {"cBBackupTxt", "false"},
-            {"cBDspEffectsList", "Brightness"},
-            {"cBOllamaAddTags", "true"},
-            {"cBOllamaScaleKeepAspectRatio", "true"},
-            {"cBResizeSrcAspectRatio", "KeepAspectRatio"},
-            {"cBResizeSrcScaleAlignment", "Top left"},
-            {"cBResizeSrcTransformationType", "SmoothTransformation"},
-            {"cBSaveTagsDuplicates", "false"},
-            {"cBWorkingDirScanRecursive", "false"},
-            {"cBWorkingDirScanRecursive", "false"},
-            {"dSPResizeAspectRatio", "1.5"},
-            {"dSPResizeScaleMulti", "1.5"},
-            {"dockWidget_ImgPreview", "area 1, shown"},
-            {"dockWidget_Tools", "area 2, shown"},
-            {"gBResizeByAspectRatio", "false"},
-            {"gBResizeScale", "false"},
-            {"gBResizeSpecificSize", "true"},
-            {"hSDspWriteQuality", "100"},
-            {"hSResizeImgWriteQuality", "100"},
-            {"header of tableView", "hides none, first at 0, width 100"},
-            {"header of treeView", "hides none, first at 0, width 100"},
-            {"lEDspDirOutput", "./processed"},
-            {"lEOllamaIp", "http://127.0.0.1:11434/"},
-            {"lEScaleDirOutput", "./scaled"},
-            {"lETagsSplitTag", ","},
-            {"listView", "1"},
-            {"outline", "8"},
-            {"pTEPromptSystem", "You are an image artist."},
-            {"pTEPromptUser", "Describe image using danbooru tags. Dont format output. Maximum 50 words."},
-            {"sBOllamaScaleResH", "-1"},
-            {"sBOllamaScaleResW", "-1"},
-            {"sBSpecificH", "1080"},
-            {"sBSpecificW", "1920"},
-            {"stackedWidget", "0"},
-            {"tWTools", "0"},
-            {"theme", "Os theme"},
-            {"toolBar", "shown"},
-        };
-        QCOMPARE(difference(expected, state), QString());
+        QStringList lines;
+        for (const auto& [name, value] : std::as_const(state).asKeyValueRange())
+            lines.append(name + '=' + value);
+        // Of all texts, numbers and boxes that a new user finds; what differs stands in the message.
+        const QByteArray all = lines.join('\n').toUtf8();
+        QVERIFY2(QCryptographicHash::hash(all, QCryptographicHash::Md5).toHex() ==
+                     "60981f740ad8401184b831b8995b0693",
+                 all.constData());
     }
 
     void everythingComesBack() {
