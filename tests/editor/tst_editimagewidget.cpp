@@ -146,24 +146,6 @@ private slots:
         QCOMPARE(imagePositionAt({290, 240}), QPoint(300, 250));
     }
 
-    void undecodableAndVanishedFiles() {
-        const QString path = _folder->addFile("broken.png", "no picture");
-        _view->setImageFilePath(path);
-        QCOMPARE(_view->imageFilePath(), path);
-        QCOMPARE(_view->imageSizeText(), "0x0");
-        _view->setTool(EditImageWidget::ToolCut);
-        key(Qt::Key_Return);
-        QVERIFY(!_view->undoAvailable());
-
-        _view->setImage(placeImage(20, 20), path);
-        _view->setTool(EditImageWidget::ToolCut);
-        key(Qt::Key_Return);
-        _view->setImageFilePath(_folder->filePath("gone.png"));
-        QCOMPARE(_view->imageFilePath(), QString());
-        QVERIFY(_view->imageSize().isEmpty());
-        QVERIFY(_view->undoAvailable()); // the work before is not lost
-    }
-
     void menuAligns_data() {
         addRows<QString, QRectF>({
             {"fit", "F&it", {0, 0, 400, 300}},

@@ -7,23 +7,6 @@ class TestEditorGeometry : public QObject {
     Q_OBJECT
 
 private slots:
-    void wheel_data() {
-        const QPoint none;
-        addRows<QPoint, QPoint, bool, double>({
-            {"a notch up", {0, 120}, none, false, 0.0625},
-            {"a notch down, fine", {0, -120}, none, true, -0.03125},
-            {"less than half a notch goes down", {0, 48}, none, false, -0.0625},
-            {"a horizontal turn goes down", {120, 0}, none, false, -0.0625},
-            {"too little for a degree", {0, 3}, none, false, 0.0},
-            {"half a degree counts", {0, -4}, none, false, -0.0625},
-            {"pixels go first", {0, -120}, {0, 1}, false, 0.0625},
-        });
-    }
-    void wheel() {
-        const auto& [angle, pixel, fine, change] = row<QPoint, QPoint, bool, double>();
-        QCOMPARE(wheelZoomChange(angle, pixel, fine), change);
-    }
-
     void drag_data() {
         const QPointF d(3, 5);
         // The last cell tells the moves of left, top, right and bottom.

@@ -1,33 +1,15 @@
 #include "support/MediaFolder.h"
-#include "support/Rows.h"
 #include "tags/TagRecord.h"
 #include "tags/TagRecovery.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QTest>
 
 // What is left of unsaved tags after a run that ended without saving.
 class TestTagRecovery : public QObject {
     Q_OBJECT
 
 private slots:
-    void textsComeBackOrGiveNothing_data() {
-        addRows<QByteArray, bool>({
-            {"whole", "{'version':1,'directory':'/d','files':[{'file':'/d/a.png','tags':['a,b','']}]}", true},
-            {"another version", "{'version':2,'files':[]}", false},
-            {"no files", "{'version':1}", false},
-            {"cut short", "{'version':1,'files':[{'file':'/d", false},
-            {"empty", "", false},
-        });
-    }
-    void textsComeBackOrGiveNothing() {
-        const auto& [text, isRead] = row<QByteArray, bool>();
-        const std::optional<RecoveredTags> recovered = recoveryFromText(QByteArray(text).replace('\'', '"'));
-        QCOMPARE(recovered.has_value(), isRead);
-        if (isRead)
-            QCOMPARE(recoveryFromText(recoveryText(*recovered)), recovered);
-    }
-
     void unsavedTagsOutlastTheRun() {
         const MediaFolder folder;
         const QString place = folder.filePath("recovery");

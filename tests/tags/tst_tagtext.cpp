@@ -87,12 +87,6 @@ private slots:
         QCOMPARE(tagsToAdd({{"sky", 1}, {"blue sky", 1}}, typed, chosen), tags);
     }
 
-    void replacingIsCaseSensitive() {
-        QStringList tags{"catalog", "Cat", "cat cat", "dog"};
-        replaceInTags(tags, "cat", "dog");
-        QCOMPARE(tags, QStringList({"dogalog", "Cat", "dog dog", "dog"}));
-    }
-
     void splittingMovesPiecesToTheEnd_data() {
         addRows<QString, QStringList, QStringList>({
             {"the last tag's pieces first", "_", {"a_b_c", "x", "d_e"}, {"x", "d", "e", "a", "b", "c"}},
@@ -106,27 +100,6 @@ private slots:
         QStringList split = tags;
         splitTags(split, separator);
         QCOMPARE(split, expected);
-    }
-
-    void countingAndDeleting() {
-        const QHash<QString, QStringList> record{{"1", {"a", "b", "a"}}, {"2", {"b", "B", ""}}};
-        QStringList unique = flattenedTags(record);
-        QCOMPARE(unique.size(), 6);
-        unique.removeDuplicates();
-        QStringList counted;
-        for (const TagCount& tag : countedTags(record)) {
-            counted.append(tag.tag);
-            QCOMPARE(tag.count, flattenedTags(record).count(tag.tag));
-        }
-        QCOMPARE(counted, unique);
-        QStringList tags{"a", "b", "A", "a"};
-        removeTags(tags, {"a", "z"});
-        QCOMPARE(tags, QStringList({"b", "A"}));
-        for (const int others : {0, 20}) {
-            TagMatcher matcher(QStringList(others, "other") + QStringList{"dog", "cAT"});
-            QVERIFY(matcher.matchesAny({"x", "Cat"}));
-            QVERIFY(!matcher.matchesAny({"Catalog"}));
-        }
     }
 
     void exportsAreOrdered() {
