@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int manyFiles = 1000;
+constexpr int manyFiles = 200;
 
 // What the test of a killed program runs as a process of its own: it edits tags and says when they are kept.
 int editAndWait(const QString& directory) {

@@ -24,15 +24,17 @@ private slots:
         preview.start(path);
         const QSignalSpy errors(player, &QMediaPlayer::errorOccurred);
         QTRY_VERIFY_WITH_TIMEOUT(errors.size() > 1, 20000);
-        QCOMPARE(player->playbackState(), QMediaPlayer::PlayingState);
+        QTRY_COMPARE(player->playbackState(), QMediaPlayer::PlayingState);
         preview.stop(path + "x");
         QVERIFY(!player->source().isEmpty());
         preview.stop(path.toUpper());
         QVERIFY(player->source().isEmpty());
 
+        QSignalSpy states(player, &QMediaPlayer::playbackStateChanged);
         preview.start(clipPath("no-picture.mp4"));
-        QTRY_COMPARE(player->playbackState(), QMediaPlayer::PlayingState);
-        QTRY_COMPARE(player->playbackState(), QMediaPlayer::StoppedState);
+        QTRY_COMPARE(states.size(), 2);
+        QCOMPARE(states.first().first().value<QMediaPlayer::PlaybackState>(), QMediaPlayer::PlayingState);
+        QCOMPARE(player->playbackState(), QMediaPlayer::StoppedState);
         preview.start({});
         QVERIFY(player->source().isEmpty());
     }

@@ -94,7 +94,7 @@ private slots:
         QCOMPARE(WindowDriver::logCount("Error, unable to find model item for:"), 0);
         QSignalSpy loaded(loader, &ImageLoaderThreaded::loadedImage);
         driver.window().openWorkingDirectory(clips.path());
-        QVERIFY(loaded.wait());
+        QTRY_VERIFY_WITH_TIMEOUT(!loaded.isEmpty(), 60000);
         driver.close();
     }
 };
