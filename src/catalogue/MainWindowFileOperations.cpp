@@ -7,6 +7,7 @@
 #include "app/services/Trash.h"
 #include "app/services/Utils.h"
 #include "catalogue/FileNaming.h"
+#include "catalogue/SelectionWatcher.h"
 #include "catalogue/StrayTxtFiles.h"
 #include "ui_MainWindow.h"
 
@@ -132,7 +133,14 @@ void MainWindow::deleteFile() {
         showBlockingProgress(tr("deleted %1/%2").arg(&path - files.data() + 1).arg(files.size()));
     }
     showBlockingProgress({});
-    removeFileItems(files);
+    {
+        // The row that takes the place is selected, for the next decision.
+        const SelectionWatcher::Hold hold(*_selection);
+        const QPersistentModelIndex next = rowAfterSelection();
+        removeFileItems(files);
+        if (next.isValid())
+            selectRow(next.row());
+    }
     // Last, as the rows that are removed change the selection, which has a message of its own.
     for (const QString& error : std::as_const(errors))
         onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(error));

@@ -332,11 +332,25 @@ public:
 
     void deleteFiles(const Arguments&) {
         const ModalAnswer answer(QMessageBox::Ok);
+        // The next row that stays is selected afterwards, the one before at the end.
+        QSet<QString> next;
+        bool isPassed = false;
+        const QStringList shown = driver.shownNames();
+        for (const QString& name : shown) {
+            const bool isSelected = selected().contains(name);
+            if (!isSelected)
+                next = {name};
+            if (isPassed && !isSelected)
+                break;
+            isPassed = isPassed || isSelected;
+        }
         driver.choose(_view.toUtf8().constData(), "&Delete file");
         const QStringList names = selected().values();
         for (const QString& name : names)
             _disk.remove(name);
         removeRows(names);
+        selected() = next;
+        compareSelection();
     }
 
     void sort(const Arguments& entry) {

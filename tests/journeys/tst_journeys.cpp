@@ -157,11 +157,12 @@ private slots:
             {"listView > Refresh -> No", "asked=Refresh FOLDER working directory?"},
             {"listView > &Delete file -> Cancel", "asked=Delete files."},
             {"listView > &Delete file -> OK",
-             "asked=Delete files. ; disk other/b.jpg=(nothing) ; labelCurrentSelectionTags=Current selection "
-             "[0] tags: ; listView=a.png|a.png|a.png|c.png|d.png ; row other/b.jpg=(nothing) ; "
-             "selected=(nothing) ; tBLastResult=deleted 1"},
+             "asked=Delete files. ; disk other/b.jpg=(nothing) ; dockWidget_ImgPreview=* ; imgWidget=* ; "
+             "labelTagsFromFile=* ; listView=a.png|a.png|a.png|c.png|d.png ; row other/b.jpg=(nothing) ; "
+             "selected=* ; tBLastResult=deleted 1 ; tWComments=*"},
             {"tBSrcSelectPath -> Yes, FOLDER/sub",
-             "asked=Change FOLDER working directory?|Select directory ; lEWorkingPath=FOLDER/sub ; "
+             "asked=Change FOLDER working directory?|Select directory ; labelCurrentSelectionTags=Current "
+             "selection [0] tags: ; lEWorkingPath=FOLDER/sub ; selected=(nothing) ; "
              "labelTagsFromFile=* ; listView=a.png|c.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; row "
              "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; "
              "statusbar=(background)"},
@@ -667,12 +668,15 @@ private slots:
              "cyan ; statusbar=(background) ; tBLastResult=imported 1"},
             {"select b.png|c.png", "lwImageTags=fog|dune"},
             {"listView > &Delete file -> OK",
-             "asked=Delete files. ; disk b.png=(nothing) ; disk c.png=(nothing) ; "
-             "labelCurrentSelectionTags=Current selection [0] tags: ; listView=a.png|clip.mp4|clip_TIME.png "
-             "; lwImageTags=(nothing) ; row b.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
-             "statusbar=(background) ; tBLastResult=deleted 2"},
+             "asked=Delete files. ; disk b.png=(nothing) ; disk c.png=(nothing) ; dockWidget_ImgPreview=* ; "
+             "imgWidget=* ; labelCurrentSelectionTags=Current selection [1] tags: ; labelTagsFromFile=* ; "
+             "listView=a.png|clip.mp4|clip_TIME.png ; lwImageTags=* ; pTETagsFromFile=* ; row "
+             "b.png=(nothing) ; row c.png=(nothing) ; selected=* ; statusbar=(background) ; "
+             "tBLastResult=deleted 2 ; tWComments=*"},
             {"tBRefreshOpenFilePath -> Yes",
-             "asked=Refresh FOLDER working directory? ; labelTagsFromFile=* ; pTETagsFromFile=* ; "
+             "asked=Refresh FOLDER working directory? ; labelCurrentSelectionTags=Current selection [0] "
+             "tags: ; "
+             "labelTagsFromFile=* ; lwImageTags=(nothing) ; pTETagsFromFile=* ; selected=(nothing) ; "
              "statusbar=(background) ; tBUnsavedCount=(nothing)"},
             {"write b.png lime 12x12",
              "disk b.png=12x12 lime v3 ; labelTagsFromFile=File: FOLDER/b.txt ; "
