@@ -14,7 +14,9 @@ PreviewResult decodePreview(const QString& filePath, const QSize& size) {
         return {{}, QCoreApplication::translate("ImageLoaderThread", "Unable to allocate image.")};
     }
     PreviewResult result;
-    result.image = reader.read();
+    // Opening a pipe would wait for its writer.
+    if (const QFileInfo info(filePath); !info.exists() || info.isFile() || info.isDir())
+        result.image = reader.read();
     // Scaling a null image would only log a warning of its own.
     if (!result.image.isNull())
         result.image = result.image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);

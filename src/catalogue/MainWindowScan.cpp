@@ -6,6 +6,7 @@
 #include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
+#include "catalogue/ReadInOrder.h"
 #include "catalogue/SelectionWatcher.h"
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/ViewSetup.h"
@@ -18,6 +19,15 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
+
+namespace {
+
+void appendMediaRow(MediaItemModel& model, const MediaRecord& record) {
+    model.appendFile(record, MainWindow::tr("Yes"), MainWindow::tr("No"));
+    qDebug() << "Insert item for:" << record.filePath;
+}
+
+} // namespace
 
 void MainWindow::openWorkingDirectory(const QString& path) {
     if (_imageLoader)
@@ -86,14 +96,14 @@ void MainWindow::clearItemModel() {
 }
 
 void MainWindow::addFileItem(const QString& filePath) {
-    _itemModel->appendFile(readMediaRecord(filePath), tr("Yes"), tr("No"));
-    qDebug() << "Insert item for:" << filePath;
+    appendMediaRow(*_itemModel, readMediaRecord(filePath));
 }
 
 void MainWindow::addFileItems(const QStringList& filePaths) {
     const MediaItemModel::BulkInsert bulk(*_itemModel);
-    for (const QString& filePath : filePaths)
-        addFileItem(filePath);
+    readInOrder(
+        filePaths.size(), [&](qsizetype index) { return readMediaRecord(filePaths.at(index)); },
+        [this](qsizetype, const MediaRecord& record) { appendMediaRow(*_itemModel, record); });
 }
 
 void MainWindow::removeFileItems(const QStringList& filePaths) {

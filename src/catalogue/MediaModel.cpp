@@ -53,11 +53,14 @@ QString embeddedComment(const QImageReader& reader) {
 
 MediaRecord readMediaRecord(const QString& filePath) {
     const QFileInfo info(filePath);
-    const QImageReader reader(filePath);
     MediaRecord record;
     record.filePath = filePath;
-    record.resolution = reader.size();
-    record.comment = embeddedComment(reader);
+    // Opening a pipe would wait for its writer.
+    if (info.isFile()) {
+        const QImageReader reader(filePath);
+        record.resolution = reader.size();
+        record.comment = embeddedComment(reader);
+    }
     record.fileName = info.fileName();
     record.path = info.path();
     record.suffix = info.suffix();

@@ -5,18 +5,32 @@
 #include <QDebug>
 #include <QFile>
 
-std::optional<QString> sidecarText(const QString& txtFileName) {
+SidecarRead readSidecarFile(const QString& txtFileName) {
+    SidecarRead read;
     QFile file(txtFileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         if (file.exists())
-            qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
-        return std::nullopt;
+            read.error = file.errorString();
+        return read;
     }
     const QByteArray bytes = file.readAll();
+    read.isValid = QUtf8StringView(bytes).isValidUtf8();
+    read.text = QString::fromUtf8(bytes);
+    return read;
+}
+
+void logSidecarRead(const QString& txtFileName, const SidecarRead& read) {
+    if (!read.error.isEmpty())
+        qDebug() << "Error:" << read.error << "unable to open file:" << txtFileName;
     // What cannot be decoded is replaced by the next save, so the loss gets a name.
-    if (!QUtf8StringView(bytes).isValidUtf8())
+    if (!read.isValid)
         qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
-    return QString::fromUtf8(bytes);
+}
+
+std::optional<QString> sidecarText(const QString& txtFileName) {
+    SidecarRead read = readSidecarFile(txtFileName);
+    logSidecarRead(txtFileName, read);
+    return std::move(read.text);
 }
 
 SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool makesBackup) {

@@ -4,7 +4,19 @@
 
 #include <optional>
 
-// The decoded text of a sidecar; nothing when it is missing or cannot be read, the latter with a log line.
+// What a read of a sidecar gave.
+struct SidecarRead {
+    std::optional<QString> text; // decoded; nothing when the file is missing or cannot be read
+    QString error;               // of a file that is there and cannot be opened
+    bool isValid = true;         // false where bytes could not be decoded
+};
+
+// Logs nothing, for threads that read ahead of the order in which files are logged.
+[[nodiscard]] SidecarRead readSidecarFile(const QString& txtFileName);
+// A line for what went wrong, if anything did.
+void logSidecarRead(const QString& txtFileName, const SidecarRead& read);
+
+// The decoded text of a sidecar, with its log lines.
 [[nodiscard]] std::optional<QString> sidecarText(const QString& txtFileName);
 
 // How the write of one sidecar ended.

@@ -1,6 +1,7 @@
 #include "tags/TagRecord.h"
 
 #include "catalogue/FileNaming.h"
+#include "catalogue/ReadInOrder.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -66,18 +67,34 @@ void TagRecord::importFiles(const QStringList& keys) {
 }
 
 void TagRecord::read(const QStringList& keys) {
+    // A file that was away comes back to what the user has not saved.
+    QStringList wanted = keys;
+    wanted.removeIf([this](const QString& key) { return isUnsaved(key); });
+    _tags.reserve(_tags.size() + wanted.size());
+    struct Sidecar {
+        QString txtFileName;
+        SidecarRead read;
+        QStringList tags;
+    };
     // Equal tags of different files share one string.
     QSet<QString> knownTags;
-    _tags.reserve(_tags.size() + keys.size());
-    for (const QString& key : keys) {
-        // A file that was away comes back to what the user has not saved.
-        if (isUnsaved(key))
-            continue;
-        QStringList tags = sidecarTags(key);
-        for (QString& tag : tags)
-            tag = *knownTags.insert(tag);
-        _tags.insert(key, tags);
-    }
+    readInOrder(
+        wanted.size(),
+        [&wanted](qsizetype index) {
+            Sidecar sidecar;
+            sidecar.txtFileName = imgFilePathToTxtFilePath(wanted.at(index));
+            sidecar.read = readSidecarFile(sidecar.txtFileName);
+            sidecar.tags = tagsFromText(sidecar.read.text.value_or(QString()));
+            // A text may be long, and its tags are all that is wanted of it.
+            sidecar.read.text.reset();
+            return sidecar;
+        },
+        [&](qsizetype index, Sidecar&& sidecar) {
+            logSidecarRead(sidecar.txtFileName, sidecar.read);
+            for (QString& tag : sidecar.tags)
+                tag = *knownTags.insert(tag);
+            _tags.insert(wanted.at(index), sidecar.tags);
+        });
 }
 
 void TagRecord::remove(const QStringList& keys) {

@@ -4,8 +4,13 @@
 #include "catalogue/MediaItemModel.h"
 #include "catalogue/MediaModel.h"
 #include "catalogue/MediaQuery.h"
+#include "catalogue/ReadInOrder.h"
 #include "support/MediaFolder.h"
 #include "support/Rows.h"
+
+#include <QSemaphore>
+
+#include <sys/stat.h>
 
 // Names, sizes, records and models of media files, without a window.
 class TestMediaRules : public QObject {
@@ -36,6 +41,26 @@ private slots:
         QCOMPARE(txtFilePathBackupFilePath(folder.filePath("cat.txt")), folder.filePath("cat_backup_2.txt"));
         folder.addFile("a_0.png");
         QCOMPARE(numberedFilePath(folder.filePath("a.png")), folder.filePath("a_1.png"));
+    }
+
+    void aFileThatBlocksLetsOthersBeRead() {
+        QSemaphore others;
+        bool isFree = false;
+        qsizetype taken = 0;
+        readInOrder(
+            5000,
+            [&](qsizetype index) {
+                if (index == 0)
+                    isFree = others.tryAcquire(1000, 20000);
+                others.release();
+                return index;
+            },
+            [&](qsizetype index, qsizetype value) {
+                QCOMPARE(index, taken++);
+                QCOMPARE(value, index);
+            });
+        QVERIFY(isFree);
+        QCOMPARE(taken, 5000);
     }
 
     void thumbnailsAreCentred() {
