@@ -251,8 +251,14 @@ public slots:
     void onExtractWorkflow();
 
 private:
+    void initComments();
     void updateComments();
+    // Reads the texts of the files below into the tree.
+    void showComments();
     [[nodiscard]] QString firstSelectedComment() const;
+
+    // The selected files whose texts the tree of the metadata tab does not have yet.
+    QStringList _unreadCommentFiles;
 
     // --- Sidecars (tags) -------------------------------------------------------------------------
 public:

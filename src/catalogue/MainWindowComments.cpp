@@ -3,20 +3,59 @@
 #include "app/services/FileFailure.h"
 #include "catalogue/MediaFormats.h"
 #include "catalogue/MediaItemModel.h"
+#include "catalogue/ReadInOrder.h"
+#include "catalogue/ShortTextDelegate.h"
 #include "catalogue/UpdatesOff.h"
 #include "catalogue/VideoMeta.h"
 #include "ui_MainWindow.h"
 
 #include <QClipboard>
 #include <QDebug>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QImageReader>
+
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// More files are read only when the tree is shown.
+constexpr qsizetype fewFiles = 100;
+
+using Texts = QList<std::pair<QString, QString>>;
+
+Texts embeddedTexts(const QString& path) {
+    Texts texts;
+    const QImageReader reader(path);
+    const QStringList keys = reader.textKeys();
+    for (const QString& key : keys)
+        texts.emplaceBack(key, reader.text(key));
+    return texts;
+}
+
+// Calls a function whenever a widget is shown.
+class ShowFilter : public QObject {
+public:
+    ShowFilter(QWidget* widget, std::function<void()> onShow) : QObject(widget), _onShow(std::move(onShow)) {
+        widget->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Show)
+            _onShow();
+        return false;
+    }
+
+private:
+    std::function<void()> _onShow;
+};
 
 void addCommentItem(QTreeWidgetItem* parent, const QString& key, const QString& value) {
     auto* item = new QTreeWidgetItem(parent, {key, value});
@@ -26,13 +65,33 @@ void addCommentItem(QTreeWidgetItem* parent, const QString& key, const QString& 
 
 } // namespace
 
+void MainWindow::initComments() {
+    ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
+    ui->tWComments->setItemDelegate(new ShortTextDelegate(ui->tWComments));
+    // The keys in sight are whole; the rows out of sight are not measured, of which there may be many.
+    ui->tWComments->header()->setResizeContentsPrecision(0);
+    ui->tWComments->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    new ShowFilter(ui->tWComments, [this] { showComments(); });
+}
+
 void MainWindow::updateComments() {
+    _unreadCommentFiles = selectedFilePaths();
+    if (_unreadCommentFiles.size() <= fewFiles || ui->tWComments->isVisible())
+        showComments();
+}
+
+void MainWindow::showComments() {
+    const QStringList files = std::exchange(_unreadCommentFiles, {});
+    if (files.isEmpty())
+        return;
     const UpdatesOff updatesOff({ui->tWComments});
     ui->tWComments->clear();
-    QImageReader reader;
     QList<QTreeWidgetItem*> tops;
-    const QStringList files = selectedFilePaths();
-    for (const QString& path : files) {
+    const auto read = [&files](qsizetype index) {
+        return isVideoFile(files.at(index)) ? Texts() : embeddedTexts(files.at(index));
+    };
+    readInOrder(files.size(), read, [&](qsizetype index, const Texts& texts) {
+        const QString& path = files.at(index);
         auto* top = new QTreeWidgetItem({QFileInfo(path).fileName()});
         top->setToolTip(0, path);
         if (isVideoFile(path)) {
@@ -40,14 +99,11 @@ void MainWindow::updateComments() {
             const QVariantHash meta = item ? item->data(RoleVideoMeta).toHash() : QVariantHash();
             for (const auto& [key, value] : meta.asKeyValueRange())
                 addCommentItem(top, key, videoMetaText(value));
-        } else {
-            reader.setFileName(path);
-            const QStringList keys = reader.textKeys();
-            for (const QString& key : keys)
-                addCommentItem(top, key, reader.text(key));
         }
+        for (const auto& [key, text] : texts)
+            addCommentItem(top, key, text);
         tops.append(top);
-    }
+    });
     // Spanning lays the tree out if that is due, so all items come first.
     ui->tWComments->addTopLevelItems(tops);
     ui->tWComments->expandAll();

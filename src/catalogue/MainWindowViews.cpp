@@ -186,11 +186,7 @@ void MainWindow::initViews() {
     ui->cBResizeSrcScaleAlignment->addItems({tr("Top left"), tr("Top center"), tr("Top right"),
                                              tr("Center left"), tr("Center center"), tr("Center right"),
                                              tr("Bottom left"), tr("Bottom center"), tr("Bottom right")});
-    ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
-    ui->tWComments->setItemDelegate(new ShortTextDelegate(ui->tWComments));
-    // The keys in sight are whole; the rows out of sight are not measured, of which there may be many.
-    ui->tWComments->header()->setResizeContentsPrecision(0);
-    ui->tWComments->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    initComments();
 }
 
 void MainWindow::initListView() {

@@ -6,7 +6,9 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QStyledItemDelegate>
+#include <QTabWidget>
 #include <QTreeView>
+#include <QTreeWidget>
 
 #include <functional>
 
@@ -64,6 +66,34 @@ private slots:
         choose("Hide", ColSize);
         driver.rescan();
         QVERIFY(!header->isSectionHidden(ColSize));
+    }
+
+    void embeddedTextsShowWithTheirTab() {
+        const MediaFolder folder;
+        for (int number = 0; number < 150; ++number)
+            folder.addImage(QString("%1.png").arg(number), {2, 2}, Qt::red,
+                            {{"Comment", QString::number(number)}});
+        WindowDriver driver(folder.path());
+        auto* tabs = driver.widget<QTabWidget>("tWTools");
+        const auto* tree = driver.widget<QTreeWidget>("tWComments");
+        QAbstractItemView* view = driver.currentView();
+        for (const char* other : {"tabTags", "tabImageCOmment"}) {
+            for (const bool all : {true, false, true}) {
+                tabs->setCurrentWidget(driver.widget<QWidget>(other));
+                if (all)
+                    view->selectAll();
+                else
+                    view->setCurrentIndex(view->model()->index(7, ColName));
+                tabs->setCurrentWidget(driver.widget<QWidget>("tabImageCOmment"));
+                QStringList shown;
+                for (int top = 0; top < tree->topLevelItemCount(); ++top) {
+                    QVERIFY(tree->topLevelItem(top)->isExpanded());
+                    shown.append(tree->topLevelItem(top)->child(0)->text(1) + ".png");
+                }
+                shown.sort();
+                QCOMPARE(shown, driver.selectedNames());
+            }
+        }
     }
 };
 
