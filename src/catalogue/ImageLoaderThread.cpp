@@ -15,8 +15,10 @@ PreviewResult decodePreview(const QString& filePath, const QSize& size) {
     }
     PreviewResult result;
     // Opening a pipe would wait for its writer.
-    if (const QFileInfo info(filePath); !info.exists() || info.isFile() || info.isDir())
+    if (const QFileInfo info(filePath); !info.exists() || info.isFile() || info.isDir()) {
+        result.resolution = reader.size();
         result.image = reader.read();
+    }
     // Scaling a null image would only log a warning of its own.
     if (!result.image.isNull())
         result.image = result.image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
@@ -59,12 +61,14 @@ void ImageLoaderThread::run() {
 
 void ImageLoaderThread::load() {
     _image = {};
+    _resolution.reset();
     _error.clear();
     if (_imgFilePath.isEmpty()) {
         _error = tr("Image file path empty.");
     } else if (supportedImageFormats().contains(QFileInfo(_imgFilePath).suffix().toLower())) {
         PreviewResult result = decodePreview(_imgFilePath, _size);
         _image = std::move(result.image);
+        _resolution = result.resolution;
         _error = std::move(result.error);
     } else {
         qDebug() << "Unsupported file format:" << _imgFilePath;

@@ -7,10 +7,13 @@
 #include <QThread>
 
 #include <atomic>
+#include <optional>
 
 struct PreviewResult {
     QImage image; // null on failure
     QString error;
+    // Of the file, where its header was read; invalid where the image reader does not know it.
+    std::optional<QSize> resolution = {};
 };
 
 // Decodes a file at full size and scales it into the given size, keeping its aspect ratio.
@@ -33,6 +36,7 @@ public:
     void setBusy(bool busy) { _busy = busy; }
     [[nodiscard]] QString imgFilePath() const { return _imgFilePath; }
     [[nodiscard]] QImage image() const { return _image; }
+    [[nodiscard]] std::optional<QSize> resolution() const { return _resolution; }
     [[nodiscard]] QString error() const { return _error; }
 
 signals:
@@ -49,6 +53,7 @@ private:
     QString _error;
     QSize _size;
     QImage _image;
+    std::optional<QSize> _resolution;
     bool _busy = false;
     std::atomic<bool> _stop = false;
     QSemaphore _jobs;

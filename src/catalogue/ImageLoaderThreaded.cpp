@@ -76,6 +76,12 @@ void ImageLoaderThreaded::processQueue() {
     }
 }
 
+std::optional<QSize> ImageLoaderThreaded::resolutionOf(const QString& fileName) const {
+    if (!_reporting || !_imageThreads.contains(_reporting) || _reporting->imgFilePath() != fileName)
+        return std::nullopt;
+    return _reporting->resolution();
+}
+
 bool ImageLoaderThreaded::isAnythingRunning() const {
     return std::ranges::any_of(_imageThreads, &ImageLoaderThread::isBusy) ||
            std::ranges::any_of(_videoThreads, &VideoImageLoader::isRunning);
@@ -150,7 +156,9 @@ void ImageLoaderThreaded::onImageLoaded() {
     }
     // A slot may stop the load, which takes the worker along.
     const QPointer<ImageLoaderThread> guard(worker);
+    _reporting = worker;
     emit loadedImage(worker->imgFilePath(), worker->image());
+    _reporting = nullptr;
     if (!guard || !_imageThreads.contains(worker))
         return;
     worker->setBusy(false);

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <optional>
+
 class ImageLoaderThread;
 class VideoImageLoader;
 
@@ -29,6 +31,8 @@ public:
     // alone.
     void stop();
     void processQueue();
+    // While loadedImage reports a picture: the size of the file, which its decode has just read.
+    [[nodiscard]] std::optional<QSize> resolutionOf(const QString& fileName) const;
 
 signals:
     void loadedImage(QString fileName, QImage img);
@@ -56,6 +60,7 @@ private:
     void abandon(ImageLoaderThread* worker);
 
     QStringList _queue;
+    const ImageLoaderThread* _reporting = nullptr;
     QList<ImageLoaderThread*> _imageThreads;
     QList<VideoImageLoader*> _videoThreads;
     // Workers that outlasted a stop; each is deleted when its decode ends, the last ones by the destructor.

@@ -9,6 +9,8 @@
 #include <QDebug>
 #include <QImageReader>
 
+#include <optional>
+
 namespace {
 
 constexpr QMargins gridMargins(11, 11, 11, 11);
@@ -58,8 +60,11 @@ void MainWindow::setItemImage(const QString& filePath, const QSize& size, const 
         return;
     }
     item->setThumbnail(image, size);
-    item->setData(mediaToolTip(QImageReader(filePath).size(), filePath), Qt::ToolTipRole);
-    item->notifyChanged();
+    const std::optional<QSize> resolution =
+        _imageLoader ? _imageLoader->resolutionOf(filePath) : std::nullopt;
+    item->setData(mediaToolTip(resolution ? *resolution : QImageReader(filePath).size(), filePath),
+                  Qt::ToolTipRole);
+    _itemModel->announceThumbnail(filePath);
 }
 
 void MainWindow::onItemImageLoaded(const QString& fileName, const QImage& img) {

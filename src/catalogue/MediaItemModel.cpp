@@ -2,7 +2,21 @@
 
 #include "catalogue/FileNaming.h"
 
-#include <QSet>
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds announcingInterval{33};
+
+} // namespace
+
+MediaItemModel::MediaItemModel(QObject* parent) : QStandardItemModel(parent) {
+    _announcing.setSingleShot(true);
+    _announcing.setInterval(announcingInterval);
+    connect(&_announcing, &QTimer::timeout, this, &MediaItemModel::announceThumbnails);
+}
 
 void MediaItemModel::clearFiles(const QStringList& captions) {
     _itemsByPath.clear();
@@ -59,4 +73,27 @@ int MediaItemModel::hideRows(const std::function<bool(int row, const QString& ke
         hidden += file->isHidden() ? 1 : 0;
     }
     return hidden;
+}
+
+void MediaItemModel::announceThumbnail(const QString& key) {
+    _freshThumbnails.insert(key);
+    if (!_announcing.isActive())
+        _announcing.start();
+}
+
+void MediaItemModel::announceThumbnails() {
+    QList<int> rows;
+    const QSet<QString> fresh = std::exchange(_freshThumbnails, {});
+    for (const QString& key : fresh) {
+        if (const int row = rowOf(key); row >= 0)
+            rows.append(row);
+    }
+    std::ranges::sort(rows);
+    for (auto first = rows.cbegin(); first != rows.cend();) {
+        auto last = first;
+        while (last + 1 != rows.cend() && *(last + 1) == *last + 1)
+            ++last;
+        emit dataChanged(index(*first, ColName), index(*last, ColName), {Qt::DecorationRole});
+        first = last + 1;
+    }
 }

@@ -3,9 +3,11 @@
 #include "catalogue/MediaModel.h"
 
 #include <QHash>
+#include <QSet>
 #include <QStandardItemModel>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 
@@ -15,7 +17,7 @@ class MediaItemModel : public QStandardItemModel {
     Q_OBJECT
 
 public:
-    using QStandardItemModel::QStandardItemModel;
+    explicit MediaItemModel(QObject* parent = nullptr);
 
     // While it lives, appended rows are not announced one by one; at its end the model is reset.
     class BulkInsert {
@@ -55,6 +57,14 @@ public:
     // once afterwards, since a signal for each row would cost far more. Returns the number of hidden rows.
     int hideRows(const std::function<bool(int row, const QString& key)>& isHidden);
 
+    // Announces that the thumbnail of a row has changed, at most 30 times a second and then together with
+    // others.
+    void announceThumbnail(const QString& key);
+
 private:
+    void announceThumbnails();
+
     QHash<QString, MediaItem*> _itemsByPath;
+    QSet<QString> _freshThumbnails;
+    QTimer _announcing;
 };
