@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -25,6 +26,19 @@ QImage makePhoto(int number) {
         }
     }
     return image;
+}
+
+// Pictures whose decode takes less than what surrounds it.
+QStringList makeTinyPictures(const QTemporaryDir& directory, int count) {
+    QImage image(2, 250, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    QStringList files;
+    for (int number = 0; number < count; ++number) {
+        files.append(directory.filePath(QString("tiny%1.png").arg(number)));
+        if (number == 0 ? !image.save(files.first()) : !QFile::copy(files.first(), files.last()))
+            qFatal("cannot write");
+    }
+    return files;
 }
 
 void loadWithCoordinator(const QStringList& files, const QSize& size, int threads) {
@@ -51,15 +65,19 @@ int main(int argc, char* argv[]) {
         files.append(directory.filePath(QString("photo%1.jpg").arg(number)));
         makePhoto(number).save(files.last(), nullptr, 88);
     }
+    const auto compare = [](const QString& what, const QStringList& pictures) {
+        for (const int threads : {2, 4}) {
+            Ratio::report(
+                QString("previews of %1 %2, %3 workers").arg(pictures.size()).arg(what).arg(threads),
+                [&] { loadWithCoordinator(pictures, {218, 218}, threads); },
+                [&] {
+                    if (reference::loadPreviews(pictures, {218, 218}, threads) != pictures.size())
+                        qFatal("not all pictures came");
+                });
+        }
+    };
     Ratio::header();
-    for (const int threads : {2, 4}) {
-        Ratio::report(
-            QString("previews of %1 photos, %2 workers").arg(count).arg(threads),
-            [&] { loadWithCoordinator(files, {218, 218}, threads); },
-            [&] {
-                if (reference::loadPreviews(files, {218, 218}, threads) != count)
-                    qFatal("not all photos came");
-            });
-    }
+    compare("photos", files);
+    compare("tiny pictures", makeTinyPictures(directory, argc > 2 ? QString(argv[2]).toInt() : 10000));
     return 0;
 }
