@@ -59,7 +59,7 @@ void MainWindow::setItemImage(const QString& filePath, const QSize& size, const 
         qDebug() << "Error, unable to find model item for:" << filePath;
         return;
     }
-    item->setThumbnail(image, size);
+    _itemModel->setThumbnail(*item, image, size);
     const std::optional<QSize> resolution =
         _imageLoader ? _imageLoader->resolutionOf(filePath) : std::nullopt;
     item->setData(mediaToolTip(resolution ? *resolution : QImageReader(filePath).size(), filePath),

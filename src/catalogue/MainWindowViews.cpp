@@ -24,6 +24,7 @@
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <QShortcut>
+#include <QStandardPaths>
 
 namespace {
 
@@ -221,6 +222,9 @@ void MainWindow::initTableView() {
 
 void MainWindow::initModels() {
     _itemModel = new MediaItemModel(this);
+    const qint64 mebibytes = Settings::instance()->get(keys::thumbnailMemory);
+    _itemModel->setThumbnailStore({mebibytes > 0 ? mebibytes * 1024 * 1024 : ThumbnailStore::usualBudget(),
+                                   QStandardPaths::writableLocation(QStandardPaths::CacheLocation)});
     _proxyModel = new SortFilterProxyModel(this);
     _proxyModel->setSourceModel(_itemModel);
     _proxyModel->setSortRole(RoleValue);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/MediaModel.h"
+#include "catalogue/ThumbnailStore.h"
 
 #include <QHash>
 #include <QSet>
@@ -57,6 +58,12 @@ public:
     // once afterwards, since a signal for each row would cost far more. Returns the number of hidden rows.
     int hideRows(const std::function<bool(int row, const QString& key)>& isHidden);
 
+    // Where thumbnails that are set later lie.
+    void setThumbnailStore(const ThumbnailStore& store) { _thumbnails = store; }
+    // Emits no change; see announceThumbnail.
+    void setThumbnail(MediaItem& item, const QImage& image, const QSize& canvasSize) {
+        item.setThumbnail(_thumbnails.keep(compactThumbnail(image)), canvasSize);
+    }
     // Announces that the thumbnail of a row has changed, at most 30 times a second and then together with
     // others.
     void announceThumbnail(const QString& key);
@@ -65,6 +72,7 @@ private:
     void announceThumbnails();
 
     QHash<QString, MediaItem*> _itemsByPath;
+    ThumbnailStore _thumbnails;
     QSet<QString> _freshThumbnails;
     QTimer _announcing;
 };

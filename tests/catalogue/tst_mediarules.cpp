@@ -5,9 +5,12 @@
 #include "catalogue/MediaModel.h"
 #include "catalogue/MediaQuery.h"
 #include "catalogue/ReadInOrder.h"
+#include "catalogue/ThumbnailStore.h"
 #include "support/MediaFolder.h"
 #include "support/Rows.h"
 
+#include <QDir>
+#include <QRegularExpression>
 #include <QSemaphore>
 
 #include <sys/stat.h>
@@ -79,6 +82,29 @@ private slots:
         // Larger than its canvas, it is cut evenly at the edges.
         item.setThumbnail(small.scaled(8, 4), {2, 2});
         QCOMPARE(canvas().pixelColor(1, 1), QColor(Qt::red));
+    }
+
+    void thumbnailsBeyondTheBudgetLieInAFile() {
+        const MediaFolder folder;
+        folder.addFile("no directory");
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^Error, unable to make a file for thumbnails"));
+        for (const char* name : {"cache", "no directory"}) {
+            const bool hasFile = QLatin1StringView(name) == QLatin1StringView("cache");
+            ThumbnailStore store(10000, folder.filePath(name));
+            QList<QImage> kept;
+            for (const auto color : {Qt::red, Qt::green, Qt::blue}) {
+                QImage image(50, 40, QImage::Format_RGB888);
+                image.fill(color);
+                kept.append(store.keep(image));
+                QCOMPARE(kept.last(), image);
+            }
+            QCOMPARE(kept.first().pixelColor(49, 39), QColor(Qt::red));
+            QCOMPARE(kept.at(1).pixelColor(49, 39), QColor(Qt::green));
+            QCOMPARE(store.bytesInMemory(), hasFile ? 6080 : 18240);
+            QVERIFY(QDir(folder.filePath("cache")).isEmpty());
+            kept.removeFirst();
+            QCOMPARE(store.bytesInMemory(), hasFile ? 0 : 12160);
+        }
     }
 
     void queriesFindFiles_data() {

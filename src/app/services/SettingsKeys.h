@@ -59,6 +59,8 @@ inline constexpr Setting<QSize> gridSizeListView{QLatin1StringView("gridSizeList
 inline constexpr Setting<QSize> gridSizeTreeView{QLatin1StringView("gridSizeTreeView"), QSize(32, 32)};
 inline constexpr Setting<QSize> gridSizeTableView{QLatin1StringView("gridSizeTableView"), QSize(32, 32)};
 inline constexpr Setting<int> imagePreviewThreadCount{QLatin1StringView("imagePreviewThreadCount"), 4};
+// In mebibytes; without a positive value a share of the machine's memory. Nothing in a window shows it.
+inline constexpr Setting<int> thumbnailMemory{QLatin1StringView("thumbnailMemory"), 0};
 inline constexpr Setting<bool> includeTensorInfo{QLatin1StringView("includeTensorInfo"), false};
 inline constexpr Setting<bool> includeMetaInfo{QLatin1StringView("includeMetaInfo"), true};
 inline constexpr Setting<bool> importFilesDeleteSrc{QLatin1StringView("importFilesDeleteSrc"), false};

@@ -1,0 +1,115 @@
+#include "catalogue/ThumbnailStore.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QTemporaryFile>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace {
+
+constexpr qint64 kMebibyte = 1024 * 1024;
+constexpr qint64 kSegmentBytes = 64 * kMebibyte;
+constexpr qint64 kAlignment = 64;
+
+// An image over the bytes of an owner, which goes with the last copy of the image.
+template <typename Owner>
+QImage imageOver(const uchar* bytes, const QImage& like, Owner&& owner) {
+    using Held = std::decay_t<Owner>;
+    return QImage(
+        bytes, like.width(), like.height(), like.bytesPerLine(), like.format(),
+        [](void* held) { delete static_cast<Held*>(held); }, new Held(std::forward<Owner>(owner)));
+}
+
+// Pixels in memory, which count as long as they live.
+struct CountedImage {
+    CountedImage(const QImage& pixels, std::shared_ptr<std::atomic<qint64>> total)
+        : image(pixels), count(std::move(total)) {
+        *count += image.sizeInBytes();
+    }
+    CountedImage(CountedImage&& other) noexcept
+        : image(std::move(other.image)), count(std::move(other.count)) {}
+    ~CountedImage() {
+        if (count)
+            *count -= image.sizeInBytes();
+    }
+    Q_DISABLE_COPY(CountedImage)
+    CountedImage& operator=(CountedImage&&) = delete;
+
+    QImage image;
+    std::shared_ptr<std::atomic<qint64>> count;
+};
+
+} // namespace
+
+// A file that is mapped as a whole and filled from its start.
+struct ThumbnailStore::Segment {
+    QTemporaryFile file;
+    const uchar* bytes = nullptr;
+    qint64 size = 0;
+    qint64 used = 0;
+};
+
+qint64 ThumbnailStore::usualBudget() {
+    constexpr qint64 most = 1024 * kMebibyte;
+#ifdef _SC_PHYS_PAGES
+    return std::min(most, static_cast<qint64>(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE) / 4);
+#else
+    return most;
+#endif
+}
+
+QImage ThumbnailStore::keep(const QImage& image) {
+    // An image for a dense screen is rare, and would lose its scale.
+    if (image.isNull() || image.devicePixelRatio() != 1)
+        return image;
+    if (*_inMemory + image.sizeInBytes() > _budget && !_hasFailed) {
+        if (QImage kept = inFile(image); !kept.isNull())
+            return kept;
+        _hasFailed = true;
+    }
+    return inMemory(image);
+}
+
+QImage ThumbnailStore::inMemory(const QImage& image) const {
+    return imageOver(image.constBits(), image, CountedImage(image, _inMemory));
+}
+
+QImage ThumbnailStore::inFile(const QImage& image) {
+    const qint64 size = image.sizeInBytes();
+    if ((!_segment || _segment->used + size > _segment->size) && !openSegment(size))
+        return {};
+    // Written, not copied into the mapping, where a full disk would end the program.
+    QTemporaryFile& file = _segment->file;
+    if (!file.seek(_segment->used) ||
+        file.write(reinterpret_cast<const char*>(image.constBits()), size) != size) {
+        qDebug() << "Error, unable to write thumbnails to the cache, they stay in memory:"
+                 << file.errorString();
+        return {};
+    }
+    const uchar* bytes = _segment->bytes + _segment->used;
+    _segment->used += (size + kAlignment - 1) / kAlignment * kAlignment;
+    return imageOver(bytes, image, std::shared_ptr(_segment));
+}
+
+bool ThumbnailStore::openSegment(qint64 leastBytes) {
+    auto segment = std::make_shared<Segment>();
+    segment->size = std::max(kSegmentBytes, leastBytes);
+    QDir().mkpath(_directory);
+    segment->file.setFileTemplate(QDir(_directory).filePath(QStringLiteral("thumbnails-XXXXXX")));
+    QFile& file = segment->file;
+    if (file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.resize(segment->size))
+        segment->bytes = file.map(0, segment->size);
+    if (!segment->bytes) {
+        qDebug() << "Error, unable to make a file for thumbnails, they stay in memory:" << _directory
+                 << file.errorString();
+        return false;
+    }
+    // Without a name it goes with the program, however that ends. Where open files keep theirs, it is removed
+    // at the end.
+    segment->file.setAutoRemove(!QFile::remove(file.fileName()));
+    _segment = std::move(segment);
+    return true;
+}
