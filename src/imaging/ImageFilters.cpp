@@ -1,13 +1,6 @@
 #include "imaging/ImageFilters.h"
 
-#include "imaging/FilterChain.h"
-#include "imaging/ImageFilterWidgetBase.h"
-#include "imaging/ImageFilterWidgetSlider.h"
-
-#include <QDebug>
-
 #include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -35,42 +28,4 @@ ImageFilters::FilterType ImageFilters::filterType(const QString& name) {
             return static_cast<FilterType>(i);
     }
     return Invalid;
-}
-
-ImageFilterWidgetBase* ImageFilters::createFilterWidget(const QString& filterName) const {
-    const FilterType type = filterType(filterName);
-    auto* const row = new ImageFilterWidgetBase;
-    row->setFilterType(type);
-    if (type == Sharpen) {
-        row->setOptionWidget(new QWidget(row));
-        return row;
-    }
-    auto* const slider = new ImageFilterWidgetSlider(row);
-    if (const std::optional<FilterRange> range = filterRange(type)) {
-        slider->setRange(range->minimum, range->maximum);
-        slider->setValue(range->initial);
-    }
-    row->setOptionWidget(slider);
-    return row;
-}
-
-QImage ImageFilters::applyFilter(const QImage& image, QWidget* row, bool* applied) const {
-    qDebug() << "ImageFilters::applyFilter" << image;
-    if (image.isNull())
-        return image;
-    const auto* const filterRow = qobject_cast<ImageFilterWidgetBase*>(row);
-    if (!filterRow) {
-        qDebug() << "Error, unable to cast filter widget to base...";
-        return image;
-    }
-    FilterStep step{.type = filterRow->filterType(), .isBypassed = !filterRow->isFilterEnabled()};
-    if (!step.isBypassed && filterRange(step.type)) {
-        const auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(filterRow->optionWidget());
-        if (!slider) {
-            qDebug() << "Error, unable to cast filter option widget to Slider...";
-            return image;
-        }
-        step.value = slider->value();
-    }
-    return filteredImage(image, step, applied);
 }
