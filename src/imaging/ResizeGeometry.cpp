@@ -1,5 +1,9 @@
 #include "imaging/ResizeGeometry.h"
 
+#include "app/services/ImageFile.h"
+
+#include <QSizeF>
+
 #include <algorithm>
 
 namespace {
@@ -19,6 +23,24 @@ std::optional<QImage> resizedToSpecificSize(const QImage& image, const ResizeOpt
         return image.scaled(size, options.aspectRatioMode, options.transformationMode);
     }
     return std::nullopt;
+}
+
+// Nearly the size of the result. Its sides may exceed any integer.
+QSizeF resizedSize(QSizeF size, const ResizeOptions& options) {
+    if (options.mode == ResizeMode::None)
+        return size;
+    if (options.mode == ResizeMode::Scale)
+        return size * options.scale;
+    if (options.mode == ResizeMode::AspectRatio)
+        return {size.width(), std::min(size.width(), size.height()) * options.aspectRatio};
+    QSizeF target = options.specificSize;
+    const SpecificSizeOperation operation = specificSizeOperation(options.specificSize);
+    if (operation == SpecificSizeOperation::ScaleToHeight)
+        target.setWidth(size.width() * target.height() / size.height());
+    if (operation == SpecificSizeOperation::ScaleToWidth)
+        target.setHeight(size.height() * target.width() / size.width());
+    size.scale(target, options.aspectRatioMode);
+    return size;
 }
 
 } // namespace
@@ -55,6 +77,8 @@ QImage reducedToFit(const QImage& image, const QSize& size) {
 }
 
 std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& options) {
+    if (exceedsImageAllocationLimit(resizedSize(image.size(), options)))
+        return QImage();
     switch (options.mode) {
     case ResizeMode::None:
         return std::nullopt;

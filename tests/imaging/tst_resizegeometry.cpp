@@ -23,6 +23,7 @@ private slots:
             {"no width", specific(0, 60), QSize(0, 0)},
             {"by a factor", {ResizeMode::Scale}, QSize(60, 45)},
             {"by aspect ratio", {ResizeMode::AspectRatio}, QSize(40, 45)},
+            {"beyond the limit of memory", {.mode = ResizeMode::Scale, .scale = 250}, QSize(0, 0)},
             {"no mode", {ResizeMode::None}, std::nullopt},
         });
     }

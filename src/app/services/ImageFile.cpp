@@ -6,6 +6,7 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
+#include <QSizeF>
 
 #include <algorithm>
 #include <limits>
@@ -81,6 +82,12 @@ int imageAllocationLimit(quint64 memory) {
     constexpr quint64 leastMiB = 1024;
     constexpr quint64 mostMiB = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp(memory / 4 / (1024 * 1024), leastMiB, mostMiB));
+}
+
+bool exceedsImageAllocationLimit(const QSizeF& size) {
+    constexpr double bytesPerPixel = 4;
+    constexpr double bytesPerMiB = 1024 * 1024;
+    return size.width() * size.height() * bytesPerPixel > QImageReader::allocationLimit() * bytesPerMiB;
 }
 
 void raiseImageAllocationLimit() {

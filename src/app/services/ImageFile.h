@@ -4,6 +4,7 @@
 #include <QString>
 
 class QImage;
+class QSizeF;
 
 struct ImageFileOptions {
     // That of the file's suffix if empty.
@@ -28,3 +29,6 @@ struct ImageFileOptions {
 
 // Applies that limit of this machine to all decoders of the process.
 void raiseImageAllocationLimit();
+// Whether an image of 32 bits a pixel would be larger than what may be read. Making one that does not fit
+// into the memory ends the program.
+[[nodiscard]] bool exceedsImageAllocationLimit(const QSizeF& size);
