@@ -2,6 +2,7 @@
 #include "batch/Arguments.h"
 #include "batch/Commands.h"
 #include "batch/Console.h"
+#include "batch/Picture.h"
 #include "batch/Run.h"
 #include "batch/Sidecar.h"
 #include "batch/SizeOption.h"
@@ -12,7 +13,6 @@
 #include "tags/TagText.h"
 
 #include <QEventLoop>
-#include <QImageReader>
 #include <QJsonArray>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -114,10 +114,10 @@ FileResult caption(const BatchFile& file, const CaptionOptions& options) {
         return FileResult::failed(sidecar.error);
     if (options.onlyUntagged && !sidecar.text.trimmed().isEmpty())
         return FileResult::skipped(Batch::tr("has tags"));
-    QImageReader reader(file.path);
-    const QImage read = reader.read();
+    QString error;
+    const QImage read = readPicture(file.path, error);
     if (read.isNull())
-        return FileResult::failed(reader.errorString());
+        return FileResult::failed(error);
     const QImage image = scaledPromptImage(read, options.size, options.keepsAspectRatio);
     if (image.isNull())
         return FileResult::failed(Batch::tr("the new size is empty or too large"));
@@ -175,12 +175,9 @@ int captionCommand(const QStringList& words) {
     arguments.add(u"retry"_s, Batch::tr("Asks up to N times more after a failure."), u"N"_s, u"0"_s);
     arguments.add(u"timeout"_s, Batch::tr("Waits so many seconds for an answer."), u"SECONDS"_s, u"300"_s);
     addJobsOption(arguments);
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    RunOptions run = runOptions(arguments, u"caption"_s);
-    run.jobs = jobsOption(arguments);
+    const RunOptions run = runOptions(arguments);
     const CaptionOptions options = captionOptions(arguments);
     const FileList files = listFiles(arguments, SuffixMatcher(imageNameFilters()));
     if (arguments.isRejected())

@@ -3,6 +3,7 @@
 #include "batch/ClipFrames.h"
 #include "batch/Commands.h"
 #include "batch/Console.h"
+#include "batch/Picture.h"
 #include "batch/Run.h"
 #include "batch/Sidecar.h"
 #include "catalogue/FileNaming.h"
@@ -12,7 +13,6 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QImageReader>
 #include <QJsonDocument>
 #include <QMap>
 
@@ -152,12 +152,19 @@ void printMostFrequentFirst(QLatin1StringView kind, const QHash<QString, qsizety
 }
 
 // Players live on the main thread.
-void checkClip(const BatchFile& file, Findings& findings) {
-    if (isInterrupted() || !isVideoFile(file.path) || !QFileInfo::exists(file.path))
-        return;
+bool checkClip(const BatchFile& file, FileResult& result, Dataset& dataset, bool isJson) {
+    if (result.outcome != FileResult::Done || !isVideoFile(file.path))
+        return true;
+    if (isInterrupted())
+        return false;
     ClipFrames clip;
-    if (const QString error = clip.open(file.path); !error.isEmpty())
-        findings.add("undecodable"_L1, file.path, error);
+    const QString error = clip.open(file.path);
+    if (error.isEmpty())
+        return true;
+    result.text += reportLine(isJson, "undecodable"_L1, file.path, error);
+    const std::scoped_lock lock(dataset.mutex);
+    ++dataset.findings;
+    return true;
 }
 
 FileResult checkFile(const BatchFile& file, Dataset& dataset, bool isJson) {
@@ -166,10 +173,10 @@ FileResult checkFile(const BatchFile& file, Dataset& dataset, bool isJson) {
     checkSidecar(file, sidecar, findings);
     QSize size;
     if (!isVideoFile(file.path)) {
-        QImageReader reader(file.path);
-        size = reader.read().size();
+        QString error;
+        size = readPicture(file.path, error).size();
         if (size.isEmpty())
-            findings.add("undecodable"_L1, file.path, reader.errorString());
+            findings.add("undecodable"_L1, file.path, error);
     }
     const std::scoped_lock lock(dataset.mutex);
     dataset.findings += findings.count();
@@ -191,12 +198,9 @@ int checkCommand(const QStringList& words) {
                         u"FILE..."_s);
     arguments.add(u"rare"_s, Batch::tr("Names tags that occur at most N times."), u"N"_s, u"1"_s);
     addJobsOption(arguments);
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    RunOptions run = runOptions(arguments, u"check"_s);
-    run.jobs = jobsOption(arguments);
+    RunOptions run = runOptions(arguments);
     run.isQuiet = true;
     const bool isJson = std::exchange(run.printsJson, false);
     const int rare = arguments.wholeNumber(u"rare"_s, 0, std::numeric_limits<int>::max());
@@ -206,13 +210,12 @@ int checkCommand(const QStringList& words) {
     raiseImageAllocationLimit();
 
     Dataset dataset;
-    const int code =
-        runOverFiles(files, run, [&](const BatchFile& file) { return checkFile(file, dataset, isJson); });
+    const int code = runOverFiles(
+        files, run, [&](const BatchFile& file) { return checkFile(file, dataset, isJson); },
+        [&](const BatchFile& file, FileResult& result) { return checkClip(file, result, dataset, isJson); });
     if (isInterrupted())
         return code;
     Findings findings(isJson);
-    for (const BatchFile& file : files.files)
-        checkClip(file, findings);
     checkShared(
         files, "shared-sidecar"_L1, [](const BatchFile& file) { return imgFilePathToTxtFilePath(file.path); },
         findings);

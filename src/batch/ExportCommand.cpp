@@ -4,12 +4,16 @@
 #include "batch/Run.h"
 #include "batch/Sidecar.h"
 #include "batch/WholeFile.h"
+#include "catalogue/FileNaming.h"
 #include "catalogue/MediaFormats.h"
 #include "tags/TagText.h"
 #include "tags/TagsExport.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +50,15 @@ QString metadataLine(const BatchFile& file, QStringList tags) {
     return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
+// Whether the path is one of the files, or of their sidecars.
+bool isExported(const FileList& files, const QString& path) {
+    const QString place = path.isNull() ? QString() : QFileInfo(path).canonicalFilePath();
+    const auto isPlace = [&](const QString& other) { return QFileInfo(other).canonicalFilePath() == place; };
+    return !place.isEmpty() && std::ranges::any_of(files.all, [&](const QString& file) {
+        return isPlace(file) || isPlace(imgFilePathToTxtFilePath(file));
+    });
+}
+
 } // namespace
 
 int exportCommand(const QStringList& words) {
@@ -56,18 +69,22 @@ int exportCommand(const QStringList& words) {
                   u"FORMAT"_s, u"text"_s);
     arguments.add(u"output"_s, Batch::tr("Writes to FILE, whole or not at all."), u"FILE"_s);
     arguments.add(u"overwrite"_s, Batch::tr("Replaces a file that exists."));
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    RunOptions run = runOptions(arguments, u"export"_s);
+    RunOptions run = runOptions(arguments);
     run.isQuiet = true;
-    run.printsJson = false;
     const auto format = static_cast<ExportFormat>(
         arguments.choice(u"format"_s, {u"text"_s, u"json"_s, u"csv"_s, u"jsonl"_s}));
+    const QString output = arguments.value(u"output"_s);
+    if (run.printsJson && output.isNull())
+        arguments.reject(Batch::tr("--json needs --output, since standard output takes the export"));
     const FileList files = listFiles(arguments, SuffixMatcher(mediaNameFilters()));
     if (arguments.isRejected())
         return arguments.wrongUsage();
+    if (isExported(files, output)) {
+        console::complain(output, Batch::tr("is a source, which no export replaces"));
+        return SomeFailed;
+    }
 
     QStringList tags;
     QString text;
@@ -85,7 +102,6 @@ int exportCommand(const QStringList& words) {
         return code;
     if (format != ExportJsonl)
         text = exportOfTags(tags, format);
-    const QString output = arguments.value(u"output"_s);
     if (output.isNull()) {
         console::print(text);
         return finishOutput(code);

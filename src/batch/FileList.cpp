@@ -101,6 +101,9 @@ private:
             fs::directory_iterator entries(fs::path(QFile::encodeName(place).toStdString()), error);
             for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
                 const QString name = QFile::decodeName(entries->path().filename().c_str());
+                // The window lists no hidden files either.
+                if (name.startsWith(u'.'))
+                    continue;
                 const QString relative = below.isEmpty() ? name : below + u'/' + name;
                 std::error_code unknown;
                 if (entries->is_directory(unknown)) {
@@ -124,8 +127,10 @@ private:
     }
 
     void append(const QString& path, const QString& relative, const QString& key) {
-        if (!_paths.contains(path)) {
-            _paths.insert(path);
+        // One file may be named twice in different forms.
+        const QString place = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+        if (!_paths.contains(place)) {
+            _paths.insert(place);
             _entries.append({{path, relative}, key});
         }
     }

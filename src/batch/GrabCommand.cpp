@@ -79,11 +79,9 @@ int grabCommand(const QStringList& words) {
     arguments.add(u"every"_s, Batch::tr("Takes a frame every so many seconds."), u"SECONDS"_s);
     arguments.add(u"count"_s, Batch::tr("Takes N frames, evenly over the clip."), u"N"_s);
     addOutputOptions(arguments, false);
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    const RunOptions run = runOptions(arguments, u"grab"_s);
+    const RunOptions run = runOptions(arguments);
     if (arguments.isSet(u"every"_s) == arguments.isSet(u"count"_s))
         arguments.reject(Batch::tr("either --every or --count is needed"));
     const GrabOptions options{.interval =

@@ -5,6 +5,7 @@
 #include "batch/Commands.h"
 #include "batch/Console.h"
 #include "batch/Outputs.h"
+#include "batch/Picture.h"
 #include "batch/Run.h"
 #include "batch/SizeOption.h"
 #include "catalogue/MediaFormats.h"
@@ -15,7 +16,6 @@
 #include "imaging/ResizeGeometry.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -34,16 +34,15 @@ FileResult changeImage(const BatchFile& file, const Outputs& outputs, int qualit
     const Outputs::Target target = outputs.target(file);
     if (target.refusal)
         return *target.refusal;
-    QImageReader reader(file.path);
-    const QImage image = reader.read();
+    QString error;
+    const QImage image = readPicture(file.path, error);
     if (image.isNull())
-        return FileResult::failed(reader.errorString());
+        return FileResult::failed(error);
     const std::optional<QImage> changed = change(image);
     if (!changed)
         return FileResult::skipped(Batch::tr("nothing to do"));
     if (changed->isNull())
         return FileResult::failed(Batch::tr("the new size is empty or too large"));
-    QString error;
     const QByteArray bytes = encodedImageFile(*changed, target.path, batchImageOptions(quality), &error);
     if (!error.isEmpty())
         return FileResult::failed(Batch::tr("%1: %2").arg(target.path, error));
@@ -54,13 +53,10 @@ void addImageOptions(Arguments& arguments) {
     arguments.add(u"quality"_s, Batch::tr("Quality of the images from 1 to 100."), u"N"_s, u"100"_s);
     addOutputOptions(arguments, true);
     addJobsOption(arguments);
-    addFileOptions(arguments);
-    addRunOptions(arguments);
 }
 
-int runOverImages(Arguments& arguments, const QString& command, const ImageChange& change) {
-    RunOptions run = runOptions(arguments, command);
-    run.jobs = jobsOption(arguments);
+int runOverImages(Arguments& arguments, const ImageChange& change) {
+    const RunOptions run = runOptions(arguments);
     const int quality = arguments.wholeNumber(u"quality"_s, 1, 100);
     const OutputOptions output = outputOptions(arguments);
     if (arguments.isRejected())
@@ -200,11 +196,10 @@ int resizeCommand(const QStringList& words) {
     arguments.add(u"transformation"_s, Batch::tr("How pixels are scaled: smooth or fast."), u"MODE"_s,
                   u"smooth"_s);
     addImageOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
     const ResizeOptions options = resizeOptions(arguments);
-    return runOverImages(arguments, u"resize"_s,
-                         [&](const QImage& image) { return resizedImage(image, options); });
+    return runOverImages(arguments, [&](const QImage& image) { return resizedImage(image, options); });
 }
 
 int effectsCommand(const QStringList& words) {
@@ -216,9 +211,8 @@ int effectsCommand(const QStringList& words) {
                   Batch::tr("A filter of the chain, as in Brightness=20; given again for the next."),
                   u"NAME=NUMBER"_s);
     addImageOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
     const QList<FilterStep> steps = filterSteps(arguments);
-    return runOverImages(arguments, u"effects"_s,
-                         [&](const QImage& image) { return withEffects(image, steps); });
+    return runOverImages(arguments, [&](const QImage& image) { return withEffects(image, steps); });
 }

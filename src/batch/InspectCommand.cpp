@@ -77,11 +77,9 @@ int inspectCommand(const QStringList& words) {
     Arguments arguments(u"inspect"_s, Batch::tr("Shows the header of model files."), u"FILE..."_s);
     arguments.add(u"metadata"_s, Batch::tr("Shows the metadata alone."));
     arguments.add(u"tensors"_s, Batch::tr("Shows name, type, shape and bytes of the tensors alone."));
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words))
+    if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    RunOptions run = runOptions(arguments, u"inspect"_s);
+    RunOptions run = runOptions(arguments);
     run.isQuiet = true;
     const FileList files = listFiles(arguments, SuffixMatcher({u"*.safetensors"_s}));
     if (arguments.isRejected())

@@ -15,9 +15,11 @@
 #include <atomic>
 #include <condition_variable>
 #include <csignal>
+#include <filesystem>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -83,11 +85,20 @@ private:
 };
 
 FileResult resultOf(const BatchFile& file, const FileWork& work) {
-    const QFileInfo info(file.path);
-    if (!info.exists())
-        return FileResult::failed(info.isSymLink() ? Batch::tr("a link to nothing")
-                                                   : Batch::tr("no such file"));
-    if (info.isDir())
+    std::error_code error;
+    const std::filesystem::path path(QFile::encodeName(file.path).toStdString());
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::not_found) {
+        if (QFileInfo(file.path).isSymLink())
+            return FileResult::failed(Batch::tr("a link to nothing"));
+        // What stands for bytes that the encoding of file names lacks.
+        return FileResult::failed(file.path.contains(QChar::ReplacementCharacter)
+                                      ? Batch::tr("its name is not valid UTF-8")
+                                      : Batch::tr("no such file"));
+    }
+    if (error)
+        return FileResult::failed(QString::fromLocal8Bit(error.message()));
+    if (std::filesystem::is_directory(status))
         return FileResult::failed(Batch::tr("is a directory"));
     return work(file);
 }
@@ -149,6 +160,21 @@ private:
     std::condition_variable _changed;
 };
 
+// Whether nothing but the list of an earlier run is replaced: paths that each end in a NUL.
+bool mayHoldFailedList(const QString& path) {
+    constexpr qint64 lookedAtBytes = 65536;
+    QFile file(path);
+    if (path.isNull() || !file.exists())
+        return true;
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(lookedAtBytes);
+    if (start.isEmpty())
+        return file.atEnd();
+    const bool isEnded = file.seek(file.size() - 1) && file.read(1) == QByteArray(1, '\0');
+    return isEnded && !start.startsWith('\0') && !start.contains(QByteArray(2, '\0'));
+}
+
 // Counts and reports what came of each file.
 class RunReport {
 public:
@@ -159,10 +185,7 @@ public:
         ++_counts[result.outcome];
         if (result.outcome == FileResult::Failed)
             fail(file.path, result.reason);
-        if (_options.printsJson)
-            printJson(file, result);
-        else
-            console::print(result.text);
+        print(_options.printsJson ? jsonLine(file, result) : result.text);
         _progress.advance();
     }
 
@@ -192,14 +215,22 @@ public:
     }
 
 private:
-    static void printJson(const BatchFile& file, const FileResult& result) {
+    // The bar shares the terminal with what is printed.
+    void print(const QString& text) {
+        if (text.isEmpty())
+            return;
+        _progress.clear();
+        console::print(text);
+    }
+
+    [[nodiscard]] static QString jsonLine(const BatchFile& file, const FileResult& result) {
         constexpr std::array names{"done"_L1, "skipped"_L1, "failed"_L1};
         QJsonObject line = result.json;
         line.insert("file"_L1, file.path);
         line.insert("status"_L1, names.at(result.outcome));
         if (!result.reason.isEmpty())
             line.insert("reason"_L1, result.reason);
-        console::print(QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n');
+        return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n';
     }
 
     void writeFailedList() {
@@ -228,38 +259,46 @@ void addJobsOption(Arguments& arguments) {
                   u"1"_s);
 }
 
-int jobsOption(Arguments& arguments) {
-    const int jobs = arguments.wholeNumber(u"jobs"_s, 0, mostJobs);
-    return jobs == 0 ? QThread::idealThreadCount() : jobs;
-}
-
-void addRunOptions(Arguments& arguments) {
+std::optional<int> parseRun(Arguments& arguments, const QStringList& words) {
+    addFileOptions(arguments);
     arguments.add(u"progress"_s, Batch::tr("Shows a bar on standard error if that is a terminal."));
     arguments.add(u"json"_s, Batch::tr("Prints one JSON object a line."));
     arguments.add(u"quiet"_s, Batch::tr("Prints no summary, only failures."));
     arguments.add(u"failed"_s,
                   Batch::tr("Writes the paths of files that failed or were left to FILE, for --files-from."),
                   u"FILE"_s);
+    return arguments.parse(words);
 }
 
-RunOptions runOptions(const Arguments& arguments, const QString& command) {
+RunOptions runOptions(Arguments& arguments) {
     RunOptions options;
-    options.command = command;
+    options.command = arguments.command();
+    if (arguments.offers(u"jobs"_s))
+        options.jobs = arguments.wholeNumber(u"jobs"_s, 0, mostJobs);
+    if (options.jobs == 0)
+        options.jobs = QThread::idealThreadCount();
     options.showsProgress = arguments.isSet(u"progress"_s);
     options.printsJson = arguments.isSet(u"json"_s);
     options.isQuiet = arguments.isSet(u"quiet"_s);
     options.failedListPath = arguments.value(u"failed"_s);
+    if (!mayHoldFailedList(options.failedListPath))
+        arguments.reject(Batch::tr("--failed %1: the file exists and is no such list")
+                             .arg(shownPath(options.failedListPath)));
     return options;
 }
 
-int runOverFiles(const FileList& list, const RunOptions& options, const FileWork& work) {
+int runOverFiles(const FileList& list, const RunOptions& options, const FileWork& work,
+                 const FileCompletion& complete) {
     RunReport report(options, list.files.size());
     for (const BatchFailure& failure : list.unread)
         report.fail(failure.path, failure.reason);
     OrderedResults results(list.files, options.jobs, work);
     for (qsizetype i = 0; i < list.files.size(); ++i) {
         const BatchFile& file = list.files.at(i);
-        if (const std::optional<FileResult> result = results.take(i))
+        std::optional<FileResult> result = results.take(i);
+        if (result && complete && !complete(file, *result))
+            result.reset();
+        if (result)
             report.add(file, *result);
         else
             report.addLeft(file);

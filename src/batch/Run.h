@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class Arguments;
 
@@ -21,9 +22,10 @@ struct FileResult {
     [[nodiscard]] static FileResult skipped(const QString& reason) { return {Skipped, reason}; }
 };
 
-// The options of how a run goes on and what it says.
-void addRunOptions(Arguments& arguments);
 void addJobsOption(Arguments& arguments);
+// Adds the options by which all subcommands choose files and report, and parses. The exit code where the
+// run ends here.
+[[nodiscard]] std::optional<int> parseRun(Arguments& arguments, const QStringList& words);
 
 struct RunOptions {
     QString command;
@@ -33,15 +35,18 @@ struct RunOptions {
     bool isQuiet = false;   // no summary
     QString failedListPath; // null for none
 };
-[[nodiscard]] RunOptions runOptions(const Arguments& arguments, const QString& command);
-[[nodiscard]] int jobsOption(Arguments& arguments);
+[[nodiscard]] RunOptions runOptions(Arguments& arguments);
 
 // Called for one file, from several threads at once where there are several jobs.
 using FileWork = std::function<FileResult(const BatchFile&)>;
+// Called afterwards on the calling thread, in the order of the list. False where an interrupt leaves the
+// file.
+using FileCompletion = std::function<bool(const BatchFile&, FileResult&)>;
 
 // Works on the files and prints what comes of them in their order. A file that is missing fails without a
 // call. An interrupt lets the files in hand end and names the rest. Returns the exit code.
-[[nodiscard]] int runOverFiles(const FileList& list, const RunOptions& options, const FileWork& work);
+[[nodiscard]] int runOverFiles(const FileList& list, const RunOptions& options, const FileWork& work,
+                               const FileCompletion& complete = {});
 
 // The exit code of a run that ends here: wrong where standard output has not taken everything.
 [[nodiscard]] int finishOutput(int exitCode);

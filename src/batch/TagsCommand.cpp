@@ -106,9 +106,10 @@ QString requiredText(Arguments& arguments, const QString& name) {
 }
 
 QStringList requiredTags(Arguments& arguments) {
-    QStringList tags = tagsFromText(requiredText(arguments, u"tags"_s));
+    const QString text = requiredText(arguments, u"tags"_s);
+    QStringList tags = tagsFromText(text);
     tags.removeAll(QString());
-    if (tags.isEmpty() && !arguments.isRejected())
+    if (tags.isEmpty() && !text.isEmpty())
         arguments.reject(Batch::tr("--tags holds no tag"));
     return tags;
 }
@@ -151,13 +152,11 @@ int tagsCommand(const QStringList& words) {
                         isKnown ? u"FILE..."_s : actions.join(u'|') + " FILE..."_L1);
     if (!isQuery && isKnown)
         addEditOptions(arguments, action);
-    addFileOptions(arguments);
-    addRunOptions(arguments);
-    if (const std::optional<int> code = arguments.parse(words.sliced(isKnown ? 1 : 0)))
+    if (const std::optional<int> code = parseRun(arguments, words.sliced(isKnown ? 1 : 0)))
         return *code;
     if (!isKnown)
         arguments.reject(Batch::tr("tags takes one of %1").arg(actions.join(", "_L1)));
-    RunOptions run = runOptions(arguments, command);
+    RunOptions run = runOptions(arguments);
     run.isQuiet = run.isQuiet || isQuery;
     const TagEdit edit = isQuery || !isKnown ? TagEdit() : tagEdit(arguments, action);
     FileList files = listFiles(arguments, SuffixMatcher(mediaNameFilters()));

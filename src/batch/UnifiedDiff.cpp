@@ -36,7 +36,8 @@ QString signedLines(QChar sign, const QString& text) {
 } // namespace
 
 QString unifiedDiff(const QString& path, const QString& before, const QString& after) {
-    const QString name = shownPath(path);
+    // Where a name holds blanks, patch finds its end by a tab.
+    const QString name = path.contains(u' ') ? shownPath(path) + u'\t' : shownPath(path);
     return u"--- %1\n+++ %2\n@@ -%3 +%4 @@\n"_s.arg(before.isNull() ? u"/dev/null"_s : name, name,
                                                     range(lineCount(before)), range(lineCount(after))) +
            signedLines(u'-', before) + signedLines(u'+', after);

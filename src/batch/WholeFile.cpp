@@ -137,7 +137,9 @@ QString makeBackup(const QString& filePath, const QString& backupPath) {
 
 QString writeWholeFile(const QString& filePath, const QByteArray& bytes, Existing existing) {
     const QFileInfo info(filePath);
-    const QString path = info.isSymLink() ? info.symLinkTarget() : filePath;
+    // The end of a chain of links, or where a link to nothing points to.
+    const QString linked = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+    const QString path = info.isSymLink() ? linked : filePath;
     const QByteArray target = QFile::encodeName(path);
     PartFile part(partPath(path));
     part.write(bytes, target);

@@ -5,6 +5,7 @@
 #include "support/Rows.h"
 
 #include <QDir>
+#include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -52,8 +53,10 @@ private slots:
             {"split", "tags split b.png --by ' by ' --quiet", 0, "", "", "b.txt sky,Cat,sea\n"},
             {"a list", "tags list --files-from -", 1, "a.png\tsky, sea\n", "...: gone\\n.png: no such file\n",
              ""},
-            {"wrong usage", "tags add --tags ' ,' --shard 3/2", 2, "",
-             "...: --tags holds no tag\n...: --shard takes I/N with I from 1 to N, not \"3/2\"\n...", ""},
+            {"wrong usage", "tags add --tags ' ,' --shard 3/2 --failed a.txt", 2, "",
+             "...: --failed a.txt: the file exists ...\n...: --tags holds no tag\n...: --shard takes I/N "
+             "with I from 1 to N, not \"3/2\"\n...",
+             ""},
             {"unknown command", "tag list", 2, "", "...: there is no command tag\nUsage: ...", ""},
         });
     }
@@ -68,8 +71,11 @@ private slots:
              "{\"file_name\":\"text.mp4\",\"text\":\"\"}\n{\"file_name\":\"b.png\",\"text\":\"Cat by sea, "
              "sky, sky\"}\n",
              "", ""},
-            {"into a file", "export a.png --output out.txt", 0, "", "", "out.txt sky [1]|sea [1]|\n"},
-            {"over a file", "export . --output a.txt", 1, "", "...: a.txt: File exists\n", ""},
+            {"into a file", "export a.png --output out.txt --json", 0,
+             "{\"file\":\"a.png\",\"status\":\"done\"}\n", "", "out.txt sky [1]|sea [1]|\n"},
+            {"over a file", "export a.png --output b.txt", 1, "", "...: b.txt: File exists\n", ""},
+            {"over a source", "export . --output a.txt --overwrite", 1, "", "...: a.txt: is a source, ...",
+             ""},
         });
     }
     void exports() { check(); }
@@ -81,7 +87,7 @@ private slots:
              "out/a.jpg 20x15\nout/a.png 20x15\nout/b.png 20x15\nout/sub/a.png 20x15\n"},
             {"stretched", "resize . --size 20x20 --aspect ignore --output out --quiet", 0, "", "",
              "out/a.jpg 20x20\nout/a.png 20x20\nout/b.png 20x20\n"},
-            {"cut", "resize a.png --ratio 0.5 --in-place --quiet", 0, "", "", "a.png 40x15\n"},
+            {"cut", "resize a.png ./a.png --ratio 0.5 --in-place --quiet", 0, "", "", "a.png 40x15\n"},
             {"a list of trouble", "resize a.png gone.png a.txt sub --scale 1 --output out --failed left", 1,
              "",
              "...: gone.png: no such file\n...: a.txt: Unsupported image format\n...: sub/a.png: another "
@@ -125,6 +131,12 @@ private slots:
         QVERIFY(resize("--scale 3 --output out --resume --overwrite --json")
                     .out.contains(R"({"file":"./b.png","reason":"out/b.png is there","status":"skipped"})"));
         QCOMPARE(treeText(folder.filePath("out")), QString("a.png 60x30\nb.png 120x90\n"));
+        // A chain of links stays one.
+        QVERIFY(QFile::link("a.png", folder.filePath("link.png")));
+        QVERIFY(QFile::link("link.png", folder.filePath("chain.png")));
+        QCOMPARE(runBatch(folder.path(), "resize chain.png --scale 2 --in-place").exitCode, 0);
+        QVERIFY(QFileInfo(folder.filePath("link.png")).isSymLink());
+        QCOMPARE(QImageReader(folder.filePath("a.png")).size(), QSize(40, 20));
     }
 
     void checks_data() {
@@ -138,8 +150,10 @@ private slots:
              "rare-tag\tCat by sea\t1\nrare-tag\tSky\t1\nresolution\t40x30\t4\naspect\t4:3\t4\n",
              "", ""},
             {"nothing wrong", "check a.png --rare 0", 0, "resolution\t40x30\t1\naspect\t4:3\t1\n", "", ""},
-            {"for machines", "check m.safetensors --json --rare 0", 1,
-             "{\"kind\":\"missing-sidecar\",\"what\":\"m.safetensors\"}\n{\"detail\":...\"undecodable\"...}"
+            {"for machines", "check sub/text.mp4 m.safetensors --json --rare 0", 1,
+             "...{\"detail\":\"Could not open "
+             "file\",\"kind\":\"undecodable\",...}\n{\"kind\":\"missing-sidecar\",\"what\":\"m.safetensors\"}"
+             "\n{\"detail\":...\"undecodable\"...}"
              "\n",
              "", ""},
         });
@@ -292,6 +306,7 @@ private:
         folder.addTags("sub/a.png", "\xFF\xFE");
         folder.addTags("sub/text.mp4", "");
         folder.addFile("sub/bad.png", "no image");
+        folder.addFile(".hidden.png", "no image");
         folder.addFile("sub/text.mp4", "no clip");
         folder.addFile("m.safetensors", modelFile());
         folder.addFile("sub/cut.safetensors", "short");
