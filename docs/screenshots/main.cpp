@@ -13,7 +13,7 @@ int main(int argc, char* argv[]) {
     if (argc != 2)
         qFatal("usage: tessarine_screenshots PICTURE_DIRECTORY");
     QCoreApplication::setApplicationName("Tessarine");
-    QCoreApplication::setApplicationVersion("0.7.0.94");
+    QCoreApplication::setApplicationVersion(TESSARINE_VERSION);
     WindowDriver::forgetSettings();
     const QString data = QDir::tempPath() + "/landscapes";
     QDir(data).removeRecursively();

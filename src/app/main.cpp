@@ -25,7 +25,7 @@ void installTranslation(QTranslator& translator) {
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Tessarine"_s);
-    QCoreApplication::setApplicationVersion(u"%1.%2"_s.arg(u"0.7.0"_s, u"94"_s));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TESSARINE_VERSION));
     const QuitOnSignals quitOnSignals;
     QTranslator translator;
     installTranslation(translator);
