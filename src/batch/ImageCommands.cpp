@@ -108,7 +108,7 @@ ResizeOptions resizeOptions(Arguments& arguments) {
 QString settingsPath(const Arguments& arguments) {
     if (arguments.isSet(u"settings"_s))
         return arguments.value(u"settings"_s);
-    const QString beside = QCoreApplication::applicationDirPath() + "/settings.data"_L1;
+    QString beside = QCoreApplication::applicationDirPath() + "/settings.data"_L1;
     if (QFileInfo::exists(beside))
         return beside;
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +

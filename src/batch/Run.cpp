@@ -37,7 +37,7 @@ void onInterrupt(int /*signal*/) {
 }
 
 QString timeText(double seconds) {
-    const auto whole = static_cast<qint64>(seconds + 0.5);
+    const qint64 whole = qRound64(seconds);
     const auto twoDigits = [](qint64 number) { return QString::number(number).rightJustified(2, u'0'); };
     return u"%1:%2:%3"_s.arg(QString::number(whole / 3600), twoDigits(whole / 60 % 60),
                              twoDigits(whole % 60));

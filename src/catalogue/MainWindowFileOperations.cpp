@@ -67,7 +67,7 @@ void MainWindow::initFileOperationConnections() {
 }
 
 QString MainWindow::selectDirectory() {
-    const QString directory =
+    QString directory =
         QFileDialog::getExistingDirectory(this, tr("Select directory"), _workingPath,
                                           QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!directory.isEmpty())

@@ -134,5 +134,5 @@ private:
     QList<Step> _undo;
     QList<Step> _redo;
     qsizetype _undoBytes = 0;
-    qsizetype _undoLimit = 64 * 1024 * 1024;
+    qsizetype _undoLimit = qsizetype{64} * 1024 * 1024;
 };

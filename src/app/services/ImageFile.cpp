@@ -81,7 +81,7 @@ QByteArray encodedImageFile(const QImage& image, const QString& filePath, const 
 int imageAllocationLimit(quint64 memory) {
     constexpr quint64 leastMiB = 1024;
     constexpr quint64 mostMiB = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(memory / 4 / (1024 * 1024), leastMiB, mostMiB));
+    return static_cast<int>(std::clamp(memory / 4 / (quint64{1024} * 1024), leastMiB, mostMiB));
 }
 
 bool exceedsImageAllocationLimit(const QSizeF& size) {
