@@ -3,9 +3,14 @@ include_guard(GLOBAL)
 # What every target compiles with: standard, warnings, sanitizers, Qt's strict mode.
 add_library(tessarine_options INTERFACE)
 target_compile_features(tessarine_options INTERFACE cxx_std_20)
-target_compile_options(tessarine_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Woverloaded-virtual -Wnon-virtual-dtor
-    $<$<BOOL:${TESSARINE_WERROR}>:-Werror>)
+if(MSVC)
+    target_compile_options(tessarine_options INTERFACE
+        /W4 /utf-8 /permissive- /Zc:__cplusplus $<$<BOOL:${TESSARINE_WERROR}>:/WX>)
+else()
+    target_compile_options(tessarine_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Woverloaded-virtual -Wnon-virtual-dtor
+        $<$<BOOL:${TESSARINE_WERROR}>:-Werror>)
+endif()
 target_compile_definitions(tessarine_options INTERFACE QT_ENABLE_STRICT_MODE_UP_TO=0x060A00)
 if(TESSARINE_SANITIZE)
     target_compile_options(tessarine_options INTERFACE -fsanitize=${TESSARINE_SANITIZE} -fno-omit-frame-pointer)
@@ -30,7 +35,7 @@ function(tessarine_library name)
     endif()
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE tessarine_product_options)
-    if(ARG_STRICT)
+    if(ARG_STRICT AND NOT MSVC)
         target_compile_options(${name} PRIVATE -Wconversion -Wno-sign-conversion)
     endif()
 endfunction()

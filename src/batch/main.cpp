@@ -77,8 +77,8 @@ int runCommand(const Command* command, const QStringList& words) {
 
 int main(int argc, char* argv[]) {
     const QLatin1StringView name(argc > 1 ? argv[1] : "");
-    const auto* const found = std::ranges::find(commands, name, &Command::name);
-    const Command* const command = found == commands.end() ? nullptr : found;
+    const auto found = std::ranges::find(commands, name, &Command::name);
+    const Command* const command = found == commands.end() ? nullptr : &*found;
     qInstallMessageHandler(dropMessage);
     const auto application = makeApplication(argc, argv, command && command->needsGui);
     QCoreApplication::setApplicationName(u"Tessarine"_s);

@@ -69,7 +69,7 @@ int valueFromTenths(double tenths) {
 } // namespace
 
 std::optional<FilterRange> filterRange(ImageFilters::FilterType type) {
-    const auto* const found = std::ranges::find(kNumberedFilters, type, &NumberedFilter::type);
+    const auto found = std::ranges::find(kNumberedFilters, type, &NumberedFilter::type);
     return found == kNumberedFilters.end() ? std::nullopt : std::optional(found->range);
 }
 
