@@ -15,7 +15,6 @@ Arguments::Arguments(const QString& command, const QString& description, const Q
 
 void Arguments::add(const QString& name, const QString& description, const QString& valueName,
                     const QString& defaultValue) {
-    _names.append(name);
     _parser.addOption({name, description, valueName, defaultValue});
 }
 

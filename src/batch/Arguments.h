@@ -21,8 +21,6 @@ public:
     [[nodiscard]] std::optional<int> parse(const QStringList& arguments);
 
     [[nodiscard]] const QString& command() const { return _command; }
-    // Whether the subcommand has this option at all.
-    [[nodiscard]] bool offers(const QString& name) const { return _names.contains(name); }
     [[nodiscard]] bool isSet(const QString& name) const { return _parser.isSet(name); }
     [[nodiscard]] QString value(const QString& name) const { return _parser.value(name); }
     [[nodiscard]] QStringList values(const QString& name) const { return _parser.values(name); }
@@ -42,6 +40,5 @@ public:
 private:
     QString _command;
     QCommandLineParser _parser;
-    QStringList _names;
     QStringList _faults;
 };

@@ -174,7 +174,6 @@ int captionCommand(const QStringList& words) {
     arguments.add(u"keep-duplicates"_s, Batch::tr("Keeps tags that a file has twice."));
     arguments.add(u"retry"_s, Batch::tr("Asks up to N times more after a failure."), u"N"_s, u"0"_s);
     arguments.add(u"timeout"_s, Batch::tr("Waits so many seconds for an answer."), u"SECONDS"_s, u"300"_s);
-    addJobsOption(arguments);
     if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
     const RunOptions run = runOptions(arguments);

@@ -197,7 +197,6 @@ int checkCommand(const QStringList& words) {
     Arguments arguments(u"check"_s, Batch::tr("Reports what is wrong with a dataset and what is in it."),
                         u"FILE..."_s);
     arguments.add(u"rare"_s, Batch::tr("Names tags that occur at most N times."), u"N"_s, u"1"_s);
-    addJobsOption(arguments);
     if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
     RunOptions run = runOptions(arguments);

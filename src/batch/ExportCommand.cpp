@@ -88,16 +88,14 @@ int exportCommand(const QStringList& words) {
 
     QStringList tags;
     QString text;
-    const int code = runOverFiles(files, run, [&](const BatchFile& file) {
-        const Sidecar sidecar = readSidecar(file.path);
-        if (!sidecar.error.isEmpty())
-            return FileResult::failed(sidecar.error);
-        if (format == ExportJsonl)
-            text += metadataLine(file, sidecar.tags());
-        else
-            tags += sidecar.tags();
-        return FileResult();
-    });
+    const int code =
+        runOverFiles(files, run, tagsResult, [&](const BatchFile& file, const FileResult& result) {
+            if (format == ExportJsonl && result.outcome == FileResult::Done)
+                text += metadataLine(file, tagsOf(result));
+            else
+                tags += tagsOf(result);
+            return true;
+        });
     if (isInterrupted())
         return code;
     if (format != ExportJsonl)

@@ -81,7 +81,9 @@ int grabCommand(const QStringList& words) {
     addOutputOptions(arguments, false);
     if (const std::optional<int> code = parseRun(arguments, words))
         return *code;
-    const RunOptions run = runOptions(arguments);
+    RunOptions run = runOptions(arguments);
+    // Players live on the main thread. What they decode is spread over processors by themselves.
+    run.jobs = 1;
     if (arguments.isSet(u"every"_s) == arguments.isSet(u"count"_s))
         arguments.reject(Batch::tr("either --every or --count is needed"));
     const GrabOptions options{.interval =

@@ -52,7 +52,6 @@ FileResult changeImage(const BatchFile& file, const Outputs& outputs, int qualit
 void addImageOptions(Arguments& arguments) {
     arguments.add(u"quality"_s, Batch::tr("Quality of the images from 1 to 100."), u"N"_s, u"100"_s);
     addOutputOptions(arguments, true);
-    addJobsOption(arguments);
 }
 
 int runOverImages(Arguments& arguments, const ImageChange& change) {

@@ -43,7 +43,7 @@ FileResult inspect(const BatchFile& file, const InspectOptions& options) {
         return FileResult::failed(header.messages.trimmed());
     FileResult result;
     if (!header.messages.isEmpty())
-        console::complain(file.path, header.messages.trimmed());
+        result.json.insert("messages"_L1, header.messages.trimmed());
     if (options.namesFiles)
         result.text = u"==> %1 <==\n"_s.arg(shownPath(file.path));
     const SafetensorsData& data = *header.data;
@@ -91,5 +91,12 @@ int inspectCommand(const QStringList& words) {
     }
     options.printsJson = run.printsJson;
     options.namesFiles = !run.printsJson && files.all.size() > 1;
-    return runOverFiles(files, run, [&](const BatchFile& file) { return inspect(file, options); });
+    return runOverFiles(
+        files, run, [&](const BatchFile& file) { return inspect(file, options); },
+        [](const BatchFile& file, FileResult& result) {
+            const QString messages = result.json.value("messages"_L1).toString();
+            if (!messages.isEmpty())
+                console::complain(file.path, messages);
+            return true;
+        });
 }

@@ -254,13 +254,10 @@ private:
 
 } // namespace
 
-void addJobsOption(Arguments& arguments) {
-    arguments.add(u"jobs"_s, Batch::tr("Works on N files at once; 0 stands for one a processor."), u"N"_s,
-                  u"1"_s);
-}
-
 std::optional<int> parseRun(Arguments& arguments, const QStringList& words) {
     addFileOptions(arguments);
+    arguments.add(u"jobs"_s, Batch::tr("Works on N files at once; 0 stands for one a processor."), u"N"_s,
+                  u"1"_s);
     arguments.add(u"progress"_s, Batch::tr("Shows a bar on standard error if that is a terminal."));
     arguments.add(u"json"_s, Batch::tr("Prints one JSON object a line."));
     arguments.add(u"quiet"_s, Batch::tr("Prints no summary, only failures."));
@@ -273,8 +270,7 @@ std::optional<int> parseRun(Arguments& arguments, const QStringList& words) {
 RunOptions runOptions(Arguments& arguments) {
     RunOptions options;
     options.command = arguments.command();
-    if (arguments.offers(u"jobs"_s))
-        options.jobs = arguments.wholeNumber(u"jobs"_s, 0, mostJobs);
+    options.jobs = arguments.wholeNumber(u"jobs"_s, 0, mostJobs);
     if (options.jobs == 0)
         options.jobs = QThread::idealThreadCount();
     options.showsProgress = arguments.isSet(u"progress"_s);

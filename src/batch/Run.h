@@ -22,7 +22,6 @@ struct FileResult {
     [[nodiscard]] static FileResult skipped(const QString& reason) { return {Skipped, reason}; }
 };
 
-void addJobsOption(Arguments& arguments);
 // Adds the options by which all subcommands choose files and report, and parses. The exit code where the
 // run ends here.
 [[nodiscard]] std::optional<int> parseRun(Arguments& arguments, const QStringList& words);

@@ -5,6 +5,9 @@
 #include "tags/TagText.h"
 
 #include <QFile>
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
 
 QStringList Sidecar::tags() const {
     return tagsFromText(text);
@@ -27,4 +30,17 @@ Sidecar readSidecar(const QString& mediaPath) {
         sidecar.error = Batch::tr("the sidecar is not valid UTF-8");
     sidecar.text = QString::fromUtf8(bytes);
     return sidecar;
+}
+
+FileResult tagsResult(const BatchFile& file) {
+    const Sidecar sidecar = readSidecar(file.path);
+    if (!sidecar.error.isEmpty())
+        return FileResult::failed(sidecar.error);
+    FileResult result;
+    result.json.insert("tags"_L1, QJsonArray::fromStringList(sidecar.tags()));
+    return result;
+}
+
+QStringList tagsOf(const FileResult& result) {
+    return result.json.value("tags"_L1).toVariant().toStringList();
 }

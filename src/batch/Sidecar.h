@@ -1,5 +1,7 @@
 #pragma once
 
+#include "batch/Run.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -13,3 +15,7 @@ struct Sidecar {
     [[nodiscard]] QStringList tags() const;
 };
 [[nodiscard]] Sidecar readSidecar(const QString& mediaPath);
+
+// The tags of a file as "tags" in what its result says to machines, and taken from there.
+[[nodiscard]] FileResult tagsResult(const BatchFile& file);
+[[nodiscard]] QStringList tagsOf(const FileResult& result);

@@ -28,12 +28,9 @@ struct EditOptions {
 };
 
 FileResult listTags(const BatchFile& file) {
-    const Sidecar sidecar = readSidecar(file.path);
-    if (!sidecar.error.isEmpty())
-        return FileResult::failed(sidecar.error);
-    FileResult result;
-    result.text = u"%1\t%2\n"_s.arg(shownPath(file.path), sidecar.tags().join(", "_L1));
-    result.json.insert("tags"_L1, QJsonArray::fromStringList(sidecar.tags()));
+    FileResult result = tagsResult(file);
+    if (result.outcome == FileResult::Done)
+        result.text = u"%1\t%2\n"_s.arg(shownPath(file.path), tagsOf(result).join(", "_L1));
     return result;
 }
 
@@ -62,13 +59,10 @@ FileResult editTags(const BatchFile& file, const TagEdit& edit, const EditOption
 int countTags(const FileList& files, RunOptions run) {
     QHash<QString, qsizetype> counts;
     const bool printsJson = std::exchange(run.printsJson, false);
-    const int code = runOverFiles(files, run, [&](const BatchFile& file) {
-        const Sidecar sidecar = readSidecar(file.path);
-        if (!sidecar.error.isEmpty())
-            return FileResult::failed(sidecar.error);
-        for (const QString& tag : sidecar.tags())
+    const int code = runOverFiles(files, run, tagsResult, [&](const BatchFile&, const FileResult& result) {
+        for (const QString& tag : tagsOf(result))
             ++counts[tag];
-        return FileResult();
+        return true;
     });
     QList<TagCount> counted;
     for (const auto& [tag, count] : counts.asKeyValueRange())

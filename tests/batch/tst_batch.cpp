@@ -64,7 +64,7 @@ private slots:
 
     void exports_data() {
         addRuns({
-            {"text", "export .", 0, "Cat by sea [1]\nsea [2]\nsky [4]\n", "", ""},
+            {"text", "export . --jobs 2", 0, "Cat by sea [1]\nsea [2]\nsky [4]\n", "", ""},
             {"csv", "export a.png --format csv", 0, "tag,count\nsky,1\nsea,1\n", "", ""},
             {"json", "export a.png --format json", 0, "[...\"count\": 1,...\"tag\": \"sky\"...]\n", "", ""},
             {"a line a file", "export sub/text.mp4 b.png --base . --format jsonl", 0,
@@ -72,7 +72,8 @@ private slots:
              "sky, sky\"}\n",
              "", ""},
             {"into a file", "export a.png --output out.txt --json", 0,
-             "{\"file\":\"a.png\",\"status\":\"done\"}\n", "", "out.txt sky [1]|sea [1]|\n"},
+             "{\"file\":\"a.png\",\"status\":\"done\",\"tags\":[\"sky\",\"sea\"]}\n", "",
+             "out.txt sky [1]|sea [1]|\n"},
             {"over a file", "export a.png --output b.txt", 1, "", "...: b.txt: File exists\n", ""},
             {"over a source", "export . --output a.txt --overwrite", 1, "", "...: a.txt: is a source, ...",
              ""},
