@@ -54,10 +54,10 @@ double Arguments::number(const QString& name, double minimum, double maximum) {
 }
 
 int Arguments::choice(const QString& name, const QStringList& choices) {
-    const qsizetype place = choices.indexOf(value(name));
-    if (place < 0)
+    const qsizetype index = choices.indexOf(value(name));
+    if (index < 0)
         reject(Batch::tr("--%1 is one of %2, not \"%3\"").arg(name, choices.join(", "_L1), value(name)));
-    return static_cast<int>(place);
+    return static_cast<int>(index);
 }
 
 int Arguments::wrongUsage() const {

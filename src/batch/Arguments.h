@@ -29,7 +29,7 @@ public:
     // Values outside the range are rejected; without a value nothing is.
     [[nodiscard]] int wholeNumber(const QString& name, int minimum, int maximum);
     [[nodiscard]] double number(const QString& name, double minimum, double maximum);
-    // The place of the value in the list.
+    // The index of the value in the list; -1 where it is rejected.
     [[nodiscard]] int choice(const QString& name, const QStringList& choices);
 
     void reject(const QString& why) { _faults.append(why); }

@@ -13,7 +13,7 @@ class ClipFrames {
 public:
     // What is wrong with the clip; empty where its first frame is there.
     [[nodiscard]] QString open(const QString& path);
-    // In milliseconds; not positive where the clip does not tell.
+    // In milliseconds; not positive where the clip has no duration.
     [[nodiscard]] qint64 duration() const { return _player.duration(); }
     // Positions only go forward, from 0. Nothing behind the last picture.
     [[nodiscard]] std::optional<QImage> frameAt(qint64 position);

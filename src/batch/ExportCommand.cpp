@@ -52,10 +52,12 @@ QString metadataLine(const BatchFile& file, QStringList tags) {
 
 // Whether the path is one of the files, or of their sidecars.
 bool isExported(const FileList& files, const QString& path) {
-    const QString place = path.isNull() ? QString() : QFileInfo(path).canonicalFilePath();
-    const auto isPlace = [&](const QString& other) { return QFileInfo(other).canonicalFilePath() == place; };
-    return !place.isEmpty() && std::ranges::any_of(files.all, [&](const QString& file) {
-        return isPlace(file) || isPlace(imgFilePathToTxtFilePath(file));
+    const QString canonical = path.isNull() ? QString() : QFileInfo(path).canonicalFilePath();
+    const auto isSame = [&](const QString& other) {
+        return QFileInfo(other).canonicalFilePath() == canonical;
+    };
+    return !canonical.isEmpty() && std::ranges::any_of(files.all, [&](const QString& file) {
+        return isSame(file) || isSame(imgFilePathToTxtFilePath(file));
     });
 }
 

@@ -96,9 +96,9 @@ private:
         QStringList waiting{QString()};
         while (!waiting.isEmpty()) {
             const QString below = waiting.takeLast();
-            const QString place = below.isEmpty() ? directory : slashed(directory) + below;
+            const QString current = below.isEmpty() ? directory : slashed(directory) + below;
             std::error_code error;
-            fs::directory_iterator entries(fs::path(QFile::encodeName(place).toStdString()), error);
+            fs::directory_iterator entries(fs::path(QFile::encodeName(current).toStdString()), error);
             for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
                 const QString name = QFile::decodeName(entries->path().filename().c_str());
                 // The window lists no hidden files either.
@@ -114,7 +114,7 @@ private:
                 }
             }
             if (error)
-                _unread.append({place, QString::fromLocal8Bit(error.message())});
+                _unread.append({current, QString::fromLocal8Bit(error.message())});
         }
         relatives.sort();
         for (const QString& relative : std::as_const(relatives))
@@ -128,9 +128,9 @@ private:
 
     void append(const QString& path, const QString& relative, const QString& key) {
         // One file may be named twice in different forms.
-        const QString place = QDir::cleanPath(QDir::current().absoluteFilePath(path));
-        if (!_paths.contains(place)) {
-            _paths.insert(place);
+        const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+        if (!_paths.contains(absolute)) {
+            _paths.insert(absolute);
             _entries.append({{path, relative}, key});
         }
     }

@@ -36,7 +36,7 @@ FileResult grab(const BatchFile& file, const Outputs& outputs, const GrabOptions
     if (const QString error = clip.open(file.path); !error.isEmpty())
         return FileResult::failed(error);
     if (options.interval == 0 && clip.duration() < options.count)
-        return FileResult::failed(Batch::tr("the clip is too short, or does not tell its duration"));
+        return FileResult::failed(Batch::tr("the clip is too short, or has no duration"));
     QJsonArray written;
     std::optional<FileResult> refusal;
     for (qint64 index = 0;; ++index) {

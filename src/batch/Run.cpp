@@ -91,7 +91,7 @@ FileResult resultOf(const BatchFile& file, const FileWork& work) {
     if (status.type() == std::filesystem::file_type::not_found) {
         if (QFileInfo(file.path).isSymLink())
             return FileResult::failed(Batch::tr("a link to nothing"));
-        // What stands for bytes that the encoding of file names lacks.
+        // The character that replaces bytes which are not valid UTF-8.
         return FileResult::failed(file.path.contains(QChar::ReplacementCharacter)
                                       ? Batch::tr("its name is not valid UTF-8")
                                       : Batch::tr("no such file"));
