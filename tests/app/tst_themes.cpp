@@ -43,7 +43,7 @@ private slots:
                 }
             }
         }
-        QCOMPARE(colours.result().toHex(), QByteArray("e940e29c69bd0138774f3df711a62963"));
+        QCOMPARE(colours.result().toHex(), QByteArray("3782ff9ef92987ce3a025212eaa6442f"));
     }
 
     void choicesComeBack_data() {
