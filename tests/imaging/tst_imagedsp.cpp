@@ -43,6 +43,14 @@ Routine blur(int radius, bool alphaOnly) {
     return [=](const QImage& image) { return ImageDSP::blurred(image, image.rect(), radius, alphaOnly); };
 }
 
+// One after the other, so that each radius leaves its trace.
+QImage blurredByAll(const QImage& image) {
+    QImage result = image;
+    for (int radius = 20; radius >= -1; --radius)
+        result = ImageDSP::blurred(result, image.rect(), radius, false);
+    return result;
+}
+
 Routine convolution(const Kernel& kernel, int width, int height,
                     QPainter::CompositionMode mode = QPainter::CompositionMode_Source) {
     return [=](const QImage& image) {
@@ -75,9 +83,8 @@ private slots:
              "959477f9"},
             {"black point", [](const QImage& image) { return ImageDSP::blackPointed(image, 128); },
              "93388065"},
-            {"no blur", blur(0, false), "dc43e120"},
             {"blur", blur(1, false), "dcb0547f"},
-            {"more blur", blur(7, false), "b66c83c5"},
+            {"each blur", blurredByAll, "5742f412"},
             {"most blur", blur(20, false), "631140b5"},
             {"blur of alpha", blur(3, true), "fe36f107"},
             {"sharpen", convolution({-1, -1, -1, -1, 9, -1, -1, -1, -1}, 3, 3), "08e47e2e"},
