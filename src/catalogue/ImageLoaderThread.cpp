@@ -15,7 +15,7 @@ PreviewResult decodePreview(const QString& filePath, const QSize& size) {
     }
     PreviewResult result;
     // Opening a pipe would wait for its writer.
-    if (const QFileInfo info(filePath); !info.exists() || info.isFile() || info.isDir()) {
+    if (const QFileInfo info(filePath); info.isFile() || info.isDir() || !info.exists()) {
         result.resolution = reader.size();
         result.image = reader.read();
     }

@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QTemporaryFile>
 
+#include <algorithm>
+#include <utility>
+
 #ifdef Q_OS_UNIX
 #include <unistd.h>
 #endif
@@ -53,7 +56,8 @@ struct ThumbnailStore::Segment {
 };
 
 qint64 ThumbnailStore::usualBudget() {
-    constexpr qint64 most = 1024 * kMebibyte;
+    // Below a gibibyte, as the rows of a large directory take some hundred megabytes besides.
+    constexpr qint64 most = 800 * kMebibyte;
 #ifdef _SC_PHYS_PAGES
     return std::min(most, static_cast<qint64>(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE) / 4);
 #else

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QImage keep(const QImage& image);
     [[nodiscard]] qint64 bytesInMemory() const { return *_inMemory; }
 
-    // A quarter of the machine's memory, at most a gibibyte.
+    // A quarter of the machine's memory, at most 800 MiB.
     [[nodiscard]] static qint64 usualBudget();
 
 private:
