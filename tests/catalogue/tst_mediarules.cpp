@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 #include <QSemaphore>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 
 // Names, sizes, records and models of media files, without a window.
@@ -48,22 +50,15 @@ private slots:
 
     void aFileThatBlocksLetsOthersBeRead() {
         QSemaphore others;
-        bool isFree = false;
-        qsizetype taken = 0;
-        readInOrder(
-            5000,
-            [&](qsizetype index) {
-                if (index == 0)
-                    isFree = others.tryAcquire(1000, 20000);
-                others.release();
-                return index;
-            },
-            [&](qsizetype index, qsizetype value) {
-                QCOMPARE(index, taken++);
-                QCOMPARE(value, index);
-            });
-        QVERIFY(isFree);
-        QCOMPARE(taken, 5000);
+        QList<qsizetype> taken;
+        const auto read = [&](qsizetype index) {
+            const bool isFree = index > 0 || others.tryAcquire(1000, 20000);
+            others.release();
+            return isFree ? index : -1;
+        };
+        readInOrder(5000, read, [&](qsizetype, qsizetype value) { taken.append(value); });
+        QCOMPARE(taken.size(), 5000);
+        QVERIFY(taken.first() == 0 && std::ranges::is_sorted(taken));
     }
 
     void thumbnailsAreCentred() {
@@ -88,22 +83,19 @@ private slots:
         const MediaFolder folder;
         folder.addFile("no directory");
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^Error, unable to make a file for thumbnails"));
-        for (const char* name : {"cache", "no directory"}) {
-            const bool hasFile = QLatin1StringView(name) == QLatin1StringView("cache");
+        for (const auto& [name, inMemory] : {std::pair("cache", 6080), std::pair("no directory", 18240)}) {
             ThumbnailStore store(10000, folder.filePath(name));
             QList<QImage> kept;
             for (const auto color : {Qt::red, Qt::green, Qt::blue}) {
                 QImage image(50, 40, QImage::Format_RGB888);
                 image.fill(color);
                 kept.append(store.keep(image));
-                QCOMPARE(kept.last(), image);
             }
-            QCOMPARE(kept.first().pixelColor(49, 39), QColor(Qt::red));
             QCOMPARE(kept.at(1).pixelColor(49, 39), QColor(Qt::green));
-            QCOMPARE(store.bytesInMemory(), hasFile ? 6080 : 18240);
-            QVERIFY(QDir(folder.filePath("cache")).isEmpty());
+            QCOMPARE(store.bytesInMemory(), inMemory);
+            QVERIFY(QDir(folder.filePath(name)).isEmpty());
             kept.removeFirst();
-            QCOMPARE(store.bytesInMemory(), hasFile ? 0 : 12160);
+            QCOMPARE(store.bytesInMemory(), inMemory - 6080);
         }
     }
 

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QListView>
+#include <QSignalSpy>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTreeView>
@@ -25,6 +26,12 @@ private slots:
         folder.addImage("a name that is longer than the canvas of its thumbnail is wide.png");
         folder.addTags("a.png", "tag,a tag that is longer than the canvas of a thumbnail is wide, ,");
         WindowDriver driver(folder.path());
+        QVERIFY(driver.waitForLoad());
+        // Thumbnails are announced together.
+        const QSignalSpy changes(driver.currentView()->model(), &QAbstractItemModel::dataChanged);
+        for (const QString& file : driver.window().allFilePaths())
+            driver.window().onItemImageLoaded(file, QImage(8, 8, QImage::Format_RGB32));
+        QTRY_COMPARE(changes.count(), 1);
         const QStyledItemDelegate plain;
         for (const char* name : {"listView", "lwAllImagesTags"}) {
             const auto* view = driver.widget<QListView>(name);
@@ -68,31 +75,23 @@ private slots:
         QVERIFY(!header->isSectionHidden(ColSize));
     }
 
-    void embeddedTextsShowWithTheirTab() {
+    void manyEmbeddedTextsAreReadWithTheirTab() {
         const MediaFolder folder;
         for (int number = 0; number < 150; ++number)
-            folder.addImage(QString("%1.png").arg(number), {2, 2}, Qt::red,
-                            {{"Comment", QString::number(number)}});
+            folder.addImage(QString("%1.png").arg(number), {2, 2}, Qt::red, {{"Comment", "c"}});
         WindowDriver driver(folder.path());
         auto* tabs = driver.widget<QTabWidget>("tWTools");
         const auto* tree = driver.widget<QTreeWidget>("tWComments");
         QAbstractItemView* view = driver.currentView();
-        for (const char* other : {"tabTags", "tabImageCOmment"}) {
-            for (const bool all : {true, false, true}) {
-                tabs->setCurrentWidget(driver.widget<QWidget>(other));
-                if (all)
-                    view->selectAll();
-                else
-                    view->setCurrentIndex(view->model()->index(7, ColName));
-                tabs->setCurrentWidget(driver.widget<QWidget>("tabImageCOmment"));
-                QStringList shown;
-                for (int top = 0; top < tree->topLevelItemCount(); ++top) {
-                    QVERIFY(tree->topLevelItem(top)->isExpanded());
-                    shown.append(tree->topLevelItem(top)->child(0)->text(1) + ".png");
-                }
-                shown.sort();
-                QCOMPARE(shown, driver.selectedNames());
-            }
+        for (const int files : {150, 1, 150}) {
+            tabs->setCurrentWidget(driver.widget<QWidget>("tabTags"));
+            view->selectAll();
+            if (files == 1)
+                view->setCurrentIndex(view->model()->index(7, ColName));
+            tabs->setCurrentWidget(driver.widget<QWidget>("tabImageCOmment"));
+            QCOMPARE(tree->topLevelItemCount(), files);
+            QVERIFY(tree->topLevelItem(files - 1)->isExpanded());
+            QCOMPARE(tree->topLevelItem(files - 1)->child(0)->text(1), QString("c"));
         }
     }
 };

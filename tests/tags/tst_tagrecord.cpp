@@ -143,25 +143,6 @@ private slots:
         QCOMPARE(folder.content("b.txt"), QByteArray("old,sea"));
     }
 
-    void badSidecarsAreLoggedInOrder() {
-        const MediaFolder folder;
-        QStringList keys;
-        QStringList lines;
-        for (int number = 0; number < 300; ++number) {
-            const QString name = QString("%1.png").arg(number);
-            keys.append(folder.filePath(name));
-            folder.addTags(name, "\xff");
-            lines.append("Warning, sidecar is not valid UTF-8: \"" +
-                         folder.filePath(QString("%1.txt").arg(number)) + '"');
-        }
-        static QStringList logged;
-        const auto previous = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext&, const QString& line) { logged.append(line); });
-        TagRecord().load(keys);
-        qInstallMessageHandler(previous);
-        QCOMPARE(logged, lines);
-    }
-
     void savingCostsOneFileAFault() {
         const MediaFolder folder;
         const QStringList keys{folder.filePath("a.png"), folder.filePath("b.png"), folder.filePath("s.png"),
