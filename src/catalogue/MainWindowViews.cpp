@@ -294,7 +294,7 @@ MediaFacts MainWindow::mediaFacts(int row, const QString& filePath) const {
 
 void MainWindow::onFilterImages(const QString& txt) {
     const QString reason = tr("%1 hidden by the filter line");
-    if (MediaQuery::isQuery(txt)) {
+    if (MediaQuery::isQuery(txt) && !beginsMissingTxtFilter(txt)) {
         MediaQuery query(txt);
         if (query.isValid()) {
             int found = 0;

@@ -11,6 +11,10 @@ bool isMissingTxtFilter(const QString& txt) {
     return txt.compare(":missingtxt"_L1, Qt::CaseInsensitive) == 0;
 }
 
+bool beginsMissingTxtFilter(const QString& txt) {
+    return ":missingtxt"_L1.startsWith(txt, Qt::CaseInsensitive);
+}
+
 MediaFilter::MediaFilter(const QString& txt) : _matcher(txt, Qt::CaseInsensitive) {}
 
 bool MediaFilter::matches(const MediaItemModel& model, int row, const QStringList& tags) const {

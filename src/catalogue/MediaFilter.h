@@ -8,6 +8,8 @@ class MediaItemModel;
 
 // Whether the filter text asks for the files whose sidecar is missing or empty.
 [[nodiscard]] bool isMissingTxtFilter(const QString& txt);
+// Also while it is typed.
+[[nodiscard]] bool beginsMissingTxtFilter(const QString& txt);
 
 // The file filter's search through one row of the catalogue and the tags of its file, regardless of case.
 class MediaFilter {

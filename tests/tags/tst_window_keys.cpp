@@ -98,6 +98,9 @@ private slots:
         line->setText(":video clip");
         QCOMPARE(driver.shownNames(), QStringList());
         QVERIFY(driver.statusText().contains("\"clip\""));
+        line->setText(":video");
+        line->setText(":missingTx");
+        QCOMPARE(driver.statusText(), QString("Found 1 files."));
     }
 
     void listsHaveTheirKeys() {
