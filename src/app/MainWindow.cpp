@@ -28,9 +28,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Lets the window paint itself before the first scan blocks it.
 constexpr int firstScanDelayMs = 250;
 
-// Settings lie beside the executable, or with the user where that place is read-only.
+// Settings are stored beside the executable, or in the user's configuration directory where the executable's
+// is read-only.
 Settings::SettingsLocation settingsLocation() {
     const bool isWritable = QFileInfo(QCoreApplication::applicationDirPath()).isWritable();
     return isWritable ? Settings::AppDirLocation : Settings::UserConfigLocation;
@@ -56,12 +58,15 @@ MainWindow::MainWindow(QWidget* parent)
     keepMessages(this);
     Settings::instance(this, settingsLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
+    // Without arguments, as the program does not read its command line: the log has its default level.
     LogService::instance()->init({});
     Profiles::instance(this)->setAllowedOptionsKeys({u"effectList"_s});
     initUi();
     initConnections();
-    // The quality never survives a start, whatever was restored.
+    // Every run starts with the best quality, although readSettings has just restored the last one.
     ui->hSResizeImgWriteQuality->setValue(100);
+    // The form checks this box before any slot is connected. The signal emitted by hand makes the slot
+    // uncheck the other two.
     emit ui->gBResizeSpecificSize->toggled(true);
     initOllama();
     onFilterProfilesHasChanged();
@@ -72,13 +77,15 @@ MainWindow::~MainWindow() {
     closeOptions();
     closeToolWindows();
     _recovery->close();
-    // Nothing makes a loader any more, and the log has to outlive its workers.
+    // No window is left that could create another loader. Its threads write to the log, so they end before
+    // it.
     delete std::exchange(_imageLoader, nullptr);
     writeSettings();
     Settings::destroyInstance();
     Themes::destroyInstance();
     Profiles::destroyInstance();
-    // The widgets go with the base class: a path edit that loses its focus then must find nobody here.
+    // The base class destroys the widgets. A path edit that loses its focus meanwhile would call a slot of
+    // this half-destroyed window, so nothing stays connected to it.
     const QList<QObject*> children = findChildren<QObject*>();
     for (const QObject* child : children)
         child->disconnect(this);
@@ -86,7 +93,7 @@ MainWindow::~MainWindow() {
     LogService::destroy();
 }
 
-// Tool windows store their geometry when they close, so they go while the settings still stand.
+// Tool windows store their geometry when they close, so they are closed while the settings still exist.
 void MainWindow::closeToolWindows() {
     const QList<QWidget*> children = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
@@ -126,6 +133,7 @@ void MainWindow::initActions() {
     connect(editVideoAction, &QAction::triggered, this, &MainWindow::showEditVideoWidget);
     connect(addTagAction, &QAction::triggered, this, &MainWindow::addTagToSelected);
     addActions({editImageAction, addTagAction});
+    // In the tool bar only: the context menu lists the window's actions and has its own entry for videos.
     ui->toolBar->addAction(editVideoAction);
 }
 

@@ -87,10 +87,10 @@ private:
     void initStatusPanelConnections();
     void updateShownCount();
     void updateUnsavedCount();
-    // What the operation really did, kept in the panel until the next one ends. A failure is a line of file
+    // Shows in the panel what an operation has done, until the next one ends. Each failure is a line of file
     // and reason.
     void showResult(const QString& verb, qsizetype done, qsizetype total, const QStringList& failures);
-    // A message or a count in the middle of a loop that blocks the window.
+    // Show a message or a count from inside a loop that blocks the window.
     void showBlockingMessage(const QString& msg);
     void showBlockingProgress(const QString& text);
 
@@ -110,7 +110,7 @@ private:
 public:
     void openWorkingDirectory(const QString& path);
     [[nodiscard]] QStringList allFilePaths() const;
-    // Column 0 indexes of the view now shown, in terms of that view's model.
+    // Column 0 indexes of the view that is shown, in that view's model.
     [[nodiscard]] QModelIndexList selectedIndexes() const;
     [[nodiscard]] QStringList selectedFilePaths() const;
 
@@ -141,7 +141,7 @@ public slots:
 
 private:
     void queuePreview(const QString& filePath, const QSize& size);
-    // The same for all files of a scan, whose end announces the change.
+    // The same for all files of a scan, without a signal for each: the scan announces all rows at its end.
     void queuePreviews(const QStringList& filePaths);
     MediaItem* enqueuePreview(const QString& filePath, const QSize& size);
     void setItemImage(const QString& filePath, const QSize& size, const QImage& image);
@@ -170,7 +170,8 @@ private:
     void initViewKeys();
     // Opens the first selected file in the window for its kind.
     void openSelectedFile();
-    // Selects the row so many rows on in the view that is shown.
+    // Selects the row `step` rows below the current one in the view that is shown; without a current row the
+    // first or, upwards, the last one.
     void stepRow(int step);
     // Selects one row of the view that is shown, at most the last.
     void selectRow(int row);
@@ -237,7 +238,7 @@ private:
     // The working directory, or empty after a message about it.
     [[nodiscard]] QString importDirectory();
     void importPaths(const QStringList& sources, const QString& directory);
-    // Opens a directory that comes alone, after the question about it; imports anything else.
+    // Opens a single directory after the user has agreed; imports anything else.
     void openDropped(const QStringList& paths);
     // Returns the reason of a failure; null where the file was imported. Appends the new path of a media
     // file.
@@ -275,13 +276,13 @@ private:
     void initSidecarConnections();
     // Reads the sidecar of a media file, shows it in the raw text editor and binds the editor to it.
     QStringList readTagFile(const QString& filePath);
-    // Takes the tags of the sidecars into the record. The editor shows the last one unless the user has
-    // typed.
+    // Reads the sidecars into the tag record. The editor shows the last one unless it holds text that the
+    // user has typed.
     void readTagFiles(const QStringList& filePaths);
     // The same as a step of undo.
     void importTagFiles(const QStringList& filePaths);
     void unbindTagFile();
-    // Keeps what the user has typed while the first selected file stays the same.
+    // Shows the sidecar of the first selected file. Typed text stays while that file stays the same.
     void followTagFile(const QString& filePath);
     [[nodiscard]] bool isTagFileEdited() const;
     // False where the file was not written, which is shown.
@@ -312,10 +313,11 @@ private:
     void initTagPanelKeys();
     // Moves the current tag of the one selected file.
     void moveImageTag(TagMove move);
-    // What follows each change of the record.
+    // Updates the panels after a change of the tag record.
     void onTagsChanged(TagChange change);
     Q_INVOKABLE void refreshAllTags();
     void refreshSelectionTags(const QStringList& filePaths);
+    // Shows the tags of this file alone, even if several files are selected.
     void refreshImageTags(const QString& filePath);
     void deleteTagsEverywhere(const QStringList& tags);
     void addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order);
@@ -354,7 +356,8 @@ private:
     void initOllama();
     void initOllamaConnections();
     void ollamaSendPrompts();
-    // False for a file that is not sent. The window may be gone afterwards.
+    // False where the file was not sent. The request runs a nested event loop, in which the window may be
+    // destroyed.
     bool ollamaSendPrompt(const QString& imgFilePath);
     void dropOllamaQueue();
     void showOllamaProgress(int processed);
@@ -362,7 +365,7 @@ private:
     [[nodiscard]] QImage scaleOllamaImage(const QImage& image) const;
 
     OllamaApi* _ollamaApi = nullptr;
-    // The files of the running batch that have not been taken yet.
+    // The files of the running batch whose requests have not begun.
     QStringList ollamaQueue;
     int _ollamaTotal = 0;
     // The number of the running batch; 0 without one.

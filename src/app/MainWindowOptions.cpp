@@ -30,7 +30,8 @@ void MainWindow::onOptionsClosed() {
         _imageLoader->setImageThreadCount(settings->get(keys::imagePreviewThreadCount));
 }
 
-// A dialog that still runs when the window goes must not start a scan any more.
+// A dialog that is still open when the window is destroyed would start a scan on closing, so it is
+// disconnected first.
 void MainWindow::closeOptions() {
     const QList<OptionsDialog*> dialogs = findChildren<OptionsDialog*>(Qt::FindDirectChildrenOnly);
     for (OptionsDialog* dialog : dialogs) {

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int firstPreviewWidth = 280;
 
-// A value that is kept between runs: how it comes back, and how it is stored.
+// A value that is kept between runs: how it is restored and how it is stored.
 struct KeptValue {
     std::function<void(const Settings&)> read;
     std::function<void(Settings&)> write;
@@ -127,6 +127,7 @@ QList<KeptValue> keptWidgetValues(const Ui::MainWindow& ui, QString& lastOpenPat
         kept(
             keys::listViewViewMode,
             [list](int mode) {
+                // Any other number, which a damaged settings file may hold, means icons.
                 setStaticViewMode(list,
                                   mode == QListView::ListMode ? QListView::ListMode : QListView::IconMode);
             },
@@ -145,8 +146,8 @@ void MainWindow::readSettings() {
         value.read(settings);
 }
 
-// A first start shows all tabs and the largest page whole, as far as the screen has room. Tab widget and
-// scroll area ask for less than they hold.
+// A first start shows all tabs and the largest page whole, as far as the screen has room. The size hints of
+// tab widgets and scroll areas are smaller than their contents, so the contents are measured.
 void MainWindow::makeRoomForTools(bool mayResize) {
     const QWidget* page = ui->scrollAreaResizeContents;
     page->layout()->activate();
@@ -165,6 +166,7 @@ void MainWindow::makeRoomForTools(bool mayResize) {
 }
 
 void MainWindow::writeSettings() {
+    // Copies the chain of filters that is shown into the current profile, which is stored below.
     onFilterProfilesCurrentAboutToChange();
     Settings& settings = *Settings::instance();
     settings.set(keys::appGeometry, saveGeometry());

@@ -41,7 +41,7 @@ void MainWindow::initStatusPanel() {
 }
 
 void MainWindow::initStatusPanelConnections() {
-    // A hidden row comes and leaves without a signal of the proxy.
+    // The proxy emits no signal when a hidden row is inserted or removed.
     connect(_itemModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateShownCount);
     connect(_itemModel, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateShownCount);
     connect(_proxyModel, &QAbstractItemModel::modelReset, this, &MainWindow::updateShownCount);
@@ -59,7 +59,8 @@ void MainWindow::initStatusPanelConnections() {
         ui->dockWidget_Tools->show();
         ui->tWTools->setCurrentWidget(ui->tabOllama);
     });
-    // Shortcuts of the window, not of actions: what is typed into has its own undo, and no menu shows them.
+    // Shortcuts of the window instead of actions: no menu lists them, and a text edit with the focus handles
+    // these keys itself.
     const auto addShortcut = [this](const QKeySequence& keys, void (MainWindow::*slot)()) {
         auto* shortcut = new QShortcut(keys, this);
         connect(shortcut, &QShortcut::activated, this, slot);

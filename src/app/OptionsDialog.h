@@ -8,8 +8,8 @@ namespace Ui {
 class OptionsDialog;
 }
 
-// Edits the settings that have no widget in the main window. There is no cancel: however it ends, what stands
-// in it is stored.
+// Edits the settings that have no widget in the main window. There is no cancel: however the dialog is
+// closed, its values are stored.
 class OptionsDialog : public QDialog {
     Q_OBJECT
 

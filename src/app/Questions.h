@@ -4,12 +4,12 @@
 #include <QMessageBox>
 #include <QString>
 
-// Texts with paths, whose "<" and "&" mean themselves.
+// Sets texts that contain paths, so that "<" and "&" in them are not interpreted as markup.
 inline void setPlainTexts(QMessageBox& box, const QString& text, const QString& informativeText = {}) {
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     box.setInformativeText(informativeText);
-    // The format of the box is that of its first text alone.
+    // QMessageBox applies its format to the main text only; the informative text is a label of its own.
     const QList<QLabel*> labels = box.findChildren<QLabel*>();
     for (QLabel* label : labels)
         label->setTextFormat(Qt::PlainText);

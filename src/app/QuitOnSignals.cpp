@@ -11,7 +11,7 @@
 
 namespace {
 
-// Only async-signal-safe calls may stand in a handler, so it writes a byte that the event loop reads.
+// A signal handler may only make async-signal-safe calls, so it writes a byte that the event loop reads.
 int quitSockets[2] = {-1, -1};
 
 void onQuitSignal(int) {
@@ -28,6 +28,7 @@ QuitOnSignals::QuitOnSignals(QObject* parent) : QObject(parent) {
     connect(notifier, &QSocketNotifier::activated, this, &QCoreApplication::quit);
     struct sigaction action = {};
     action.sa_handler = onQuitSignal;
+    // Reset after the first signal, so that a second one ends a program whose event loop hangs.
     action.sa_flags = SA_RESTART | SA_RESETHAND;
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);

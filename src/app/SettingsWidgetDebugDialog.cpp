@@ -17,11 +17,11 @@ void SettingsWidgetDebugDialog::onRemoveSelected() {
     QTreeWidget* tree = _ui->treeWidget;
     const QList<QTreeWidgetItem*> items = tree->selectedItems();
     for (QTreeWidgetItem* item : items) {
-        const int place = tree->indexOfTopLevelItem(item);
-        if (place < 0)
+        const int index = tree->indexOfTopLevelItem(item);
+        if (index < 0)
             continue;
         _data.remove(item->text(0));
-        delete tree->takeTopLevelItem(place);
+        delete tree->takeTopLevelItem(index);
     }
 }
 

@@ -11,7 +11,8 @@ namespace Ui {
 class SettingsWidgetDebugDialog;
 }
 
-// A small editor of the raw settings table, which works on a copy and hands that back when it is applied.
+// A small editor of the raw settings table for developers: no menu entry opens it. It edits a copy, which
+// replaceSettings carries when the user applies it.
 class SettingsWidgetDebugDialog : public QDialog {
     Q_OBJECT
 

@@ -137,6 +137,7 @@ void StatusPanel::showResult(const OperationResult& result) {
 void StatusPanel::addToResult(const QString& verb, const QString& failure) {
     QStringList failures;
     if (_addedFiles == 0)
+        // The next event loop iteration starts a new count.
         QTimer::singleShot(0, this, [this] { _addedFiles = 0; });
     else
         failures = _failures;
@@ -150,7 +151,7 @@ void StatusPanel::repaintNow() {
     if (_sinceRepaint.isValid() && _sinceRepaint.elapsed() < repaintIntervalMs)
         return;
     _sinceRepaint.start();
-    // The panel lies in the status bar, whose message is painted along with it.
+    // The panel is a child of the status bar, whose message is repainted together with it.
     if (parentWidget())
         parentWidget()->repaint();
 }

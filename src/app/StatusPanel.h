@@ -18,9 +18,9 @@ struct OperationResult {
 [[nodiscard]] OperationResult operationResult(const QString& verb, qsizetype done, qsizetype total,
                                               const QStringList& failures);
 
-// The right end of the status bar: how many files are shown and unsaved, how far a batch is and what the last
-// operation did. Each button is hidden while it has nothing to say. Knows no catalogue; whoever owns it fills
-// it and follows its signals.
+// The right end of the status bar: how many files are shown and unsaved, the progress of a batch and the
+// result of the last operation. Each button is hidden while it has nothing to show. Independent of the
+// catalogue: the owner sets the values and connects the signals.
 class StatusPanel : public QWidget {
     Q_OBJECT
 
@@ -36,18 +36,18 @@ public:
 
     explicit StatusPanel(QWidget* parent = nullptr);
 
-    // Why files are hidden; "%1" stands for their number.
+    // Why files are hidden; "%1" is replaced by their number.
     void setHidingReason(const QString& reason) { _hidingReason = reason; }
     void showCounts(int shown, int total);
     void showUnsaved(const Unsaved& unsaved);
-    // How far a batch is that leaves the window alive; empty without one.
+    // Progress of a batch during which the window stays usable; empty without one.
     void showProgress(const QString& text);
-    // How far an operation is that blocks the window, in place of the above until it is empty again. Painted
-    // at once.
+    // Progress of an operation that blocks the window, shown instead of the above until it is set to an empty
+    // text. Painted at once.
     void showBlockingProgress(const QString& text);
     void showResult(const OperationResult& result);
-    // One file of an operation that reports each by itself; those of one turn of the event loop are counted
-    // together. The failure is null where the file was done.
+    // Adds one file to the result of an operation that reports its files one by one. Files of one event loop
+    // iteration are counted together. The failure is null on success.
     void addToResult(const QString& verb, const QString& failure);
 
     // Paints the window of the panel's status bar in the middle of a blocking loop, at most 20 times a
@@ -78,6 +78,6 @@ private:
     QString _progressText;
     QString _blockingText;
     QStringList _failures;
-    qsizetype _addedFiles = 0; // in this turn of the event loop
+    qsizetype _addedFiles = 0; // in this event loop iteration
     QElapsedTimer _sinceRepaint;
 };

@@ -5,7 +5,7 @@
 #include <QDebug>
 #include <QMainWindow>
 
-// Gives a window the place that the last one of its kind had.
+// Restores the geometry that the last window of this kind had.
 inline void restoreWindow(QWidget* window, const Setting<QByteArray>& geometryKey) {
     const QByteArray geometry = Settings::instance()->get(geometryKey);
     if (!geometry.isEmpty() && !window->restoreGeometry(geometry))
@@ -21,7 +21,7 @@ inline void restoreWindow(QMainWindow* window, const Setting<QByteArray>& geomet
         qDebug() << "Error, unable to restore state for:" << window;
 }
 
-// The same, and stores the place that the window reports when it closes.
+// The same, and stores geometry and state when the window reports them on closing.
 template <typename Window>
 void keepWindowPlace(Window* window, const Setting<QByteArray>& geometryKey,
                      const Setting<QByteArray>& stateKey) {

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-// Layouts beside each other, or below each other where the width does not hold them: those that stretch at
-// their smallest, the others whole. The widest of them alone limits how far a window can be narrowed.
+// Places layouts in a row, or in a column where the width is too small for a row. A stretching layout counts
+// with its minimum width, any other with its size hint. The minimum width is that of the widest layout, so
+// the window can become narrower than the row.
 class WrappingRow : public QBoxLayout {
 public:
     WrappingRow() : QBoxLayout(LeftToRight) {}
@@ -23,7 +24,7 @@ public:
             const QLayoutItem* item = itemAt(index);
             width += (stretch(index) > 0 ? item->minimumSize() : item->sizeHint()).width();
         }
-        // Another direction invalidates the layout, so the room for another row follows by itself.
+        // setDirection invalidates the layout, which makes the parent update the height.
         if (const Direction fitting = width > rect.width() ? TopToBottom : LeftToRight;
             fitting != direction())
             setDirection(fitting);

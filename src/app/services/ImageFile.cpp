@@ -19,7 +19,7 @@
 
 namespace {
 
-// Zero where the system does not say.
+// In bytes; 0 where the system does not report it.
 quint64 physicalMemory() {
 #ifdef Q_OS_WIN
     MEMORYSTATUSEX status{};
@@ -32,7 +32,7 @@ quint64 physicalMemory() {
 #endif
 }
 
-// The error of a failure; empty if there is none.
+// Returns the error text; empty on success.
 QString encodeImage(const QImage& image, const QByteArray& format, const ImageFileOptions& options,
                     QBuffer& encoded) {
     QImageWriter writer(&encoded, format);
@@ -43,11 +43,11 @@ QString encodeImage(const QImage& image, const QByteArray& format, const ImageFi
 
 QString replaceFile(const QString& filePath, const QByteArray& bytes) {
     QSaveFile file(filePath);
-    // A writable file in a read-only directory.
+    // For a writable file in a read-only directory, where no temporary file can be created beside it.
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return QImageWriter::tr("Device not writable");
-    // A full disk takes a part, and says only at the rest why it takes no more.
+    // A full disk accepts the first bytes without an error; only writing the rest reports the reason.
     qint64 written = 0;
     for (qint64 count = 1; count > 0 && written < bytes.size(); written += count)
         count = file.write(bytes.constData() + written, bytes.size() - written);

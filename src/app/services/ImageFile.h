@@ -14,21 +14,22 @@ struct ImageFileOptions {
     int compression = -1;
 };
 
-// Writes the image whole or not at all: format and image are judged and the image is encoded before the file
-// is touched, and its old bytes stay until all new ones are on the disk. Links and permissions are kept. A
+// Writes the image whole or not at all: format and image are checked and the image is encoded before the file
+// is opened, and its old bytes stay until all new ones are on the disk. Links and permissions are kept. A
 // failure sets `error`.
 [[nodiscard]] bool writeImageFile(const QImage& image, const QString& filePath,
                                   const ImageFileOptions& options = {}, QString* error = nullptr);
 
-// The bytes that it writes to a file of that name; empty after a failure, which sets `error`.
+// The bytes that writeImageFile would write to a file of that name; empty after a failure, which sets
+// `error`.
 [[nodiscard]] QByteArray encodedImageFile(const QImage& image, const QString& filePath,
                                           const ImageFileOptions& options = {}, QString* error = nullptr);
 
 // The largest image to decode, in MiB, on a machine with so many bytes of memory: a quarter, at least 1 GiB.
 [[nodiscard]] int imageAllocationLimit(quint64 memory);
 
-// Applies that limit of this machine to all decoders of the process.
+// Sets that limit, for this machine's memory, on all image decoders of the process.
 void raiseImageAllocationLimit();
-// Whether an image of 32 bits a pixel would be larger than what may be read. Making one that does not fit
-// into the memory ends the program.
+// Whether an image of 32 bits a pixel would exceed the limit. Allocating one that does not fit into the
+// memory would end the program.
 [[nodiscard]] bool exceedsImageAllocationLimit(const QSizeF& size);

@@ -28,12 +28,14 @@ QString logLevelName(int level) {
 } // namespace
 
 std::atomic<LogService*> LogService::_instance = nullptr;
-// Not a member: a thread that is on its way into the handler needs it when the service is gone.
+// Static, as a thread that enters the handler may lock it after the service was deleted.
 QBasicMutex LogService::_mutex;
 
 int logLevelFromArguments(const QStringList& arguments) {
     if (arguments.contains("--no-log"_L1))
         return LogService::NoLog;
+    // A regular expression, although it looks like a wildcard: it matches "--log" anywhere in an argument,
+    // with or without a "=".
     static const QRegularExpression logOption(u"--log=*"_s);
     const QStringList options = arguments.filter(logOption);
     if (options.isEmpty())
@@ -80,7 +82,7 @@ void LogService::setApplicationInfo(const QString& settingsPath) {
     _settingsPath = settingsPath;
 }
 
-// For messages of the service itself, which come while the mutex is held.
+// Reports a problem of the service itself to the previous handler: qDebug would lock the mutex that is held.
 void LogService::report(const char* text, const QString& detail) const {
     const QString message =
         detail.isEmpty() ? QString::fromLatin1(text) : QString::fromLatin1(text) + u' ' + detail;
@@ -91,7 +93,7 @@ void LogService::report(const char* text, const QString& detail) const {
         fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(QtDebugMsg, context, message)));
 }
 
-void LogService::turnFilesOver() {
+void LogService::rotateFiles() {
     _stream.setDevice(nullptr);
     _file = std::make_unique<QFile>();
     if (!QFile::exists(_logDirectory))
@@ -112,8 +114,9 @@ void LogService::init(const QStringList& givenArguments) {
 
     const QMutexLocker locker(&_mutex);
     _logLevel = logLevelFromArguments(arguments);
-    turnFilesOver();
-    // A second init finds the handler in place already, which must not become its own predecessor.
+    rotateFiles();
+    // In a second init this handler is already installed; as its own previous handler it would call itself
+    // forever.
     const QtMessageHandler handler = qInstallMessageHandler(messageHandler);
     if (handler != messageHandler)
         _previousHandler = handler;
@@ -128,6 +131,7 @@ void LogService::init(const QStringList& givenArguments) {
 }
 
 void LogService::writeHeader(const QStringList& arguments) {
+    // Internal version and build date are never set; the header keeps their empty fields.
     _stream << "##########\n"
             << _applicationName << " log " << QDateTime::currentDateTime().toString(u"yyyy-MM-dd hh:mm:ss"_s)
             << "\nArguments:\n\t" << arguments.join("\n\t"_L1) << "\nLog level: " << _logLevel << " ("
@@ -142,7 +146,7 @@ void LogService::messageHandler(QtMsgType type, const QMessageLogContext& contex
     const int requiredLevel = type == QtInfoMsg ? Verbose : Default;
     const QMutexLocker locker(&_mutex);
     LogService* service = _instance;
-    // A thread was on its way here while the log ended.
+    // Another thread may have destroyed the service while this one waited for the mutex.
     if (!service)
         return;
     if (requiredLevel <= service->_logLevel && service->_stream.device()) {

@@ -21,7 +21,8 @@ public:
     static void destroy();
 
     void setApplicationInfo(const QString& settingsPath);
-    // Chooses the level from the arguments, turns the files over and takes over Qt's message handler.
+    // Sets the level from the arguments, renames the last log file, opens a new one and installs Qt's message
+    // handler.
     void init(const QStringList& arguments);
 
     static void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message);
@@ -31,7 +32,7 @@ private:
     ~LogService();
     Q_DISABLE_COPY_MOVE(LogService)
 
-    void turnFilesOver();
+    void rotateFiles();
     void writeHeader(const QStringList& arguments);
     void report(const char* text, const QString& detail = {}) const;
 
@@ -53,5 +54,5 @@ private:
     QtMessageHandler _previousHandler = nullptr;
 };
 
-// The level that an argument list asks for.
+// The level that an argument list requests.
 [[nodiscard]] int logLevelFromArguments(const QStringList& arguments);

@@ -21,7 +21,7 @@ bool holdsLongRun(const QTextDocument& document, int begin, int end) {
 
 void keepLongLinesQuick(QPlainTextEdit* edit) {
     const QTextOption::WrapMode usual = edit->wordWrapMode();
-    // The document tells of a change before it lays the text out.
+    // The document emits contentsChange before it lays the text out, so the new mode takes effect in time.
     QObject::connect(edit->document(), &QTextDocument::contentsChange, edit,
                      [edit, usual](int position, int, int added) {
                          const QTextDocument& document = *edit->document();

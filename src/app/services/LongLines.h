@@ -2,6 +2,7 @@
 
 class QPlainTextEdit;
 
-// Lets a text edit take megabytes without a blank in bearable time. Looking for a place to break such a run
-// costs time in the square of its length, so while the edit holds one, its lines break anywhere.
+// Keeps a text edit responsive with megabytes of text without a blank. Searching such a run for a word
+// boundary to wrap at takes time quadratic in its length, so while the edit contains one, its lines wrap
+// anywhere.
 void keepLongLinesQuick(QPlainTextEdit* edit);

@@ -72,7 +72,7 @@ QString Settings::directory() const {
 }
 
 QHash<QString, QVariant> Settings::storedTable(const QSettings& file) {
-    // Naming the types makes them known to the stream in which the table is stored.
+    // The table is stored in a QDataStream, which reads only types that are registered.
     qRegisterMetaType<QHash<QString, QDateTime>>();
     qRegisterMetaType<QList<std::pair<QString, bool>>>();
     return file.value(settingsDataKey).toHash();

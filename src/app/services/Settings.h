@@ -12,8 +12,8 @@
 
 class QSettings;
 
-// The one place where the program keeps anything between runs. The table lives in memory and reaches the disk
-// once, when the singleton is destroyed. GUI thread only.
+// The table of all settings. It is kept in memory and written to the disk once, when the singleton is
+// destroyed. GUI thread only.
 class Settings : public QObject {
     Q_OBJECT
 

@@ -7,8 +7,8 @@
 
 #include <optional>
 
-// One value of the settings table: its key, its type and what a first start has in its place. Without a
-// fallback that is an empty value.
+// One value of the settings table: its key, its type and its value at a first start. Without a fallback that
+// is an empty one.
 template <typename T>
 struct Setting {
     QLatin1StringView key;
@@ -59,7 +59,7 @@ inline constexpr Setting<QSize> gridSizeListView{QLatin1StringView("gridSizeList
 inline constexpr Setting<QSize> gridSizeTreeView{QLatin1StringView("gridSizeTreeView"), QSize(32, 32)};
 inline constexpr Setting<QSize> gridSizeTableView{QLatin1StringView("gridSizeTableView"), QSize(32, 32)};
 inline constexpr Setting<int> imagePreviewThreadCount{QLatin1StringView("imagePreviewThreadCount"), 4};
-// In mebibytes; without a positive value a share of the machine's memory. Nothing in a window shows it.
+// In mebibytes; without a positive value a share of the machine's memory. No window shows it.
 inline constexpr Setting<int> thumbnailMemory{QLatin1StringView("thumbnailMemory"), 0};
 inline constexpr Setting<bool> includeTensorInfo{QLatin1StringView("includeTensorInfo"), false};
 inline constexpr Setting<bool> includeMetaInfo{QLatin1StringView("includeMetaInfo"), true};

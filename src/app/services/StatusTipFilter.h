@@ -2,6 +2,6 @@
 
 class QMainWindow;
 
-// Lets a message of the window's status bar stay until the next one. Any menu that is opened or crossed sends
-// the window the empty tips of entries without one, which would clear it.
+// Keeps a message in the window's status bar until the next one. A menu that is opened or hovered over sends
+// the window an empty status tip for each entry without a tip, which would clear the message.
 void keepMessages(QMainWindow* window);

@@ -7,7 +7,8 @@ namespace {
 
 enum class ShadeChange { None, Lighter150, Darker200 };
 
-// A colour of the table, as it stands or derived; a default one leaves its brush alone.
+// A colour of the table, used as it is or made lighter or darker; a default-constructed one leaves its brush
+// unchanged.
 struct Shade {
     constexpr Shade() = default;
     constexpr Shade(QRgb value, ShadeChange by = ShadeChange::None) : rgb(value), change(by), isSet(true) {}
@@ -55,7 +56,7 @@ struct ThemeBrush {
     Shade ThemeColors::* shade;
 };
 
-// A brush of one group overrides that of all groups only after it, so the order counts.
+// The order counts: setting a role for all groups overwrites what was set for one of them.
 constexpr ThemeBrush themeBrushes[] = {
     {QPalette::All, QPalette::Window, &ThemeColors::window},
     {QPalette::All, QPalette::WindowText, &ThemeColors::windowText},
@@ -80,7 +81,7 @@ constexpr ThemeBrush themeBrushes[] = {
     {QPalette::All, QPalette::Light, &ThemeColors::light},
 };
 
-// Near black, told apart by their highlight alone.
+// Near black; these themes differ only in their highlight.
 constexpr ThemeColors jewelColors(QRgb highlight) {
     return {.window = 0x121212,
             .windowText = 0xffffff,
@@ -330,7 +331,7 @@ QPalette paletteOf(const ThemeColors& colors) {
         if (shade.isSet)
             palette.setBrush(brush.group, brush.role, QBrush(shadeColor(shade)));
     }
-    // The style's own placeholders are near black, which a dark edit swallows.
+    // The style's own placeholder colour is near black, which cannot be read on a dark edit.
     QColor placeholder = palette.color(QPalette::Text);
     if (!colors.placeholderText.isSet &&
         placeholder.lightness() > palette.color(QPalette::Base).lightness()) {

@@ -62,6 +62,7 @@ std::span<const ThemeInfo> themeInfos() {
         {Themes::GREYMATTER, QT_TRANSLATE_NOOP("Themes", "Grey Matter"), Light, "Fusion"_L1, Own},
         {Themes::DARKFUSIONBLUE, QT_TRANSLATE_NOOP("Themes", "Dark Fusion Blue"), Dark, "Fusion"_L1, Own},
         {Themes::DARKFUSION, QT_TRANSLATE_NOOP("Themes", "Dark Fusion"), Dark, "Fusion"_L1, Own},
+        // Qt no longer has this style, so the theme only changes the palette.
         {Themes::PLASTIQUE, QT_TRANSLATE_NOOP("Themes", "Plastique"), Light, "plastique"_L1, Own},
     };
     return infos;
@@ -84,10 +85,11 @@ bool isThemeDark(const ThemeInfo& info) {
 }
 
 bool isThemeOffered(const ThemeInfo& info) {
+    // Compares only the number, so other systems of a version 11 offer the theme too.
     return info.theme != Themes::Windows11 || QSysInfo::productVersion().toLower() == "11"_L1;
 }
 
-// A style that this platform lacks leaves the one in use.
+// For a style that this platform lacks, create returns null, which setStyle ignores.
 void applyThemeStyle(QLatin1StringView name) {
     QApplication::setStyle(QStyleFactory::create(name));
 }
@@ -118,7 +120,7 @@ void tintIcon(Target* target, const QColor& tint) {
         return;
     QPixmap pixmap =
         icon.pixmap(icon.actualSize(tintedIconSize, QIcon::Normal, QIcon::Off), QIcon::Normal, QIcon::Off);
-    // An icon of a file that is missing.
+    // The file of the icon is missing.
     if (pixmap.isNull())
         return;
     QPainter painter(&pixmap);

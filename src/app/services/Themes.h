@@ -8,7 +8,7 @@
 class QAbstractButton;
 class QAction;
 
-// The catalogue of visual themes; the only place that sets a style or a palette, and the tinter of all icons.
+// The visual themes. Nothing else sets a style or a palette, or tints icons.
 class Themes : public QObject {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ public:
     void tintButtons(bool isDarkTheme, const QList<QAbstractButton*>& buttons) const;
 
 signals:
-    // The user has chosen a theme, which is in place; the accent follows.
+    // The user has chosen a theme, which is already applied; themeAccentChanged follows.
     void themeChanged(Themes::Theme theme);
     void themeAccentChanged(bool isDarkTheme);
 

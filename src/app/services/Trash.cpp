@@ -5,7 +5,7 @@
 #include <QStandardPaths>
 
 std::optional<QString> moveToTrash(const QString& filePath) {
-    // Qt makes the trash inside this directory, but not the directory, which a fresh account has not got.
+    // Qt creates the trash inside this directory but not the directory itself, which a new account lacks.
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     QFile file(filePath);
     if (file.moveToTrash())

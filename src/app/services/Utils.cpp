@@ -65,6 +65,7 @@ QString Utils::formatBitRate(quint64 bitsPerSecond) const {
         value /= 1000;
         ++step;
     }
+    // A rate beyond the last unit is shown without one.
     const QString unit = step < units.size() ? QString::fromLatin1(units.at(step)) : QString();
     return u"%1 %2"_s.arg(QString::number(static_cast<double>(value), 'f', step == 0 ? 0 : 1), unit);
 }
@@ -84,6 +85,7 @@ QString Utils::formatDuration(quint64 milliseconds, bool showMilliseconds, int h
 
 QString Utils::findInPath(const QString& fileName) const {
     const QString searchPath = QProcessEnvironment::systemEnvironment().value(u"PATH"_s);
+    // The separator of Windows: the only caller looks for explorer.exe.
     const QStringList directories = searchPath.split(u';', Qt::SkipEmptyParts);
     for (QString directory : directories) {
         directory.replace(u'\\', u'/');
@@ -134,7 +136,7 @@ void Utils::showInExplorer(const QString& path, QWidget* parent) {
     QProcess::startDetached(explorer, arguments);
 }
 
-// Starting a file manager over the bus takes its time, so nobody waits for the answer.
+// The reply may take as long as the start of a file manager, so the call is asynchronous.
 void Utils::showOnDesktop(const QString& path, QWidget* parent) {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
@@ -176,6 +178,8 @@ void Utils::zoomFonts(int key) {
         double size = font.pointSizeF() + (key == Qt::Key_Plus ? 1.0 : -1.0);
         if (key == Qt::Key_0)
             size = _storedFontSizes.value(widget);
+        // A font that is sized in pixels, or for zero a widget made after the first zoom, has no point size
+        // to set.
         if (size <= 0.0)
             continue;
         font.setPointSizeF(size);
