@@ -8,5 +8,6 @@ struct DirectoryMatches {
 };
 
 // The sub-directories whose names begin with what is typed after the last separator of an absolute path: at
-// most twelve by name, hidden ones after a dot. Nothing is offered inside of the path.
+// most twelve, sorted by name, hidden ones only if a dot is typed. Nothing is offered unless the cursor is at
+// the end of the line.
 [[nodiscard]] DirectoryMatches matchingDirectories(const QString& line, qsizetype cursor);

@@ -57,7 +57,7 @@ QString destinationFilePath(const QString& srcFilePath, const QString& directory
 }
 
 QString foldedCase(const QString& text) {
-    // QString::toCaseFolded may change the length of a text ("ß"), which comparing never does.
+    // QString::toCaseFolded folds "ß" to two letters, but QString::compare folds each character by itself.
     std::u32string characters = text.toStdU32String();
     for (char32_t& character : characters)
         character = QChar::toCaseFolded(character);

@@ -15,7 +15,7 @@
 // A name in a directory, which may end in a separator of either kind.
 [[nodiscard]] QString pathInDirectory(const QString& directory, const QString& name);
 
-// The first of the candidates that no file has, from number 0 on.
+// The first candidate, numbered from 0, that is the path of no existing file.
 template <typename MakeCandidate>
 [[nodiscard]] QString firstFreePath(MakeCandidate makeCandidate) {
     for (int number = 0;; ++number) {
@@ -24,7 +24,7 @@ template <typename MakeCandidate>
     }
 }
 
-// The file's name in another directory.
+// The path of a file of the same name in another directory.
 [[nodiscard]] QString destinationFilePath(const QString& srcFilePath, const QString& directory);
 
 // Equal for two texts exactly when QString::compare finds them equal regardless of case; for sets of paths or

@@ -9,12 +9,15 @@
 
 PreviewResult decodePreview(const QString& filePath, const QSize& size) {
     QImageReader reader(filePath);
+    // An image of the thumbnail's size is made and dropped: where not even that can be allocated, the file is
+    // not decoded.
     if (QImage(size, QImage::Format_ARGB32_Premultiplied).isNull()) {
         qDebug() << "Error, unable to allocate image.";
         return {{}, QCoreApplication::translate("ImageLoaderThread", "Unable to allocate image.")};
     }
     PreviewResult result;
-    // Opening a pipe would wait for its writer.
+    // Opening a named pipe would block until a process writes to it. Missing files and directories are left
+    // to the reader, whose error is reported.
     if (const QFileInfo info(filePath); info.isFile() || info.isDir() || !info.exists()) {
         result.resolution = reader.size();
         result.image = reader.read();

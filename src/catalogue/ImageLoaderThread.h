@@ -12,25 +12,25 @@
 struct PreviewResult {
     QImage image; // null on failure
     QString error;
-    // Of the file, where its header was read; invalid where the image reader does not know it.
+    // Size of the image in the file, if its header was read; invalid for an unknown format.
     std::optional<QSize> resolution = {};
 };
 
 // Decodes a file at full size and scales it into the given size, keeping its aspect ratio.
 [[nodiscard]] PreviewResult decodePreview(const QString& filePath, const QSize& size);
 
-// Decodes one file after another. The coordinator on the GUI thread begins a job and takes its result after
-// imageLoaded; only the stop flag is shared in between. The thread waits for the next job, as starting one
-// costs as much as a small picture.
+// Decodes one file after another. The coordinator on the GUI thread begins a job and reads its result after
+// imageLoaded; in between only the stop flag is shared. The thread stays alive between jobs, as starting one
+// takes as long as decoding a small picture.
 class ImageLoaderThread : public QThread {
     Q_OBJECT
 
 public:
     ImageLoaderThread();
 
-    // Neither busy nor stopped.
+    // Precondition: neither busy nor stopped.
     void begin(const QString& imgFilePath, const QSize& size);
-    // The thread ends after the job under way.
+    // The thread ends after the running job.
     void requestStop();
     [[nodiscard]] bool isBusy() const { return _busy; }
     void setBusy(bool busy) { _busy = busy; }
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QString error() const { return _error; }
 
 signals:
-    // Queued to other threads, once a job unless stopped.
+    // Emitted in the worker's thread, once per job unless stopped.
     void imageLoaded();
 
 protected:

@@ -56,6 +56,8 @@ void ImageLoaderThreaded::processQueue() {
             finishLoad();
         return;
     }
+    // Only the kind of the first file is started. Files of the other kind follow when one of them is the
+    // first.
     const QString headSuffix = queueSuffix(_queue.constFirst());
     if (_videoFormats.contains(headSuffix)) {
         createVideoThreads();
@@ -118,7 +120,7 @@ void ImageLoaderThreaded::createVideoThreads() {
     qDebug() << "Created video threads:" << _videoThreads.size();
 }
 
-// Hands files of the given kind to the idle ones of a pool.
+// Starts jobs for queued files of the given kind on the idle workers of a pool.
 template <typename Worker, typename IsBusy, typename Begin>
 void ImageLoaderThreaded::dispatch(const QList<Worker*>& pool, const QStringList& suffixes, const char* kind,
                                    IsBusy isBusy, Begin begin) {
@@ -142,7 +144,7 @@ QString ImageLoaderThreaded::takeFirstOf(const QStringList& suffixes) {
 }
 
 void ImageLoaderThreaded::onImageLoaded() {
-    // A signal that was queued before a stop arrives without its worker.
+    // A signal that was queued before stop() may arrive after its sender was deleted; sender() is null then.
     auto* worker = qobject_cast<ImageLoaderThread*>(sender());
     if (!worker) {
         qDebug() << "Error, unable to case to thread!";
@@ -154,7 +156,7 @@ void ImageLoaderThreaded::onImageLoaded() {
                  << "_image:" << worker->image() << "_error:" << worker->error()
                  << "isFinished:" << worker->isFinished() << "isRunning:" << worker->isRunning();
     }
-    // A slot may stop the load, which takes the worker along.
+    // A slot may call stop(), which deletes the worker or removes it from the pool.
     const QPointer<ImageLoaderThread> guard(worker);
     _reporting = worker;
     emit loadedImage(worker->imgFilePath(), worker->image());
@@ -172,7 +174,7 @@ void ImageLoaderThreaded::onVideoImageLoaded(const QString& videoFilePath, const
         qDebug() << "Error, unable to case to VideoImageLoader thread!";
         return;
     }
-    // A slot may stop the load, which takes the loader along.
+    // A slot may call stop(), which removes the loader from the pool.
     const QPointer<VideoImageLoader> guard(loader);
     const auto isStopped = [this, &guard] { return !guard || !_videoThreads.contains(guard.get()); };
     emit loadedImage(videoFilePath, frame);
@@ -219,14 +221,15 @@ void ImageLoaderThreaded::destroyVideoThreads() {
     for (VideoImageLoader* loader : std::as_const(_videoThreads)) {
         loader->disconnect(this);
         loader->stopPlayer();
-        // This may run inside a signal of the loader. As a child it goes at the latest with its parent.
+        // This may run inside a signal of the loader, so it is deleted later, at the latest as a child of
+        // this object.
         loader->setParent(this);
         loader->deleteLater();
     }
     _videoThreads.clear();
 }
 
-// A thread inside an image decoder cannot be terminated without taking the process with it.
+// Terminating a thread inside an image decoder could crash the process, so it is left to finish.
 void ImageLoaderThreaded::abandon(ImageLoaderThread* worker) {
     _abandonedThreads.append(worker);
     connect(worker, &QThread::finished, this, [this, worker] {
@@ -235,7 +238,7 @@ void ImageLoaderThreaded::abandon(ImageLoaderThread* worker) {
             delete worker;
         }
     });
-    // It may have ended between the wait and the connection.
+    // The thread may have ended after the wait and before the connection was made.
     if (worker->isFinished() && _abandonedThreads.removeOne(worker)) {
         worker->wait();
         delete worker;

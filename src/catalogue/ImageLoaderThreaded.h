@@ -27,11 +27,11 @@ public:
     void setPreviewSize(const QSize& size) { _previewSize = size; }
     void enqueue(const QString& filePath, bool startNow);
     void start();
-    // Returns with both pools empty; no result comes after it. A worker that is still decoding finishes
-    // alone.
+    // Empties both pools; no result is emitted afterwards. A worker that is still decoding finishes in the
+    // background.
     void stop();
     void processQueue();
-    // While loadedImage reports a picture: the size of the file, which its decode has just read.
+    // Only while loadedImage is emitted: the image size that the decode of this file has read.
     [[nodiscard]] std::optional<QSize> resolutionOf(const QString& fileName) const;
 
 signals:
@@ -42,7 +42,7 @@ signals:
 public slots:
     void onImageLoaded();
     void onVideoImageLoaded(const QString& videoFilePath, const QImage& frame);
-    // A file without a frame keeps its placeholder, and the queue goes on.
+    // A file without a frame keeps its placeholder, and the next file is started.
     void onVideoImageFailed(const QString& videoFilePath);
 
 private:
@@ -60,10 +60,11 @@ private:
     void abandon(ImageLoaderThread* worker);
 
     QStringList _queue;
-    const ImageLoaderThread* _reporting = nullptr;
+    const ImageLoaderThread* _reporting = nullptr; // the worker whose result is being emitted
     QList<ImageLoaderThread*> _imageThreads;
     QList<VideoImageLoader*> _videoThreads;
-    // Workers that outlasted a stop; each is deleted when its decode ends, the last ones by the destructor.
+    // Workers that were still decoding after a stop; each is deleted when its decode ends, at the latest by
+    // the destructor.
     QList<ImageLoaderThread*> _abandonedThreads;
     QSize _previewSize;
     int _imageThreadCount = 4;

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// More files are read only when the tree is shown.
+// The texts of more files are read only while the tree is visible.
 constexpr qsizetype fewFiles = 100;
 
 using Texts = QList<std::pair<QString, QString>>;
@@ -59,7 +59,7 @@ private:
 
 void addCommentItem(QTreeWidgetItem* parent, const QString& key, const QString& value) {
     auto* item = new QTreeWidgetItem(parent, {key, value});
-    // Editable, so that a value can be marked and copied in place.
+    // Editable, so that the user can select and copy a part of the value.
     item->setFlags(item->flags() | Qt::ItemIsEditable);
 }
 
@@ -68,7 +68,7 @@ void addCommentItem(QTreeWidgetItem* parent, const QString& key, const QString& 
 void MainWindow::initComments() {
     ui->tWComments->setHeaderLabels({tr("Key"), tr("Value")});
     ui->tWComments->setItemDelegate(new ShortTextDelegate(ui->tWComments));
-    // The keys in sight are whole; the rows out of sight are not measured, of which there may be many.
+    // Only the visible rows are measured for the width of the key column: there may be many others.
     ui->tWComments->header()->setResizeContentsPrecision(0);
     ui->tWComments->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     new ShowFilter(ui->tWComments, [this] { showComments(); });
@@ -104,7 +104,7 @@ void MainWindow::showComments() {
             addCommentItem(top, key, text);
         tops.append(top);
     });
-    // Spanning lays the tree out if that is due, so all items come first.
+    // The first call that spans a column lays the tree out, so all items are added before.
     ui->tWComments->addTopLevelItems(tops);
     ui->tWComments->expandAll();
     for (QTreeWidgetItem* top : std::as_const(tops))
@@ -137,7 +137,7 @@ void MainWindow::onExtractWorkflow() {
     if (!file.open(QIODevice::WriteOnly)) {
         qDebug() << "Error, unable to open file for writting:" << file.errorString();
         failures = {fileFailure(file.fileName(), file.errorString())};
-    } else if (file.write(comment.toUtf8()) == -1 || !file.flush()) { // a short text is written by the flush
+    } else if (file.write(comment.toUtf8()) == -1 || !file.flush()) { // flush() writes a short text
         qDebug() << "Error, unable to write content to the file:" << file.fileName()
                  << "error:" << file.errorString();
         failures = {fileFailure(file.fileName(), file.errorString())};

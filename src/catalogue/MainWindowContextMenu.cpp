@@ -43,7 +43,7 @@ void MainWindow::onImagesCustomContextMenu(const QPoint& pos) {
     menu.addAction(tr("&Move files"), this, &MainWindow::moveFiles);
     menu.addAction(tr("&Delete stray txt files"), this, &MainWindow::deleteStrayTxtFiles);
     menu.addAction(tr("&Delete file"), this, &MainWindow::deleteFile);
-    menu.exec(menuPlace(_selection->currentView(), pos));
+    menu.exec(menuPosition(_selection->currentView(), pos));
 }
 
 void MainWindow::addViewMenu(QMenu& menu) {

@@ -81,6 +81,7 @@ void MainWindow::copyFiles() {
 
 void MainWindow::moveFiles() {
     transferFiles(tr("moved"), [this](QFile& source, const QString& target) {
+        // Not every system can move a file that the player has open.
         ui->vidWidget->stop(source.fileName());
         return source.rename(target);
     });
@@ -102,6 +103,7 @@ void MainWindow::transferFiles(const QString& verb,
             ++done;
         } else {
             failures.append(fileFailure(source, file.errorString()));
+            // The same text for copies and moves.
             onShowMessage(tr("Error, unable to copy file: %1 to: %2 error: %3")
                               .arg(source, target, file.errorString()));
         }
@@ -134,14 +136,14 @@ void MainWindow::deleteFile() {
     }
     showBlockingProgress({});
     {
-        // The row that takes the place is selected, for the next decision.
+        // Selects the row after the deleted ones, so that the user can continue from there.
         const SelectionWatcher::Hold hold(*_selection);
         const QPersistentModelIndex next = rowAfterSelection();
         removeFileItems(files);
         if (next.isValid())
             selectRow(next.row());
     }
-    // Last, as the rows that are removed change the selection, which has a message of its own.
+    // Shown last: removing rows changes the selection, whose own message would replace these.
     for (const QString& error : std::as_const(errors))
         onShowMessage(tr("Error, unable to move file to trash, error: %1").arg(error));
     showResult(tr("deleted"), files.size() - failures.size(), files.size(), failures);
@@ -168,6 +170,7 @@ void MainWindow::deleteStrayTxtFiles() {
             showBlockingMessage(tr("Failed to trash file: %1").arg(path));
         }
     }
+    // The number includes files that could not be moved; the result in the panel does not.
     onShowMessage(tr("Found %1 stray txt files, moved to trash bin.").arg(stray.size()));
     showResult(tr("deleted"), stray.size() - failures.size(), stray.size(), failures);
 }
@@ -208,7 +211,7 @@ void MainWindow::importPaths(const QStringList& sources, const QString& director
         if (!error.isNull())
             failures.append(fileFailure(source, error));
     }
-    // After the last copy, as a sidecar may come after its media file.
+    // Read after the last copy, as a sidecar may be copied after its media file.
     importTagFiles(mediaFiles);
     showResult(tr("imported"), sources.size() - failures.size(), sources.size(), failures);
 }
@@ -230,13 +233,15 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // The program that the files come from waits until this returns, and a question may follow.
+    // The program that the files are dragged from is blocked until this returns, and the import may ask the
+    // user something.
     QTimer::singleShot(0, this, [this, paths = localPaths(event->mimeData())] { openDropped(paths); });
 }
 
 QString MainWindow::importFile(const QString& source, const QString& directory, bool autoRename,
                                bool deleteSource, QStringList& mediaFiles) {
     const QFileInfo info(source);
+    // The copy of a file without a suffix ends in a dot.
     QString target = pathInDirectory(directory, u"%1.%2"_s.arg(info.completeBaseName(), info.suffix()));
     if (QFile::exists(target)) {
         if (!autoRename) {
@@ -263,7 +268,8 @@ QString MainWindow::importFile(const QString& source, const QString& directory, 
         }
     }
     queuePreview(target, previewSize());
-    // A text file has no tags of its own: it is the sidecar of others, which an entry would overwrite.
+    // A text file gets no entry in the tag record: it is a sidecar itself, which saving that entry would
+    // overwrite.
     if (checkMediaKey(target))
         mediaFiles.append(target);
     return {};

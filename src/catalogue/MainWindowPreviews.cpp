@@ -43,8 +43,8 @@ MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size
         _imageLoader->setPreviewSize(size);
     }
     _imageLoader->enqueue(filePath, false);
-    // The row has its final size before its thumbnail is there. The tool tip follows with the thumbnail:
-    // reading the header of every queued file here would double the time of a scan.
+    // The null thumbnail gives the row its final size at once. The tool tip is set together with the real
+    // one: reading the header of every queued file here would double the time of a scan.
     MediaItem* item = _itemModel->itemOf(filePath);
     if (item)
         item->setThumbnail({}, size);

@@ -48,6 +48,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         return;
     }
     const WaitCursor waitCursor;
+    // Writes pending unsaved tags to the recovery file before the record is cleared.
     _recovery->close();
     _imageTags->clear();
     unbindTagFile();
@@ -63,7 +64,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         clearItemModel();
         addFileItems(files);
     }
-    // A scan that comes before the slow half replaces it.
+    // A scan that starts before the slow half of this one replaces it.
     QTimer::singleShot(0, this, [this, files, generation = ++_lastScan.generation] {
         if (generation == _lastScan.generation)
             populateUiImage(files);
@@ -107,7 +108,7 @@ void MainWindow::addFileItems(const QStringList& filePaths) {
 }
 
 void MainWindow::removeFileItems(const QStringList& filePaths) {
-    // Each removed run of rows would report the whole selection again.
+    // Without the hold each removed run of rows would report the changed selection.
     const SelectionWatcher::Hold hold(*_selection);
     const UpdatesOff updatesOff(mediaViews());
     _imageTags->remove(filePaths);
@@ -120,8 +121,8 @@ void MainWindow::populateUiImage(const QStringList& files) {
     QElapsedTimer timer;
     timer.start();
     queuePreviews(files);
-    // The call of this slow half overtakes the paint that waits in the event queue, so the rows show here, in
-    // their final size and before their tags.
+    // This slow half is called before the paint event of the new rows is processed, so the rows are painted
+    // here, in their final size and before their tags are read.
     _selection->currentView()->viewport()->repaint();
     {
         const UpdatesOff updatesOff(mediaViews());

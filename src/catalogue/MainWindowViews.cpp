@@ -44,13 +44,13 @@ void setUpMediaView(QAbstractItemView* view) {
 void setUpMediaHeader(QHeaderView* header) {
     header->setSectionsClickable(true);
     header->setSortIndicatorClearable(true);
-    // Sorting that is switched on applies the indicator, whose first state reverses the order of the scan.
+    // setSortingEnabled sorts by the indicator, whose initial state would reverse the order of the scan.
     header->setSortIndicator(-1, Qt::AscendingOrder);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     header->setSectionsMovable(true);
 }
 
-// The selection model that a view made for itself is ours to delete once the view has another.
+// setModel does not delete the selection model that the view had created before, so the caller does.
 void setMediaModel(QAbstractItemView* view, QAbstractItemModel* model) {
     const QItemSelectionModel* previous = view->selectionModel();
     view->setModel(model);
@@ -76,7 +76,7 @@ QList<QAbstractItemView*> MainWindow::mediaViews() const {
 void MainWindow::initViewConnections() {
     for (const QHeaderView* header : {ui->tableView->horizontalHeader(), ui->treeView->header()}) {
         connect(header, &QWidget::customContextMenuRequested, this, &MainWindow::onHeaderContextMenu);
-        // The views sort first, as they are connected first.
+        // The views were connected to this signal earlier, so their rows are already sorted here.
         connect(header, &QHeaderView::sortIndicatorChanged, this, [this] {
             QAbstractItemView* view = _selection->currentView();
             view->scrollTo(view->currentIndex());
@@ -142,7 +142,7 @@ void MainWindow::selectRow(int row) {
     const QModelIndex index = view->model()->index(qMin(row, view->model()->rowCount() - 1), ColName);
     if (!index.isValid())
         return;
-    // The view itself would ask the keyboard, where Ctrl may be down.
+    // QAbstractItemView::setCurrentIndex would read the modifier keys, of which Ctrl may be pressed.
     view->selectionModel()->setCurrentIndex(index,
                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     view->scrollTo(index);
@@ -169,6 +169,7 @@ void MainWindow::initViews() {
     setWindowTitle(QString::fromLatin1("%1 - %2").arg(QCoreApplication::applicationName(),
                                                       QCoreApplication::applicationVersion()));
     setDockNestingEnabled(true);
+    // The form has path and buttons in two rows; side by side they leave the views more height.
     auto* rowBelowViews = new WrappingRow;
     for (QLayout* layout : {ui->horizontalLayoutWorkingPath, ui->horizontalLayoutSaveTags}) {
         ui->verticalLayout->removeItem(layout);
@@ -279,7 +280,7 @@ void MainWindow::onDockWidgetImagePreviewCustomMenu() {
 
 void MainWindow::hideFiles(const QString& reason,
                            const std::function<bool(int row, const QString& filePath)>& isHidden) {
-    // Hidden rows leave the selection without a signal.
+    // Rows that are hidden leave the selection without a signal, so the hold compares it at its end.
     const SelectionWatcher::Hold hold(*_selection);
     const UpdatesOff updatesOff(mediaViews());
     _statusPanel->setHidingReason(reason);
@@ -345,7 +346,7 @@ void MainWindow::showMediaPreview(const QString& filePath) {
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewVideo);
     } else {
         ui->vidWidget->start({});
-        // The effects decode and show their file themselves.
+        // On the effects tab the chain of filters decodes and shows the file.
         if (ui->tWTools->currentWidget() != ui->tabImgDSP)
             ui->imgWidget->setImageFilePath(filePath);
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewImage);

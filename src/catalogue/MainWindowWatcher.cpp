@@ -49,7 +49,7 @@ void MainWindow::watchWorkingDirectory() {
 
 void MainWindow::onWorkingDirectoryChanged(const QString& path) {
     qDebug() << "FW Directory changed:" << path;
-    // A change that was queued before another directory was opened is none of its files.
+    // A notification of the previous directory may still be queued after another one was opened.
     if (path != _lastScan.path)
         return;
     const QStringList listing =
@@ -121,7 +121,8 @@ void MainWindow::onSrcSelectPath() {
 }
 
 void MainWindow::onWorkingPathEdited() {
-    // A window that closes takes the focus from the edit, and asks nothing.
+    // Closing the window removes the focus from the edit, which emits editingFinished; no question is asked
+    // then.
     if (windowHandle() && isHidden())
         return;
     const QString path = ui->lEWorkingPath->text();

@@ -27,7 +27,7 @@ bool MediaFilter::matches(const MediaItemModel& model, int row, const QStringLis
         if (isIn(model.item(row, column)->text()))
             return true;
     }
-    // Forming the text of a date costs more than all other tests of a row together.
+    // Cached, as formatting a date takes longer than all other tests of a row together.
     if (name->lastModifiedText().isNull())
         name->setLastModifiedText(model.item(row, ColLastModified)->text());
     if (isIn(name->lastModifiedText()))

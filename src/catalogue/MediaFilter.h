@@ -6,7 +6,7 @@
 
 class MediaItemModel;
 
-// Whether the filter text asks for the files whose sidecar is missing or empty.
+// Whether the filter text requests the files whose sidecar is missing or empty.
 [[nodiscard]] bool isMissingTxtFilter(const QString& txt);
 // Also while it is typed.
 [[nodiscard]] bool beginsMissingTxtFilter(const QString& txt);

@@ -29,7 +29,7 @@ QStringList asNameFilters(const QStringList& suffixes) {
 
 } // namespace
 
-// The plugins behind both lists do not change while the program runs, and asking for them loads each one.
+// Both lists are queried once: a query loads all image plugins, which do not change while the program runs.
 QStringList supportedImageFormats() {
     static const QStringList formats = lowerCased(QImageReader::supportedImageFormats());
     return formats;

@@ -17,7 +17,7 @@
 [[nodiscard]] QStringList videoNameFilters();
 [[nodiscard]] QStringList mediaNameFilters();
 
-// Whether a path ends in the suffix of one of many name filters "*.suffix", told by one look-up.
+// Whether a path ends in the suffix of one of many name filters "*.suffix", decided by one look-up.
 class SuffixMatcher {
 public:
     explicit SuffixMatcher(const QStringList& nameFilters);
@@ -31,5 +31,5 @@ private:
 [[nodiscard]] QString imageDialogFilter();
 [[nodiscard]] QString videoDialogFilter();
 
-// A file size in steps of 1024; decimals count from the megabyte on.
+// A file size in steps of 1024; sizes from a megabyte on have `precision` decimals.
 [[nodiscard]] QString formatSize(qint64 bytes, int precision);

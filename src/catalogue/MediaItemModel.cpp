@@ -21,6 +21,7 @@ MediaItemModel::MediaItemModel(QObject* parent) : QStandardItemModel(parent) {
 void MediaItemModel::clearFiles(const QStringList& captions) {
     _itemsByPath.clear();
     clear();
+    // The captions extend the four columns to sixteen; the views are notified of these two steps.
     setColumnCount(4);
     setHorizontalHeaderLabels(captions);
 }
@@ -36,7 +37,7 @@ bool MediaItemModel::removeFiles(const QStringList& keys) {
     for (const QString& key : keys)
         unwanted.insert(foldedCase(key));
     bool isDone = true;
-    // Neighbouring rows are removed in one step: each removal moves all rows behind it.
+    // Adjacent rows are removed together, as each removal shifts all rows behind it.
     int last = -1;
     for (int row = rowCount() - 1; row >= -1; --row) {
         const QString key = row < 0 ? QString() : fileAt(row);

@@ -12,8 +12,8 @@
 
 #include <functional>
 
-// The catalogue: a row for each media file, found by its key. Rows that come by the thousand are announced as
-// one change.
+// The catalogue: a row for each media file, found by its key. Rows that are inserted by the thousand are
+// announced as one change.
 class MediaItemModel : public QStandardItemModel {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ public:
     public:
         explicit BulkInsert(MediaItemModel& model) : _model(model) {
             _model.beginResetModel();
+            // The views read the model anew after the reset; signals for single rows would only take time.
             _model.blockSignals(true);
         }
         ~BulkInsert() {
@@ -39,7 +40,7 @@ public:
 
     // Removes all rows and captions the columns.
     void clearFiles(const QStringList& captions);
-    // Appends a row; the two texts are those of a column that says whether something is there.
+    // Appends a row; the two texts are the values of columns that state whether a file has something.
     void appendFile(const MediaRecord& record, const QString& yes, const QString& no);
     // Removes the rows of the files, compared regardless of case. False where a row could not be removed.
     bool removeFiles(const QStringList& keys);
@@ -54,18 +55,18 @@ public:
     // The keys of all rows in their order.
     [[nodiscard]] QStringList files() const;
 
-    // Flags the rows that a predicate of row and file key hides. Emits no change: the proxy looks at all rows
-    // once afterwards, since a signal for each row would cost far more. Returns the number of hidden rows.
+    // Flags the rows that a predicate of row and file key hides. Emits no change: the caller makes the proxy
+    // filter all rows once, as a signal for each row would take far longer. Returns the number of hidden
+    // rows.
     int hideRows(const std::function<bool(int row, const QString& key)>& isHidden);
 
-    // Where thumbnails that are set later lie.
+    // Where the pixels of thumbnails that are set later are kept.
     void setThumbnailStore(const ThumbnailStore& store) { _thumbnails = store; }
     // Emits no change; see announceThumbnail.
     void setThumbnail(MediaItem& item, const QImage& image, const QSize& canvasSize) {
         item.setThumbnail(_thumbnails.keep(compactThumbnail(image)), canvasSize);
     }
-    // Announces that the thumbnail of a row has changed, at most 30 times a second and then together with
-    // others.
+    // Announces the changed thumbnail of a row, together with others and at most 30 times a second.
     void announceThumbnail(const QString& key);
 
 private:

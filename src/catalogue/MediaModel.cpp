@@ -35,7 +35,7 @@ bool isFullyOpaque(const QImage& image) {
     return true;
 }
 
-// Wraps around for sizes that only a damaged header can claim.
+// Wraps around from 2^31 pixels on, which only a damaged header reports.
 int pixelCount(const QSize& size) {
     return static_cast<int>(static_cast<qint64>(size.width()) * size.height());
 }
@@ -55,7 +55,7 @@ MediaRecord readMediaRecord(const QString& filePath) {
     const QFileInfo info(filePath);
     MediaRecord record;
     record.filePath = filePath;
-    // Opening a pipe would wait for its writer.
+    // Opening a named pipe would block until a process writes to it.
     if (info.isFile()) {
         const QImageReader reader(filePath);
         record.resolution = reader.size();
@@ -132,7 +132,7 @@ QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes
     row.append(mediaCell(formatSize(record.size, 1), record.size));
     row.append(mediaCell(resolutionText(record.resolution), pixelCount(record.resolution)));
     row.append(mediaCell(record.lastModified, record.lastModified));
-    // The cells of videos exist from the start: the probe fetches the items to fill them.
+    // The cells of videos have items from the start, which the metadata of a clip fills later.
     for (int column = ColDuration; column <= ColVideoFrameRate; ++column)
         row.append(new QStandardItem);
 

@@ -32,19 +32,19 @@ enum MediaColumn {
 enum MediaRole {
     RoleValue = Qt::UserRole + 1,       // raw value of a cell; on ColName the file key
     RoleHidden = Qt::UserRole + 3,      // on ColName
-    RoleComment = Qt::UserRole + 3,     // on ColComment
+    RoleComment = Qt::UserRole + 3,     // on ColComment; the number of RoleHidden, in another column
     RoleVideoMeta = Qt::UserRole + 11,  // on ColName
     RoleCanvasSize = Qt::UserRole + 64, // size of the decoration, on ColName
 };
 
-// What a scan learns of one file, from one header read and one look at its directory entry.
+// What a scan reads of one file: its image header and its directory entry, each once.
 struct MediaRecord {
     QString filePath; // the file key, as the directory iterator gave it
     QString fileName;
     QString path;
     QString suffix; // case as on disk
     qint64 size = 0;
-    QSize resolution; // invalid where the image reader does not know the file
+    QSize resolution; // invalid for an unknown format
     QDateTime lastModified;
     QString comment;
     bool hasTxtFile = false;
@@ -69,11 +69,11 @@ struct MediaRecord {
 // The image centred on a transparent canvas, at its own scale.
 [[nodiscard]] QImage centredOnCanvas(const QImage& image, const QSize& canvasSize);
 
-// The smallest form of a thumbnail that still draws the same: opaque ones drop their alpha byte.
+// The smallest format in which a thumbnail is still drawn the same: opaque ones lose their alpha byte.
 [[nodiscard]] QImage compactThumbnail(const QImage& image);
 
-// The ColName item of a row. It keeps the thumbnail in its own size and composes the canvas when a view asks,
-// since a canvas of its own for each of ten thousand rows would take gigabytes.
+// The ColName item of a row. It keeps the thumbnail in its own size and composes the canvas when a view
+// requests it, since a canvas of its own for each of ten thousand rows would take gigabytes.
 class MediaItem : public QStandardItem {
 public:
     using QStandardItem::QStandardItem;
@@ -86,10 +86,10 @@ public:
     // A null image leaves the canvas transparent. Emits no change, for bulk work; see emitDataChanged.
     void setThumbnail(const QImage& image, const QSize& canvasSize);
     [[nodiscard]] bool isHidden() const { return _hidden; }
-    // Emits no change: whoever hides many rows lets the proxy look at all of them once.
+    // Emits no change: after hiding many rows, the caller makes the proxy filter all of them once.
     void setHidden(bool hidden) { _hidden = hidden; }
     void notifyChanged() { emitDataChanged(); }
-    // The display text of ColLastModified, kept by the file filter; null until then.
+    // The display text of ColLastModified, cached by the file filter; null until then.
     [[nodiscard]] const QString& lastModifiedText() const { return _lastModifiedText; }
     void setLastModifiedText(const QString& text) { _lastModifiedText = text; }
 
@@ -100,6 +100,6 @@ private:
     bool _hidden = false;
 };
 
-// The items of one row, in column order, owned by the caller until a model takes them.
+// The items of one row, in column order, owned by the caller until they are added to a model.
 [[nodiscard]] QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes,
                                                  const QString& no);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double ratioTolerance = 0.01;
 
-// A bar, or a run of characters between blanks and bars that may hold quoted parts.
+// A quoted bar is an ordinary word.
 bool isBar(const QString& text, bool wasQuoted) {
     return !wasQuoted && text == "|"_L1;
 }
@@ -56,11 +56,12 @@ bool takesTag(const QString& word) {
 
 } // namespace
 
+// A bar, or a run of characters between blanks and bars, which may contain quoted parts.
 struct MediaQuery::Word {
     QString text;
     qsizetype start = 0;
     bool isQuoted = false;
-    bool isEnded = true; // false for a last word that more characters would go on
+    bool isEnded = true; // false for a last word that further characters would extend
 };
 
 QList<QueryWord> MediaQuery::words() {

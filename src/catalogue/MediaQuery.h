@@ -22,17 +22,17 @@ struct QueryWord {
 };
 
 // A filter text of words such as ":tag sky :w>1024 | :video". Blanks join conditions that must all hold, a
-// bar separates alternatives. Values with blanks stand in quotes, in which a quote is doubled.
+// bar separates alternatives. A value with blanks is enclosed in quotes, inside which a quote is doubled.
 class MediaQuery {
     Q_DECLARE_TR_FUNCTIONS(MediaQuery)
 
 public:
     explicit MediaQuery(const QString& text);
 
-    // Whether a filter text is a query at all, right or wrong.
+    // Whether a filter text is a query, valid or not.
     [[nodiscard]] static bool isQuery(const QString& text);
     [[nodiscard]] static QList<QueryWord> words();
-    // The value as it is typed after a word that takes one.
+    // The value in the form in which it is typed after a word.
     [[nodiscard]] static QString quoted(const QString& value);
 
     // What is being typed at the end of a text.
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] static Typed typedAtEnd(const QString& text);
 
     [[nodiscard]] bool isValid() const { return _wrongWord.isNull(); }
-    // The first word that is not understood; null in a valid query.
+    // The first word that is not part of the language; null in a valid query.
     [[nodiscard]] const QString& wrongWord() const { return _wrongWord; }
     // Tags are compared regardless of case and of outer blanks. Only for a valid query.
     [[nodiscard]] bool matches(const MediaFacts& facts);

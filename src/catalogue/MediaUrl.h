@@ -4,9 +4,9 @@
 #include <QString>
 #include <QUrl>
 
-// What a media player is given for a path or URL: the text itself as a URL where that means the file,
-// otherwise a URL of the local file, so that '#', '%', '?' and what else a URL writes in another way stay
-// part of its name.
+// The URL that a media player gets for a path or URL: the text itself as a URL where that denotes the file,
+// otherwise a URL of the local file, so that '#', '%', '?' and other characters that a URL escapes stay part
+// of its name.
 [[nodiscard]] inline QUrl mediaUrl(const QString& pathOrUrl) {
     QUrl url(pathOrUrl);
     const bool meansThePath =
@@ -16,7 +16,7 @@
     return QUrl::fromLocalFile(pathOrUrl);
 }
 
-// The way back, for names made from a player's source.
+// The inverse of mediaUrl, for names that are made from a player's source.
 [[nodiscard]] inline QString mediaPath(const QUrl& url) {
     return url.isLocalFile() ? url.toLocalFile() : url.toString();
 }

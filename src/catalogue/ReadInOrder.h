@@ -9,15 +9,16 @@
 #include <type_traits>
 #include <vector>
 
-// Threads that read the files of a directory ahead: more than cores, as most of them wait for a disk.
+// The number of threads that read the files of a directory ahead: more than cores, as most of them wait for
+// the disk.
 [[nodiscard]] inline int readerCount() {
     constexpr unsigned fewest = 4;
     constexpr unsigned most = 16;
     return static_cast<int>(std::clamp(2 * std::thread::hardware_concurrency(), fewest, most));
 }
 
-// The blocks of values that readers have finished and the taker has not. Readers stay at most a window ahead,
-// which bounds the memory of what they have read.
+// A ring of blocks that reader threads fill and one consumer empties. Readers are at most blocksAhead blocks
+// ahead of the consumer, which bounds the memory.
 template <typename Value>
 class ReadAhead {
 public:
@@ -81,18 +82,19 @@ private:
 };
 
 // Calls read(index) for each of count values, in threads of its own and several at once, and take(index,
-// value) on the calling thread in the order of the indexes. Returns when all values have been taken. A read
-// that blocks holds up its own thread and the values behind it.
+// value) on the calling thread in the order of the indexes. Returns after the last take. A read that blocks
+// delays its own thread and all values behind it.
 template <typename Read, typename Take>
 void readInOrder(qsizetype count, const Read& read, const Take& take) {
     using Values = ReadAhead<std::invoke_result_t<const Read&, qsizetype>>;
-    // Starting threads costs more than a few files.
+    // Starting threads takes longer than reading a few files.
     if (count <= Values::valuesInBlock) {
         for (qsizetype index = 0; index < count; ++index)
             take(index, read(index));
         return;
     }
     Values values(count);
+    // Joins the threads also if take() throws.
     struct Readers {
         Values& values;
         std::vector<std::thread> threads = {};

@@ -11,7 +11,7 @@ namespace {
 bool holdSameFiles(QStringList left, QStringList right) {
     if (left == right || left.size() != right.size())
         return left == right;
-    // A sort changes the order of the selected rows and no more.
+    // Sorting changes only the order of the selected rows.
     left.sort();
     right.sort();
     return left == right;

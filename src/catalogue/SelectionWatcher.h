@@ -7,13 +7,13 @@
 #include <QStackedWidget>
 #include <QStringList>
 
-// The selection of the media view that is shown, one view a page. Views keep selections of their own; rows
-// that are hidden, removed or replaced leave them without a signal, so that files are compared.
+// The selection of the media view that is shown, one view a page. Each view has its own selection. Rows that
+// are hidden, removed or replaced leave it without a signal, so the selected files are compared instead.
 class SelectionWatcher : public QObject {
     Q_OBJECT
 
 public:
-    // Holds reports back for a scope that changes rows; its end compares once.
+    // Suspends reports for a scope that changes rows; at its end the selection is compared once.
     class Hold {
     public:
         explicit Hold(SelectionWatcher& watcher) : _watcher(watcher) { ++_watcher._holds; }
@@ -27,7 +27,7 @@ public:
         SelectionWatcher& _watcher;
     };
 
-    // The views have their models already.
+    // Precondition: the views have their models.
     SelectionWatcher(QStackedWidget* pages, const QList<QAbstractItemView*>& views, QObject* parent);
 
     [[nodiscard]] const QList<QAbstractItemView*>& views() const { return _views; }

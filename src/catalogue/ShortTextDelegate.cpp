@@ -24,6 +24,7 @@ QWidget* ShortTextDelegate::createEditor(QWidget* parent, const QStyleOptionView
                                          const QModelIndex& index) const {
     QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
     if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        // A line edit cuts texts at 32767 characters by default.
         edit->setMaxLength(std::numeric_limits<int>::max());
     return editor;
 }
@@ -33,7 +34,7 @@ bool ShortTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     QString text = index.data(Qt::ToolTipRole).toString();
     if (event->type() != QEvent::ToolTip || (!text.isEmpty() && !Qt::mightBeRichText(text)))
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    // A text that is cut off, and has no tool tip of its own, is its own tool tip.
+    // A text that is cut off and has no tool tip of its own is shown as the tool tip.
     if (text.isEmpty() && sizeHint(option, index).width() > option.rect.width())
         text = displayText(index.data(Qt::DisplayRole), option.locale);
     if (text.isEmpty())

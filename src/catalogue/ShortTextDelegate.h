@@ -3,8 +3,8 @@
 #include <QStyledItemDelegate>
 
 // Shows the beginning of a very long text: laying out megabytes at each paint would stall the view. Editors
-// get the whole text. Tool tips are plain text, whatever a file name looks like; a text that is cut off has
-// itself as tool tip.
+// get the whole text. Tool tips are plain text, whatever a file name looks like; a text that is cut off is
+// shown as its own tool tip.
 class ShortTextDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Some ten megabytes.
+// About ten megabytes.
 constexpr qsizetype maxRememberedTexts = 200000;
 
 } // namespace

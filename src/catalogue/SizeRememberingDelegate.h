@@ -5,10 +5,10 @@
 #include <QFont>
 #include <QHash>
 
-// Knows the size of an item whose text it has met before: a layout asks for the size of every item, each sort
-// and filter lays all rows out again, and many files have the same tags. Items are sized without composing
-// their canvases, which cost more than all the rest of a row. For items that have no font, alignment or check
-// box to themselves.
+// Caches the sizes of items by their texts: a layout requests the size of every item, each sort and filter
+// lays all rows out again, and many files have the same tags. Sizes are computed without composing the
+// canvases, which would take longer than all the rest of a row. Only for items without a font, alignment or
+// check box of their own.
 class SizeRememberingDelegate : public ShortTextDelegate {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
         Qt::TextElideMode elideMode = Qt::ElideNone;
         Qt::LayoutDirection direction = Qt::LeftToRight;
         const QStyle* style = nullptr;
-        const QMetaObject* styleClass = nullptr; // another style may come to the same address
+        const QMetaObject* styleClass = nullptr; // another style may get the same address
 
         bool operator==(const Shape&) const = default;
     };

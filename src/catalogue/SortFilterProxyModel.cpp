@@ -15,13 +15,13 @@ bool isLess(const QVariant& left, const QVariant& right) {
 } // namespace
 
 void SortFilterProxyModel::sort(int column, Qt::SortOrder order) {
-    const auto forget = qScopeGuard([this] { _sortValues.clear(); });
+    const auto clearValues = qScopeGuard([this] { _sortValues.clear(); });
     fetchSortValues(column);
     QSortFilterProxyModel::sort(column, order);
 }
 
 void SortFilterProxyModel::refilter() {
-    const auto forget = qScopeGuard([this] { _sortValues.clear(); });
+    const auto clearValues = qScopeGuard([this] { _sortValues.clear(); });
     fetchSortValues(sortColumn());
     invalidate();
 }
@@ -47,7 +47,7 @@ bool SortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& 
         return QSortFilterProxyModel::lessThan(left, right);
     const QVariant& leftValue = _sortValues[static_cast<size_t>(left.row())];
     const QVariant& rightValue = _sortValues[static_cast<size_t>(right.row())];
-    // Cells without a value come last.
+    // Cells without a value are sorted behind all others.
     if (!leftValue.isValid() || !rightValue.isValid())
         return leftValue.isValid();
     if (leftValue.metaType() == rightValue.metaType()) {

@@ -12,9 +12,9 @@ class SortFilterProxyModel : public QSortFilterProxyModel {
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
-    // The order of the base class, from values that are fetched once a row instead of for each comparison.
+    // Sorts as the base class does, but fetches each value once a row instead of once a comparison.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
-    // invalidate() with the same values: looks at the hidden flags of all rows and sorts them again.
+    // invalidate() with values fetched likewise: filters all rows by their hidden flags and sorts them again.
     void refilter();
 
 protected:

@@ -7,16 +7,16 @@
 
 QStringList strayTxtFiles(const QStringList& txtNames, const QStringList& allNames,
                           const QStringList& mediaSuffixes) {
-    QSet<QString> answering;
+    QSet<QString> mediaBaseNames;
     const QSet<QString> suffixes(mediaSuffixes.cbegin(), mediaSuffixes.cend());
     for (const QString& name : allNames) {
         const QFileInfo info(name);
         if (suffixes.contains(info.suffix().toLower()))
-            answering.insert(foldedCase(info.baseName()));
+            mediaBaseNames.insert(foldedCase(info.baseName()));
     }
     QStringList stray;
     for (const QString& name : txtNames) {
-        if (!answering.contains(foldedCase(QFileInfo(name).baseName())))
+        if (!mediaBaseNames.contains(foldedCase(QFileInfo(name).baseName())))
             stray.append(name);
     }
     return stray;

@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-// The text files of a directory, by name, to which no media file answers. The name up to its first dot is
-// what counts, regardless of case: "a.b.txt" belongs to "a.png". Takes the names of all entries and the
-// lower-case suffixes of media.
+// The names of the text files of a directory that belong to no media file in it. Names are compared up to
+// their first dot, regardless of case: "a.b.txt" belongs to "a.png". `allNames` are all entries of the
+// directory, `mediaSuffixes` are in lower case.
 [[nodiscard]] QStringList strayTxtFiles(const QStringList& txtNames, const QStringList& allNames,
                                         const QStringList& mediaSuffixes);

@@ -13,11 +13,11 @@
 
 namespace {
 
-constexpr qint64 kMebibyte = 1024 * 1024;
-constexpr qint64 kSegmentBytes = 64 * kMebibyte;
-constexpr qint64 kAlignment = 64;
+constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 segmentBytes = 64 * mebibyte;
+constexpr qint64 pixelAlignment = 64; // bytes
 
-// An image over the bytes of an owner, which goes with the last copy of the image.
+// An image that uses the bytes of an owner, which is deleted with the last copy of the image.
 template <typename Owner>
 QImage imageOver(const uchar* bytes, const QImage& like, Owner&& owner) {
     using Held = std::decay_t<Owner>;
@@ -26,7 +26,7 @@ QImage imageOver(const uchar* bytes, const QImage& like, Owner&& owner) {
         [](void* held) { delete static_cast<Held*>(held); }, new Held(std::forward<Owner>(owner)));
 }
 
-// Pixels in memory, which count as long as they live.
+// Pixels in memory, whose size is part of the total as long as they exist.
 struct CountedImage {
     CountedImage(const QImage& pixels, std::shared_ptr<std::atomic<qint64>> total)
         : image(pixels), count(std::move(total)) {
@@ -56,8 +56,8 @@ struct ThumbnailStore::Segment {
 };
 
 qint64 ThumbnailStore::usualBudget() {
-    // Below a gibibyte, as the rows of a large directory take some hundred megabytes besides.
-    constexpr qint64 most = 800 * kMebibyte;
+    // Below a gibibyte, as the rows of a large directory use some hundred megabytes besides.
+    constexpr qint64 most = 800 * mebibyte;
 #ifdef _SC_PHYS_PAGES
     return std::min(most, static_cast<qint64>(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE) / 4);
 #else
@@ -66,7 +66,7 @@ qint64 ThumbnailStore::usualBudget() {
 }
 
 QImage ThumbnailStore::keep(const QImage& image) {
-    // An image for a dense screen is rare, and would lose its scale.
+    // The stored form has no device pixel ratio, so the rare images with one are returned as they are.
     if (image.isNull() || image.devicePixelRatio() != 1)
         return image;
     if (*_inMemory + image.sizeInBytes() > _budget && !_hasFailed) {
@@ -85,7 +85,7 @@ QImage ThumbnailStore::inFile(const QImage& image) {
     const qint64 size = image.sizeInBytes();
     if ((!_segment || _segment->used + size > _segment->size) && !openSegment(size))
         return {};
-    // Written, not copied into the mapping, where a full disk would end the program.
+    // Written to the file: copying into the mapping would end the program by a signal if the disk is full.
     QTemporaryFile& file = _segment->file;
     if (!file.seek(_segment->used) ||
         file.write(reinterpret_cast<const char*>(image.constBits()), size) != size) {
@@ -94,13 +94,13 @@ QImage ThumbnailStore::inFile(const QImage& image) {
         return {};
     }
     const uchar* bytes = _segment->bytes + _segment->used;
-    _segment->used += (size + kAlignment - 1) / kAlignment * kAlignment;
+    _segment->used += (size + pixelAlignment - 1) / pixelAlignment * pixelAlignment;
     return imageOver(bytes, image, std::shared_ptr(_segment));
 }
 
 bool ThumbnailStore::openSegment(qint64 leastBytes) {
     auto segment = std::make_shared<Segment>();
-    segment->size = std::max(kSegmentBytes, leastBytes);
+    segment->size = std::max(segmentBytes, leastBytes);
     QDir().mkpath(_directory);
     segment->file.setFileTemplate(QDir(_directory).filePath(QStringLiteral("thumbnails-XXXXXX")));
     QFile& file = segment->file;
@@ -111,8 +111,8 @@ bool ThumbnailStore::openSegment(qint64 leastBytes) {
                  << file.errorString();
         return false;
     }
-    // Without a name it goes with the program, however that ends. Where open files keep theirs, it is removed
-    // at the end.
+    // A file without a name is freed when the program ends, even by a crash. Where the system cannot remove
+    // the name of an open file, QTemporaryFile removes it at the end.
     segment->file.setAutoRemove(!QFile::remove(file.fileName()));
     _segment = std::move(segment);
     return true;

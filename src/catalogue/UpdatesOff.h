@@ -8,7 +8,7 @@ class UpdatesOff {
 public:
     explicit UpdatesOff(const QList<QAbstractItemView*>& views) {
         for (QAbstractItemView* view : views) {
-            // An inner scope leaves alone what the outer one switches on again.
+            // An inner scope skips the views that an outer one will switch on again.
             if (!view->updatesEnabled())
                 continue;
             view->setUpdatesEnabled(false);
@@ -18,7 +18,8 @@ public:
     ~UpdatesOff() {
         for (QAbstractItemView* view : std::as_const(_views)) {
             view->setUpdatesEnabled(true);
-            // A table whose row header went to no width and back is left painted over its neighbours.
+            // A table whose row header shrank to no width and grew again would stay painted over its
+            // neighbours.
             view->window()->update();
         }
     }

@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds kProbePatience{5};
+constexpr std::chrono::seconds probeTimeout{5};
 
-constexpr std::array kVideoMetaNames{
+constexpr std::array videoMetaNames{
     std::pair{QMediaMetaData::Duration, "Duration"_L1},
     std::pair{QMediaMetaData::MediaType, "MediaType"_L1},
     std::pair{QMediaMetaData::FileFormat, "FileFormat"_L1},
@@ -33,8 +33,8 @@ constexpr std::array kVideoMetaNames{
 } // namespace
 
 VideoImageLoader::VideoImageLoader(QObject* parent) : QObject(parent) {
-    _patience.setSingleShot(true);
-    connect(&_patience, &QTimer::timeout, this, &VideoImageLoader::endFailedJob);
+    _timeout.setSingleShot(true);
+    connect(&_timeout, &QTimer::timeout, this, &VideoImageLoader::endFailedJob);
 }
 
 void VideoImageLoader::initVideoPlayer() {
@@ -53,18 +53,19 @@ void VideoImageLoader::grabFrame(const QString& filePath, qint64 position) {
     initVideoPlayer();
     endJob();
     _videoFilePath = filePath;
-    // Until here the player speaks of the file before.
+    // The job begins after setSource: status changes before it still concern the previous file.
     _player->setSource(mediaUrl(filePath));
     followFramesOfThisJob();
     _jobIsOn = true;
     _jobHasFailed = false;
+    // setSource may have reported a final status before the job began.
     mediaStatusChanged(_player->mediaStatus());
     _player->pause();
     _player->setPosition(position);
 }
 
-// Frames come queued from a thread of the back end: one of the file before may still be on its way. It
-// arrives over a connection of its own job and is told by that.
+// The back end queues frames from its thread, so one of the previous file may still arrive. Each job makes a
+// connection with its own number, by which frames of earlier jobs are recognised and dropped.
 void VideoImageLoader::followFramesOfThisJob() {
     disconnect(_frames);
     _frames = connect(_player->videoSink(), &QVideoSink::videoFrameChanged, this,
@@ -98,7 +99,7 @@ void VideoImageLoader::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
         return;
     const bool withoutPicture = status == QMediaPlayer::LoadedMedia && !_player->hasVideo();
     _jobHasFailed = status == QMediaPlayer::InvalidMedia || withoutPicture;
-    _patience.start(_jobHasFailed ? std::chrono::seconds{0} : kProbePatience);
+    _timeout.start(_jobHasFailed ? std::chrono::seconds{0} : probeTimeout);
 }
 
 void VideoImageLoader::errorOccurred(QMediaPlayer::Error error, QString errorString) {
@@ -106,7 +107,7 @@ void VideoImageLoader::errorOccurred(QMediaPlayer::Error error, QString errorStr
     if (!_jobIsOn)
         return;
     _jobHasFailed = true;
-    _patience.start(0);
+    _timeout.start(0);
 }
 
 void VideoImageLoader::endFailedJob() {
@@ -123,17 +124,17 @@ void VideoImageLoader::stopPlayer() {
 void VideoImageLoader::endJob() {
     ++_job;
     _jobIsOn = false;
-    _patience.stop();
+    _timeout.stop();
 }
 
 QHash<QString, QVariant> videoMetaHash(QMediaMetaData metaData) {
-    // Some containers tell a frame rate that is not a number.
+    // For some containers the back end reports NaN as the frame rate.
     if (std::isnan(metaData.value(QMediaMetaData::VideoFrameRate).toDouble()))
         metaData.remove(QMediaMetaData::VideoFrameRate);
     QHash<QString, QVariant> hash;
     for (const QMediaMetaData::Key key : metaData.keys())
         hash.insert(QMediaMetaData::metaDataKeyToString(key), metaData.value(key));
-    for (const auto& [key, name] : kVideoMetaNames)
+    for (const auto& [key, name] : videoMetaNames)
         if (const QVariant value = metaData.value(key); value.isValid())
             hash.insert(name, value);
     return hash;

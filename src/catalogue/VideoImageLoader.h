@@ -11,8 +11,8 @@
 #include <QVariant>
 #include <QVideoFrame>
 
-// Takes the first frame and the metadata of one video after another. Lives on the GUI thread; a job ends with
-// imageFrame or with failed, neither of which comes from within grabFrame.
+// Grabs the first frame and the metadata of one video after another. Lives on the GUI thread; a job ends with
+// imageFrame or with failed, neither of which is emitted inside grabFrame.
 class VideoImageLoader : public QObject {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
     // The busy flag belongs to the caller.
     [[nodiscard]] bool isRunning() const { return _isRunning; }
     void setRunning(bool running) { _isRunning = running; }
-    // Bounds of the frames that are handed out; an invalid size leaves them as they are.
+    // Frames are scaled to fit this size; an invalid size leaves them as they are.
     void setSize(const QSize& size) { _size = size; }
     // Metadata of the last job, under the display names and the fixed names of the keys.
     [[nodiscard]] QHash<QString, QVariant> videoMeta() const { return _videoMeta; }
@@ -53,12 +53,12 @@ private:
     QImage _image;
     QHash<QString, QVariant> _videoMeta;
     QMetaObject::Connection _frames;
-    // Counts jobs and their ends, so that a frame queued in one job is known in the next.
+    // Incremented at the start and at the end of each job, so that a frame of an earlier one is recognised.
     quint64 _job = 0;
     bool _jobIsOn = false;
     bool _jobHasFailed = false;
-    // Ends a job in which nothing happens any more.
-    QTimer _patience;
+    // Ends a failed job, and one whose status has not changed for some seconds.
+    QTimer _timeout;
 };
 
 // The metadata under the names that metaDataKeyToString gives and under the fixed names that the columns

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QVariant>
 
-// What a probe's metadata puts into one cell of the catalogue.
+// One cell of the catalogue, filled from the metadata of a clip.
 struct VideoMetaCell {
     MediaColumn column = ColName;
     QVariant display;

@@ -6,8 +6,8 @@
 #include <QHeaderView>
 #include <QListView>
 
-// Switches a list between icons and lines. Icon mode makes items movable and the list a target of drags,
-// which the movement takes back only in part, so that the drag mode is set last.
+// Switches a list between icons and lines. Icon mode makes items movable and the list a drop target.
+// setMovement resets only a part of that, so the drag mode is set last.
 inline void setStaticViewMode(QListView* list, QListView::ViewMode mode) {
     list->setViewMode(mode);
     list->setMovement(QListView::Static);
@@ -23,15 +23,16 @@ inline bool restoreHeader(QHeaderView* header, const QByteArray& state) {
     return isRestored;
 }
 
-// The same for the columns of a scan, which come with the widths of the style.
+// The same for the columns of a new scan. Without a stored state the name column is made wider than the
+// style's default.
 inline void restoreMediaHeader(QHeaderView* header, const QByteArray& state) {
     constexpr int firstNameWidth = 220;
     if (!restoreHeader(header, state))
         header->resizeSection(ColName, firstNameWidth);
 }
 
-// Where a context menu opens on the screen: at the place in the view that was asked for, which is the current
-// item for the menu key, or at the mouse.
-inline QPoint menuPlace(const QAbstractItemView* view, const QPoint& pos) {
+// Where a context menu opens on the screen: at the requested position in the view, which the menu key sets to
+// the current item, or at the mouse cursor for a null position.
+inline QPoint menuPosition(const QAbstractItemView* view, const QPoint& pos) {
     return pos.isNull() ? QCursor::pos() : view->viewport()->mapToGlobal(pos);
 }

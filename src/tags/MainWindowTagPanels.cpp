@@ -136,7 +136,7 @@ void MainWindow::moveImageTag(TagMove move) {
         return;
     QStringList tags = imageTags(files.first());
     int row = list->currentRow();
-    // A list that was sorted shows another order than the one that is moved in.
+    // A sorted list shows another order than the file's tags, so the tag is searched by its text.
     if (tags.value(row) != current->text())
         row = int(tags.indexOf(current->text()));
     if (row < 0)
@@ -154,6 +154,7 @@ void MainWindow::onTagsChanged(TagChange change) {
     if (change == TagChange::Saved)
         return;
     refreshAllTags();
+    // An edit updates everything like a new selection; an undo leaves preview and message as they are.
     if (change == TagChange::Edited)
         onItemSelectedChanged();
     else if (change == TagChange::Undone)
@@ -249,7 +250,7 @@ void MainWindow::onImageTagCustomContextMenu(const QPoint& pos) {
     addTagListActions(menu, list, _imageTagsSortOrder);
     menu.addAction(tr("&Delete"), this, &MainWindow::onTagDelete);
     menu.addAction(tr("Delete &all"), this, &MainWindow::onTagsDelete);
-    menu.exec(menuPlace(list, pos));
+    menu.exec(menuPosition(list, pos));
 }
 
 void MainWindow::onImagesTagsCustomContextMenu(const QPoint& pos) {
@@ -264,7 +265,7 @@ void MainWindow::onImagesTagsCustomContextMenu(const QPoint& pos) {
     menu.addAction(tr("&Refresh"), this, &MainWindow::refreshAllTags);
     menu.addSeparator();
     menu.addAction(tr("&Delete"), this, &MainWindow::onAllTagDelete);
-    menu.exec(menuPlace(list, pos));
+    menu.exec(menuPosition(list, pos));
 }
 
 void MainWindow::addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order) {
