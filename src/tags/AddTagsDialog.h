@@ -11,7 +11,7 @@ namespace Ui {
 class AddTagsDialog;
 }
 
-// Takes tag text from the user: tags to add to the selected files, or the text of one sidecar.
+// Lets the user type tag text: tags to add to the selected files, or the text of one sidecar.
 class AddTagsDialog : public QDialog {
     Q_OBJECT
 

@@ -60,7 +60,7 @@ bool CompletionPopup::isOpen() const {
 }
 
 void CompletionPopup::update() {
-    if (_isTaking || !_edit->isVisible())
+    if (_isInserting || !_edit->isVisible())
         return;
     const Line line = _line();
     const CompletionOffer offer = _offer(line.text, line.cursor);
@@ -76,7 +76,7 @@ void CompletionPopup::open(const QList<Completion>& rows) {
         _list = new QTreeWidget(_edit);
         _list->setObjectName("completions");
         _list->setAccessibleName(tr("Completions"));
-        // A tool tip takes neither the focus nor the activation from the window that is typed into.
+        // A tool tip window takes neither focus nor activation from the window that the user types in.
         _list->setWindowFlags(Qt::ToolTip);
         _list->setAttribute(Qt::WA_ShowWithoutActivating);
         _list->setFocusPolicy(Qt::NoFocus);
@@ -88,7 +88,7 @@ void CompletionPopup::open(const QList<Completion>& rows) {
         _list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         _list->setItemDelegate(new ShortTextDelegate(_list));
         _list->header()->setStretchLastSection(false);
-        connect(_list, &QTreeWidget::itemPressed, this, &CompletionPopup::take);
+        connect(_list, &QTreeWidget::itemPressed, this, &CompletionPopup::insertCompletion);
     }
     _list->clear();
     const QBrush quiet = _list->palette().brush(QPalette::PlaceholderText);
@@ -100,6 +100,7 @@ void CompletionPopup::open(const QList<Completion>& rows) {
     }
     _list->setCurrentItem(nullptr);
     place();
+    // Each time, as the edit may have moved to another window. A filter is not installed twice.
     _edit->window()->installEventFilter(this);
     _list->show();
 }
@@ -129,18 +130,18 @@ void CompletionPopup::hide() {
 void CompletionPopup::step(int rows) {
     const int count = _list->topLevelItemCount();
     const int current = _list->indexOfTopLevelItem(_list->currentItem());
-    // Beyond either end no row is chosen, as at first.
+    // A step beyond either end clears the choice, as at first.
     const int next = current < 0 && rows < 0 ? count - 1 : current + rows;
     _list->setCurrentItem(next < count ? _list->topLevelItem(next) : nullptr);
 }
 
-void CompletionPopup::take(const QTreeWidgetItem* item) {
+void CompletionPopup::insertCompletion(const QTreeWidgetItem* item) {
     const QString text = item->data(0, Qt::UserRole).toString();
     hide();
-    _isTaking = true;
+    _isInserting = true;
     _replace(_start, _line().cursor, text);
-    _isTaking = false;
-    // What ends in a blank expects more.
+    _isInserting = false;
+    // A completion that ends in a blank is followed by a value, whose completions are offered at once.
     if (text.endsWith(u' '))
         update();
 }
@@ -148,6 +149,7 @@ void CompletionPopup::take(const QTreeWidgetItem* item) {
 bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
     const bool isEnter = key == Qt::Key_Enter || key == Qt::Key_Return;
     const QTreeWidgetItem* chosen = isOpen() ? _list->currentItem() : nullptr;
+    // Enter of the numeric keypad has this modifier.
     modifiers &= ~Qt::KeypadModifier;
     if (isEnter && modifiers == Qt::ControlModifier) {
         const QString text = chosen ? chosen->data(0, Qt::UserRole).toString() : QString();
@@ -169,7 +171,7 @@ bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
     case Qt::Key_Enter:
     case Qt::Key_Return:
         if (chosen)
-            take(chosen);
+            insertCompletion(chosen);
         else
             hide();
         return chosen != nullptr;

@@ -25,8 +25,8 @@ struct CompletionOffer {
     QList<Completion> rows = {};
 };
 
-// The list of completions below a text that is typed. The edit keeps the focus and all keys but those that
-// choose: Down and Up, Tab and Enter for the chosen row, Escape. Owned by the edit.
+// The list of completions below the text that the user types. The edit keeps the focus and all keys but those
+// that choose: Down and Up, Tab and Enter for the chosen row, Escape. Owned by the edit.
 class CompletionPopup : public QObject {
     Q_OBJECT
 
@@ -55,14 +55,14 @@ private:
     void hide();
     void place();
     void step(int rows);
-    void take(const QTreeWidgetItem* item);
+    void insertCompletion(const QTreeWidgetItem* item);
     [[nodiscard]] bool handleKey(int key, Qt::KeyboardModifiers modifiers);
 
     QWidget* _edit;
     Offer _offer;
     QTreeWidget* _list = nullptr; // made at the first offer
     qsizetype _start = 0;
-    bool _isTaking = false;
+    bool _isInserting = false;
     std::function<Line()> _line;                                                       // at the cursor
     std::function<void(qsizetype start, qsizetype end, const QString& text)> _replace; // in that line
     std::function<QRect()> _cursorRect;                                                // on the screen

@@ -36,7 +36,7 @@ QString sidecarError(const SidecarWrite& write) {
     }
 }
 
-// Shows a text that is no edit of the user: it cannot be undone.
+// Shows a loaded text, which is no edit of the user and cannot be undone.
 void showLoadedText(QPlainTextEdit* edit, const QString& text) {
     edit->setUndoRedoEnabled(false);
     edit->clear();
@@ -106,7 +106,7 @@ void MainWindow::unbindTagFile() {
 }
 
 void MainWindow::followTagFile(const QString& filePath) {
-    // An edit of tags comes here too, with the selection that was followed before.
+    // Editing tags also calls this, with an unchanged selection, and must not discard typed text.
     if (isTagFileEdited() && ui->pTETagsFromFile->property(followedFileProperty).toString() == filePath)
         return;
     ui->pTETagsFromFile->setProperty(followedFileProperty, filePath);
@@ -171,6 +171,7 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
         onShowMessage(tr("Failed to write data to txt file, error: %1").arg(write.error));
         return false;
     case SidecarWrite::CutShort:
+        // The record gets the tags all the same and keeps them as unsaved.
         qDebug() << "Error, txt file is cut short:" << txtFileName << "data:" << text.toUtf8().size();
         break;
     case SidecarWrite::Written:
@@ -187,7 +188,7 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
     else
         _imageTags->setTags(imgFileName, tagsFromText(text));
     refreshImageTags(imgFileName);
-    // The user sees that the file on the disk is not the text on the screen.
+    // The failure is shown, as the file on the disk differs from the text on the screen.
     if (!isWritten)
         onShowMessage(tr("Failed to write data to txt file, error: %1").arg(sidecarError(write)));
     return isWritten;

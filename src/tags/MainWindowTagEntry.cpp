@@ -21,7 +21,8 @@ namespace {
 
 constexpr qsizetype shownTagCharacters = 200;
 
-// Window-modal without blocking; the dialog deletes itself and keeps its geometry.
+// Opens the dialog window-modal, without a nested event loop. It stores its geometry and deletes itself when
+// closed.
 void openTagsDialog(AddTagsDialog* dialog) {
     QObject::connect(dialog, &AddTagsDialog::aboutToBeDestroyed, dialog, [dialog] {
         Settings::instance()->set(keys::addTagsDialogGeometry, dialog->saveGeometry());
@@ -46,7 +47,7 @@ void MainWindow::initTagEntryConnections() {
 
 void MainWindow::addTypedTags(const QString& chosen) {
     addTagsToSelected(tagsToAdd(_imageTags->counted(), ui->leFilterAllTags->text(), chosen));
-    // The next tag is typed over this one.
+    // Selected, so that typing the next tag replaces this one.
     ui->leFilterAllTags->selectAll();
 }
 
@@ -66,6 +67,7 @@ void MainWindow::addTagToSelected() {
     if (selectedFilePaths().isEmpty())
         qDebug() << "Error, selection is empty...";
     auto* dialog = new AddTagsDialog(this);
+    // Opened even without a selection: onAddTagsAccepted reads the selection anew.
     connect(dialog, &AddTagsDialog::addTagsAccepted, this, &MainWindow::onAddTagsAccepted);
     dialog->setKnownTags(_imageTags->counted());
     openTagsDialog(dialog);

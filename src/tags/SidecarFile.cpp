@@ -22,7 +22,7 @@ SidecarRead readSidecarFile(const QString& txtFileName) {
 void logSidecarRead(const QString& txtFileName, const SidecarRead& read) {
     if (!read.error.isEmpty())
         qDebug() << "Error:" << read.error << "unable to open file:" << txtFileName;
-    // What cannot be decoded is replaced by the next save, so the loss gets a name.
+    // The next save replaces the bytes that cannot be decoded, so the loss is logged.
     if (!read.isValid)
         qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
 }
@@ -55,7 +55,7 @@ SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool 
     result.written = file.write(bytes);
     if (result.written == -1 || file.error() != QFileDevice::NoError)
         result.outcome = SidecarWrite::NotWritten;
-    else if (result.written < bytes.size()) // a disk that fills up takes the first part without an error
+    else if (result.written < bytes.size()) // a full disk accepts the first part without an error
         result.outcome = SidecarWrite::CutShort;
     if (result.outcome != SidecarWrite::Written)
         result.error = file.errorString();

@@ -4,16 +4,16 @@
 
 #include <optional>
 
-// What a read of a sidecar gave.
+// The result of reading a sidecar.
 struct SidecarRead {
     std::optional<QString> text; // decoded; nothing when the file is missing or cannot be read
-    QString error;               // of a file that is there and cannot be opened
+    QString error;               // of an existing file that cannot be opened
     bool isValid = true;         // false where bytes could not be decoded
 };
 
 // Logs nothing, for threads that read ahead of the order in which files are logged.
 [[nodiscard]] SidecarRead readSidecarFile(const QString& txtFileName);
-// A line for what went wrong, if anything did.
+// Logs a line for each problem of the read.
 void logSidecarRead(const QString& txtFileName, const SidecarRead& read);
 
 // The decoded text of a sidecar, with its log lines.
@@ -23,15 +23,15 @@ void logSidecarRead(const QString& txtFileName, const SidecarRead& read);
 struct SidecarWrite {
     enum Outcome {
         Written,
-        CutShort,     // the disk took only the first part
-        NoBackupName, // all numbers are taken; nothing was written
+        CutShort,     // only the first part is on the disk
+        NoBackupName, // all numbers are in use; nothing was written
         NotOpened,    // the old text is whole
-        NotWritten    // the old text may be gone
+        NotWritten    // the old text may be lost
     };
 
     Outcome outcome = Written;
     QString error;       // of the file, where the outcome is not Written
-    QString backupError; // of a rename that failed; the write went ahead all the same
+    QString backupError; // of a rename that failed; the text was written all the same
     qint64 written = 0;  // bytes
 };
 

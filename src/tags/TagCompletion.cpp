@@ -26,17 +26,17 @@ struct Match {
 QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word) {
     const QStringMatcher matcher(word, Qt::CaseInsensitive);
     QList<Match> matches;
-    QHash<QStringView, qsizetype> places;
+    QHash<QStringView, qsizetype> indexes;
     for (const TagCount& counted : known) {
         const QStringView tag = QStringView(counted.tag).trimmed();
         const qsizetype at = tag.isEmpty() ? -1 : matcher.indexIn(tag);
         if (at < 0 || tag.contains(u',') || tag.contains(u'\n'))
             continue;
-        const auto place = places.tryEmplace(tag, matches.size());
-        if (place.inserted)
+        const auto index = indexes.tryEmplace(tag, matches.size());
+        if (index.inserted)
             matches.append({tag, counted.count, at > 0});
         else
-            matches[*place.iterator].count += counted.count;
+            matches[*index.iterator].count += counted.count;
     }
     const auto end = matches.begin() + qMin(matches.size(), maxOffered);
     std::partial_sort(matches.begin(), end, matches.end());

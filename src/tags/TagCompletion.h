@@ -10,16 +10,16 @@
 // end are left out, since typed text cannot hold them. An empty word is in every tag.
 [[nodiscard]] QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word);
 
-// The tag that is typed at the cursor of a line: after the last comma, blanks trimmed. Nothing is offered
+// Completions of the tag that is typed at the cursor of a line: after the last comma, blanks trimmed. None
 // before its first character or inside of it.
 [[nodiscard]] CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line,
                                              qsizetype cursor);
 
-// The words of a query of the filter line, and the tags after those that take one.
+// Completions in the filter line: the words of a query, and tags after the words that expect one.
 [[nodiscard]] CompletionOffer queryCompletions(const QList<TagCount>& known, const QString& line,
                                                qsizetype cursor);
 
-// The tags to add for a text typed into one line. Its last tag counts as typed when it is known exactly, else
-// the chosen completion replaces it; a null one leaves it as a new tag.
+// The tags to add for a text typed into one line. Its last tag is kept if exactly that tag is used already,
+// else the chosen completion replaces it; a null one leaves it as a new tag.
 [[nodiscard]] QStringList tagsToAdd(const QList<TagCount>& known, const QString& typed,
                                     const QString& chosen);

@@ -23,7 +23,7 @@ void TagDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
     const auto* list = qobject_cast<const QListView*>(option.widget);
     if (const QVariant count = index.data(RoleTagCount); list && list->spacing() > 0 && count.isValid()) {
-        // Within the spacing, as an item that grew would lay the whole list out anew.
+        // Drawn into the spacing below the item: taller items would change the layout of the whole list.
         const QRect gap(option.rect.left(), option.rect.bottom() + 1, option.rect.width(), list->spacing());
         QFont small = option.font;
         small.setPixelSize(gap.height());

@@ -19,7 +19,7 @@ QStringList sidecarTags(const QString& key) {
     return tagsFromText(sidecarText(imgFilePathToTxtFilePath(key)).value_or(QString()));
 }
 
-// The bytes that a list would take if it shared no text with any other.
+// The bytes that a list would occupy if it shared no strings with other lists.
 qsizetype tagBytes(const QStringList& tags) {
     qsizetype bytes = 0;
     for (const QString& tag : tags)
@@ -67,7 +67,7 @@ void TagRecord::importFiles(const QStringList& keys) {
 }
 
 void TagRecord::read(const QStringList& keys) {
-    // A file that was away comes back to what the user has not saved.
+    // A file that reappears keeps the tags that the user has not saved.
     QStringList wanted = keys;
     wanted.removeIf([this](const QString& key) { return isUnsaved(key); });
     _tags.reserve(_tags.size() + wanted.size());
@@ -85,7 +85,7 @@ void TagRecord::read(const QStringList& keys) {
             sidecar.txtFileName = imgFilePathToTxtFilePath(wanted.at(index));
             sidecar.read = readSidecarFile(sidecar.txtFileName);
             sidecar.tags = tagsFromText(sidecar.read.text.value_or(QString()));
-            // A text may be long, and its tags are all that is wanted of it.
+            // Only the tags are used, and the text may be long.
             sidecar.read.text.reset();
             return sidecar;
         },
@@ -170,6 +170,7 @@ void TagRecord::splitText(const QString& src) {
 
 void TagRecord::setSavedTags(const QString& key, const QStringList& tags) {
     Step step{tr("save the text of %1"), QFileInfo(key).fileName()};
+    // Not entryOf: the sidecar already has the new tags, so reading it would leave nothing to undo.
     change(step, _tags.tryEmplace(key).iterator, tags);
     _sidecarTags.remove(key);
     finish(std::move(step), TagChange::Stored);
@@ -203,7 +204,7 @@ TagRecord::Tags::iterator TagRecord::entryOf(const QString& key) {
     return entry != _tags.end() ? entry : _tags.insert(key, sidecarTags(key));
 }
 
-// Keeps what the file had in the step. Without a difference nothing is kept.
+// Sets the tags of an entry and stores the previous ones in the step. Does nothing if both are equal.
 void TagRecord::change(Step& step, Tags::iterator entry, const QStringList& tags) {
     if (*entry == tags)
         return;
@@ -225,6 +226,8 @@ void TagRecord::finish(Step&& step, TagChange change) {
     if (!step.before.isEmpty()) {
         _redo.clear();
         _undoBytes += step.bytes;
+        // Consecutive answers of a batch are one step, which keeps each file's tags from before its first
+        // answer.
         if (step.batch != 0 && canUndo() && _undo.last().batch == step.batch) {
             Step& batch = _undo.last();
             batch.bytes += step.bytes;
@@ -239,27 +242,28 @@ void TagRecord::finish(Step&& step, TagChange change) {
 }
 
 void TagRecord::undo() {
-    takeBack(_undo, _redo);
+    revertStep(_undo, _redo);
 }
 
 void TagRecord::redo() {
-    takeBack(_redo, _undo);
+    revertStep(_redo, _undo);
 }
 
-void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
+// Undo and redo alike revert the last step of one list and append the opposite step to the other.
+void TagRecord::revertStep(QList<Step>& from, QList<Step>& to) {
     if (from.isEmpty())
         return;
     Step step = from.takeLast();
     _undoBytes -= step.bytes;
     if (step.isImport) {
-        takeBackImport(step.before.keys(), &from == &_undo);
+        revertImport(step.before.keys(), &from == &_undo);
         to.append(std::move(step));
         announce(TagChange::Undone);
         return;
     }
     Step back{step.pattern, step.what};
     for (const auto& [key, before] : std::as_const(step.before).asKeyValueRange()) {
-        // Files that have left the record stay out of it.
+        // Files that were removed from the record are not added again.
         if (const auto entry = _tags.find(key); entry != _tags.end())
             change(back, entry, before);
     }
@@ -270,7 +274,7 @@ void TagRecord::takeBack(QList<Step>& from, QList<Step>& to) {
     announce(TagChange::Undone);
 }
 
-void TagRecord::takeBackImport(const QStringList& keys, bool isUndone) {
+void TagRecord::revertImport(const QStringList& keys, bool isUndone) {
     QStringList absent;
     for (const QString& key : keys) {
         if (isUndone) {
@@ -304,7 +308,7 @@ QString TagRecord::textOf(const Step& step) {
 
 TagSaveReport TagRecord::save(const TagSaveOptions& options) {
     TagSaveReport report;
-    QHash<QString, QString> writers; // the key that wrote a sidecar last
+    QHash<QString, QString> writers; // by sidecar, the key whose tags were written last
     for (const auto& [key, tags] : std::as_const(_tags).asKeyValueRange()) {
         const QString text = savedTagText(tags, options.keepsDuplicates);
         TagSaveRemark remark{imgFilePathToTxtFilePath(key), {}, false};
@@ -315,7 +319,7 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
         if (isWhole) {
             writers.insert(remark.txtFileName, key);
             _sidecarTags.remove(key);
-            // The file that wrote it before differs from its sidecar now.
+            // The file whose tags were written earlier now differs from its sidecar.
             if (remark.isShared && savedTagText(_tags.value(replacedKey), options.keepsDuplicates) != text)
                 _sidecarTags.insert(replacedKey, tagsFromText(text));
         }

@@ -12,13 +12,13 @@
 #include <functional>
 #include <optional>
 
-// What a change of the record was, for those who show it.
+// The kind of a change of the record, for the panels that show it.
 enum class TagChange {
     Read,   // sidecars were read, or files removed
     Edited, // the user changed the tags of files
-    Stored, // the tags of one file were taken from a text or an answer
-    Undone, // an edit was taken back or done again
-    Saved   // the tags stayed, their sidecars were written
+    Stored, // a text or an answer changed the tags of one file
+    Undone, // an edit was undone or redone
+    Saved   // sidecars were written, the tags are unchanged
 };
 
 struct TagSaveOptions {
@@ -27,7 +27,7 @@ struct TagSaveOptions {
     std::function<void(qsizetype done, qsizetype total)> progress = {}; // after each sidecar
 };
 
-// A sidecar of a save that went otherwise than expected.
+// A sidecar whose save failed or has a warning.
 struct TagSaveRemark {
     QString txtFileName;
     SidecarWrite write;
@@ -41,8 +41,8 @@ struct TagSaveReport {
     QList<TagSaveRemark> remarks; // in the order of the writes
 };
 
-// The tags of all files of the catalogue in memory, by file key, and how to take edits back. Remembers which
-// files differ from their sidecars. GUI thread only.
+// The tags of all files of the catalogue in memory, by file key, with undo of edits. Records which files
+// differ from their sidecars. GUI thread only.
 class TagRecord : public QObject {
     Q_OBJECT
 
@@ -77,15 +77,15 @@ public:
     void removeEverywhere(const QStringList& tags);
     void replaceText(const QString& src, const QString& dst);
     void splitText(const QString& src);
-    // Takes the tags of a text that has just been written to the file's sidecar.
+    // Sets the tags of a text that has just been written to the file's sidecar.
     void setSavedTags(const QString& key, const QStringList& tags);
     // Appends the tags of an answer. Answers of one batch in a row are one step.
     void appendAnswer(const QString& key, const QStringList& tags, int batch);
-    // Reads the sidecars of files that are new here. Taking it back removes their entries and leaves the
-    // sidecars alone: nothing is unsaved afterwards.
+    // Reads the sidecars of imported files. Undo removes their entries and does not change the sidecars, so
+    // nothing is unsaved afterwards.
     void importFiles(const QStringList& keys);
     [[nodiscard]] static int newBatch();
-    // Takes over what was recovered; keys without an entry are left out. Returns how many were changed.
+    // Sets recovered tags; keys without an entry are skipped. Returns how many entries were changed.
     qsizetype restore(const Tags& tags);
 
     // Writes every entry to its sidecar. Stops only where no backup name is left.
@@ -106,10 +106,10 @@ signals:
     void changed(TagChange change);
 
 private:
-    // What the touched files had before; taking it back leaves here what they had after.
+    // The tags of the changed files before an edit. Reverting it gives a step with the tags after the edit.
     struct Step {
-        QString pattern;   // of its text: what was edited, then the number of files
-        QString what = {}; // null where the number alone says it
+        QString pattern;   // of its label: what was edited, then the number of files
+        QString what = {}; // null where the label has only the number
         Tags before = {};
         qsizetype bytes = 0;
         int batch = 0;         // of answers; 0 for any other step
@@ -122,8 +122,8 @@ private:
     void change(Step& step, Tags::iterator entry, const QStringList& tags);
     void noteSidecarTags(const QString& key, const QStringList& before, const QStringList& now);
     void finish(Step&& step, TagChange change);
-    void takeBack(QList<Step>& from, QList<Step>& to);
-    void takeBackImport(const QStringList& keys, bool isUndone);
+    void revertStep(QList<Step>& from, QList<Step>& to);
+    void revertImport(const QStringList& keys, bool isUndone);
     void dropOldSteps();
     void announce(TagChange change);
 

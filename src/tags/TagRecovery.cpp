@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int writeDelayMs = 2000;
-// A batch that changes tags each second would put the write off for ever.
+// Each change restarts the delay, which a batch with a change every second would extend forever.
 constexpr int longestDelayMs = 10000;
 constexpr int keptDays = 30;
 constexpr int keptFiles = 20;
@@ -46,7 +46,7 @@ std::optional<RecoveredTags> readRecovery(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? recoveryFromText(file.readAll()) : std::nullopt;
 }
 
-// A directory that cannot be written is named once, since every change would name it again.
+// Logs the first failure only, as every further change would repeat it.
 void logFailedWrite(const QString& path, const QString& error) {
     static std::atomic<bool> isLogged = false;
     if (!isLogged.exchange(true))
@@ -60,11 +60,12 @@ void writeRecovery(const QString& path, RecoveredTags recovered) {
         return;
     }
     for (auto [key, file] : recovered.files.asKeyValueRange()) {
+        // Entries of an earlier run already have the state that their sidecars had then.
         if (file.sidecarSize < 0)
             noteSidecar(key, file);
     }
     QDir().mkpath(QFileInfo(path).path());
-    // The old file stays whole when the disk is full.
+    // If the disk is full, QSaveFile leaves the old file whole.
     QSaveFile file(path);
     const QByteArray text = recoveryText(recovered);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
@@ -119,8 +120,10 @@ TagRecovery::~TagRecovery() {
     _writer.waitForDone();
 }
 
-// The file of a directory. One that cannot be read stays as it is, and the next name is taken.
+// The recovery file of a directory; `left` receives its content. A file that cannot be read is left as it is,
+// and the next number is used.
 QString TagRecovery::freePath(const QString& workingDirectory, RecoveredTags& left) const {
+    // The hash only makes a file name of the path; the directory in the file is compared below.
     const QByteArray hash =
         QCryptographicHash::hash(workingDirectory.toUtf8(), QCryptographicHash::Sha1).toHex();
     for (int number = 0;; ++number) {
@@ -142,7 +145,7 @@ void TagRecovery::open(const QString& workingDirectory) {
     dropOldFiles();
     _workingDirectory = workingDirectory;
     _path = freePath(workingDirectory, _offer);
-    // What equals the sidecars is no longer missing.
+    // Tags that equal those of the sidecars need no recovery.
     _offer.files.removeIf([this](const auto& file) {
         return _record.contains(file.key()) && _record.tags(file.key()) == file.value().tags;
     });
@@ -161,7 +164,7 @@ void TagRecovery::onRecordChanged() {
     if (_path.isEmpty())
         return;
     if (_record.unsavedCount() == 0) {
-        // What was just saved is not offered after a crash.
+        // Written without delay, so that after a crash no tags are offered that were just saved.
         write();
         return;
     }
@@ -175,7 +178,7 @@ void TagRecovery::onRecordChanged() {
 
 void TagRecovery::write() {
     _delay.stop();
-    // What is still offered stays beside what is unsaved now.
+    // Offered tags stay in the file beside those that are unsaved now.
     RecoveredTags recovered = _offer;
     recovered.directory = _workingDirectory;
     if (!recovered.time.isValid())
@@ -206,7 +209,7 @@ TagRecovery::Restored TagRecovery::restore() {
     }
     _offer = kept;
     restored.files = _record.restore(tags);
-    // Without a change of the record nothing else would bring the file up to date.
+    // Without a change of the record no signal starts this write.
     write();
     emit offerChanged();
     return restored;
@@ -221,9 +224,9 @@ void TagRecovery::discard() {
 void TagRecovery::dropOldFiles() const {
     const QFileInfoList files = QDir(_directory).entryInfoList({u"*.json"_s}, QDir::Files, QDir::Time);
     const QDateTime oldest = QDateTime::currentDateTimeUtc().addDays(-keptDays);
-    for (qsizetype place = 0; place < files.size(); ++place) {
-        const QFileInfo& file = files.at(place);
-        const bool isOld = place >= keptFiles || file.lastModified(QTimeZone::UTC) < oldest;
+    for (qsizetype index = 0; index < files.size(); ++index) {
+        const QFileInfo& file = files.at(index);
+        const bool isOld = index >= keptFiles || file.lastModified(QTimeZone::UTC) < oldest;
         if (isOld && readRecovery(file.filePath()))
             QFile::remove(file.filePath());
     }

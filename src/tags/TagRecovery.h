@@ -31,7 +31,7 @@ struct RecoveredTags {
     bool operator==(const RecoveredTags&) const = default;
 };
 
-// One JSON document. Anything else gives nothing.
+// One JSON document. Nothing for any other text.
 [[nodiscard]] QByteArray recoveryText(const RecoveredTags& recovered);
 [[nodiscard]] std::optional<RecoveredTags> recoveryFromText(const QByteArray& text);
 
@@ -46,9 +46,9 @@ public:
     TagRecovery(TagRecord& record, const QString& recoveryDirectory, QObject* parent = nullptr);
     ~TagRecovery() override;
 
-    // Looks for what was left of a directory whose files are in the record.
+    // Offers the unsaved tags that an earlier run left of a directory whose files are in the record.
     void open(const QString& workingDirectory);
-    // Writes what is unsaved and follows the record no longer.
+    // Writes what is unsaved and stops following the record.
     void close();
 
     // How many files of the record can be restored, and from when.

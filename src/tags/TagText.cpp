@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// So many are compared faster than a tag is looked up.
+// Up to so many wanted tags, comparing them all is faster than a look-up.
 constexpr qsizetype fewTags = 8;
 
 } // namespace
@@ -68,6 +68,7 @@ void splitTags(QStringList& tags, const QString& src) {
         return;
     QStringList kept;
     QStringList pieces;
+    // From the last tag on, whose pieces come first.
     for (auto tag = tags.crbegin(); tag != tags.crend(); ++tag) {
         if (holdsSource(*tag))
             pieces.append(tag->split(src, Qt::SkipEmptyParts));
@@ -126,14 +127,14 @@ QStringList flattenedTags(const QHash<QString, QStringList>& tagsByFile) {
 
 QList<TagCount> countedTags(const QHash<QString, QStringList>& tagsByFile) {
     QList<TagCount> counted;
-    QHash<QString, qsizetype> places;
+    QHash<QString, qsizetype> indexes;
     for (const QStringList& tags : tagsByFile) {
         for (const QString& tag : tags) {
-            const auto place = places.tryEmplace(tag, counted.size());
-            if (place.inserted)
+            const auto index = indexes.tryEmplace(tag, counted.size());
+            if (index.inserted)
                 counted.append({tag, 1});
             else
-                ++counted[*place.iterator].count;
+                ++counted[*index.iterator].count;
         }
     }
     return counted;

@@ -16,7 +16,7 @@
 // Writes sidecar text: each tag trimmed, joined by one comma, no line end.
 [[nodiscard]] QString tagListToString(const QStringList& tags);
 
-// The text that a save of all tags writes. Duplicates go before trimming, unless they are kept.
+// The text that a save of all tags writes. Duplicates are removed before trimming, unless they are kept.
 [[nodiscard]] QString savedTagText(const QStringList& tags, bool keepDuplicates);
 
 // The tags that a user typed, one a line or separated by commas; nothing is trimmed.
@@ -28,14 +28,14 @@
 // Replaces src by dst inside the tags, in place and case-sensitively.
 void replaceInTags(QStringList& tags, const QString& src, const QString& dst);
 
-// Splits the tags that hold src, regardless of case, at src with its case. The pieces go to the end of the
-// list, those of the last tag first; a tag that matches only in another case goes there whole.
+// Splits the tags that hold src, regardless of case, at src with its case. The pieces are appended to the
+// list, those of the last tag first; a tag that matches only in another case is moved there whole.
 void splitTags(QStringList& tags, const QString& src);
 
 // A step of one tag within the order of its file.
 enum class TagMove { Up, Down, First, Last };
 
-// The row of a tag after a move, of so many rows.
+// The row of a tag after a move in a list of `count` tags.
 [[nodiscard]] qsizetype movedTagRow(qsizetype count, qsizetype row, TagMove move);
 
 // Removes every occurrence of the given tags.

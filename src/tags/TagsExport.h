@@ -17,6 +17,6 @@ struct TagsExportOptions {
 [[nodiscard]] QStringList exportedTags(const QStringList& tags, const QHash<QString, qsizetype>& counts,
                                        const TagsExportOptions& options);
 
-// One line a tag, with its count in brackets if the options ask for it.
+// One line a tag, with its count in brackets if the options request it.
 [[nodiscard]] QString exportedTagText(const QStringList& exported, const QHash<QString, qsizetype>& counts,
                                       const TagsExportOptions& options);
