@@ -42,6 +42,7 @@ void MainWindow::initOllama() {
 
 void MainWindow::checkOllamaServer() {
     const QPointer<MainWindow> self(this);
+    // Each request runs a nested event loop, in which the window may be destroyed.
     const QString version = _ollamaApi->getVersion();
     if (!self)
         return;
@@ -60,7 +61,8 @@ void MainWindow::onOllamaIpChanged(const QString& txt) {
 }
 
 void MainWindow::ollamaConnectionStatus(bool connected) {
-    // A busy server may answer too late, and during a batch the button is the way to abort.
+    // A busy server may reply too late to count as online. During a batch the button stays enabled, as it
+    // aborts the batch.
     const bool isUsable = connected || _ollamaBatch != 0;
     ui->pBOllamaGo->setEnabled(isUsable);
     ui->pBOllamaGo->setToolTip(isUsable ? ui->pBOllamaGo->property(usualToolTip).toString()
@@ -69,7 +71,7 @@ void MainWindow::ollamaConnectionStatus(bool connected) {
 
 void MainWindow::onOllamaSendPrompt() {
     if (_ollamaBatch != 0) {
-        // During the last request nothing waits any more, and a click changes nothing.
+        // During the last request the queue is empty, so a click has no effect.
         onShowMessage(tr("Ollama aborting for %1").arg(ollamaQueue.size()));
         dropOllamaQueue();
         return;
@@ -128,6 +130,7 @@ bool MainWindow::ollamaSendPrompt(const QString& imgFilePath) {
         qDebug() << "Error, unable to open file:" << file.errorString();
         return false;
     }
+    // Opened only to report an unreadable file by itself; QImage opens it again.
     file.close();
     const QImage image = scaleOllamaImage(QImage(imgFilePath));
     if (image.isNull()) {
@@ -139,7 +142,7 @@ bool MainWindow::ollamaSendPrompt(const QString& imgFilePath) {
     _ollamaApi->getPrompt(ui->pTEPromptUser->toPlainText(), pngBytes(image).toBase64(), imgFilePath);
     if (!self)
         return false;
-    // The program quits: what still waits is neither decoded nor sent.
+    // The program quits, so the remaining files are neither decoded nor sent.
     if (_ollamaApi->isInterrupted())
         dropOllamaQueue();
     return !_ollamaApi->isInterrupted();

@@ -30,6 +30,7 @@ void OllamaApi::setModel(const QString& model) {
 
 QString OllamaApi::getVersion() {
     const QPointer<OllamaApi> self(this);
+    // Lets getData send the request, whose failure clears the flag again.
     _online = true;
     const QByteArray data = getData(ollamaUrl(_url, u"/api/version"_s));
     if (!self)
@@ -92,6 +93,8 @@ QByteArray OllamaApi::postData(const QString& url, const QByteArray& data) {
     qDebug() << "OllamaApi::postData" << url << data.size();
     QNetworkAccessManager manager;
     QNetworkRequest request(QUrl(url, QUrl::TolerantMode));
+    // Not the type of JSON, but the server parses the body as JSON whatever its type. There is no time-out,
+    // as a model may take minutes.
     request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/x-www-form-urlencoded"_s);
     QNetworkReply* reply = manager.post(request, data);
     if (!waitFor(manager, *reply))
@@ -106,7 +109,7 @@ bool OllamaApi::waitFor(const QNetworkAccessManager& manager, const QNetworkRepl
     QEventLoop loop;
     connect(&manager, &QNetworkAccessManager::finished, &loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
-    // A quit of the program ends all loops of the thread, and starts none again.
+    // When the program quits, all event loops of the thread end, and exec() of a further one returns at once.
     loop.exec();
     if (self)
         _interrupted = !reply.isFinished();

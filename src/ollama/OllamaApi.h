@@ -8,8 +8,8 @@
 class QNetworkAccessManager;
 class QNetworkReply;
 
-// Talks to an Ollama server. Each request blocks its caller in a nested event loop, in which anything may
-// happen, the end of this object included. GUI thread only.
+// Client of an Ollama server. Each request blocks its caller in a nested event loop, during which any event
+// may be processed and even this object be deleted. GUI thread only.
 class OllamaApi : public QObject {
     Q_OBJECT
 
@@ -20,15 +20,15 @@ public:
     void setUrl(const QString& url);
     void setModel(const QString& model);
 
-    // False after a GET that failed; only getVersion() finds the way back.
+    // False after a failed GET. Only getVersion() then still sends a request, which can set it again.
     [[nodiscard]] bool isOnline() const { return _online; }
-    // Whether the last request was left before its reply was in, because the program quits.
+    // Whether the last request was abandoned without a reply because the program quits.
     [[nodiscard]] bool isInterrupted() const { return _interrupted; }
 
     // Both are empty on any failure.
     QString getVersion();
     [[nodiscard]] QStringList getModelList();
-    // The image is base64 text; the path goes through to the signals. An interrupted request sends none.
+    // The image is base64 text; the path is passed on to the signals. An interrupted request emits none.
     void getPrompt(const QString& prompt, const QByteArray& image, const QString& imgFilePath);
 
     [[nodiscard]] QByteArray getData(const QString& url);
@@ -41,7 +41,7 @@ signals:
     void ollamaError(QString data, QString imgFilePath);
 
 private:
-    // False if this object is gone afterwards.
+    // False if this object was deleted meanwhile.
     [[nodiscard]] bool waitFor(const QNetworkAccessManager& manager, const QNetworkReply& reply);
 
     QString _url;

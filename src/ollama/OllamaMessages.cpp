@@ -63,6 +63,7 @@ ModelsReply readModelsReply(const QByteArray& data) {
 GenerateReply readGenerateReply(const QByteArray& data) {
     const OllamaJson json = parseOllamaJson(data);
     const bool isJson = json.parseError.isEmpty();
+    // The whole reply is searched, so an answer that contains the word "error" is discarded too.
     return {.isGood = isJson && !data.contains("error"),
             .response = json.object.value("response"_L1).toString(),
             .thinking = json.object.value("thinking"_L1).toString(),

@@ -4,9 +4,10 @@
 #include <QString>
 #include <QStringList>
 
-// What is sent to an Ollama server and what is taken from its replies.
+// Writes requests to an Ollama server and reads its replies.
 
-// Joins the base URL and a path that starts with a slash; one closing slash or backslash of the base goes.
+// Joins the base URL and a path that starts with a slash; one closing slash or backslash of the base is
+// dropped.
 [[nodiscard]] QString ollamaUrl(const QString& base, const QString& path);
 
 // The JSON body of a generate request. The image is base64 text. An empty system prompt leaves the model's
@@ -34,11 +35,11 @@ struct GenerateReply {
     bool isGood = false;
     QString response;
     QString thinking;
-    QString parserText; // the parser's text, for valid JSON that of no error
+    QString parserText; // the parser's error text; for valid JSON its text for no error
 
     bool operator==(const GenerateReply&) const = default;
 };
 // A reply that holds the word "error" anywhere is bad: the server has no other mark for a failure.
 [[nodiscard]] GenerateReply readGenerateReply(const QByteArray& data);
-// What a good reply says: its response, then what the model thought.
+// The text of a good reply: its response, then the model's thinking.
 [[nodiscard]] QString answerText(const GenerateReply& reply);
