@@ -79,13 +79,13 @@ void atEachSize(int argc, char* argv[], const std::function<void(int files)>& me
 }
 
 BenchWindow::BenchWindow(int files) {
-    // Again for each window, since one that goes gives the log back to the terminal.
+    // Repeated for each window: the destructor of the previous one has removed the message handler.
     silenceLog();
     catalogue::makeFiles(_directory.path(), 0, files);
     QFile::remove(QCoreApplication::applicationDirPath() + "/settings.data");
     _window = std::make_unique<MainWindow>();
     find<QLineEdit>("lEWorkingPath")->setText(_empty.path());
-    // The tab whose lists follow most operations.
+    // The tab whose lists are updated by most operations.
     find<QTabWidget>("tWTools")->setCurrentWidget(find<QWidget>("tabTags"));
     _window->resize(1600, 1000);
     _window->show();
@@ -117,7 +117,7 @@ void BenchWindow::waitForPreviews() {
     QEventLoop loop;
     auto* loader = _window->findChild<ImageLoaderThreaded*>();
     QObject::connect(loader, &ImageLoaderThreaded::showMessage, &loop, &QEventLoop::quit);
-    // A load that has ended already tells so once more.
+    // Makes a load that has already ended send its message again.
     QMetaObject::invokeMethod(loader, &ImageLoaderThreaded::processQueue, Qt::QueuedConnection);
     loop.exec();
     QCoreApplication::processEvents();

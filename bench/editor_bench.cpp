@@ -32,7 +32,7 @@ void sendMouse(QWidget& view, QEvent::Type type, QPointF position) {
     QApplication::sendEvent(&view, &event);
 }
 
-// Zooms by the wheel from 1 to about the wanted zoom, and tells the one that came of it.
+// Zooms by the wheel from 1 to about the wanted zoom; returns the zoom that was reached.
 double zoomTo(EditImageWidget& view, double zoom) {
     double reached = 1;
     const auto connection = QObject::connect(&view, &EditImageWidget::zoomChanged, &view,

@@ -16,16 +16,16 @@
 
 namespace {
 
-constexpr int kWidth = 6000;
-constexpr int kHeight = 4000;
+constexpr int photoWidth = 6000;
+constexpr int photoHeight = 4000;
 
 const QImage& photo() {
     static const QImage image = [] {
-        QImage made(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+        QImage made(photoWidth, photoHeight, QImage::Format_ARGB32_Premultiplied);
         std::mt19937 random(7);
-        for (int y = 0; y < kHeight; ++y) {
+        for (int y = 0; y < photoHeight; ++y) {
             auto* const row = reinterpret_cast<QRgb*>(made.scanLine(y));
-            for (int x = 0; x < kWidth; ++x) {
+            for (int x = 0; x < photoWidth; ++x) {
                 const QRgb noise = random();
                 row[x] = qRgb((x / 24 + static_cast<int>(noise & 15)) & 255,
                               (y / 16 + static_cast<int>(noise >> 8 & 15)) & 255,
@@ -39,10 +39,10 @@ const QImage& photo() {
 
 using Kernel = std::array<double, 9>;
 
-constexpr Kernel kSharpen{-1, -1, -1, -1, 9, -1, -1, -1, -1};
-constexpr Kernel kUneven{-0.7, 0.3, -1.1, 0.9, 2.6, -0.4, 0.15, -0.8, 0.05};
+constexpr Kernel sharpenKernel{-1, -1, -1, -1, 9, -1, -1, -1, -1};
+constexpr Kernel unevenKernel{-0.7, 0.3, -1.1, 0.9, 2.6, -0.4, 0.15, -0.8, 0.05};
 
-// The image's pixels as the other library sees them; nothing is copied.
+// The image's pixels as a matrix of the other library; nothing is copied.
 cv::Mat matOf(const QImage& image) {
     return cv::Mat(image.height(), image.width(), CV_8UC4, const_cast<uchar*>(image.constBits()),
                    static_cast<size_t>(image.bytesPerLine()));
@@ -134,7 +134,7 @@ void points() {
         [](int c) { return static_cast<int>(c * (10.0 / 17) + 1); });
     const Routine whitePointed = [] { return ImageDSP::whitePointed(photo(), 200); };
     const Routine blackPointed = [] { return ImageDSP::blackPointed(photo(), 40); };
-    // The other library has no white point: its threshold at the other end costs the same.
+    // The other library has no white point; its threshold at the other end takes as long.
     Ratio::report(
         "white point, all cores; threshold", [&] { (void)whitePointed(); },
         [source = matOf(photo())] {
@@ -155,9 +155,9 @@ int main() {
     std::printf("24 megapixels; the bound is an OpenCV routine, and for the blur a plain loop.\n\n");
     Ratio::header();
     points();
-    convolution("sharpen, one thread; filter2D", kSharpen, 0);
-    // The other library rounds, we cut toward zero.
-    convolution("uneven kernel, one thread; filter2D", kUneven, 1);
+    convolution("sharpen, one thread; filter2D", sharpenKernel, 0);
+    // The other library rounds, ours truncates toward zero.
+    convolution("uneven kernel, one thread; filter2D", unevenKernel, 1);
     blur();
     return 0;
 }

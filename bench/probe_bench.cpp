@@ -53,7 +53,7 @@ QStringList makeClips(const QString& directory) {
     return clips;
 }
 
-// What came of each clip, to be equal on both sides.
+// The outcome for each clip, which must be equal on both sides.
 struct Probed {
     QHash<QString, QImage> frames;
     QHash<QString, QSize> resolutions;
@@ -111,7 +111,8 @@ void measureProbe(const QStringList& clips) {
                  Ratio::median(boundGaps));
 }
 
-// A load is stopped at another moment of its life each time; its players go in the turn that follows.
+// Stops a load after a different time in each try; its players are deleted in the following event loop
+// iteration.
 void measureStop(const QStringList& clips) {
     double longest = 0;
     for (int delay = 0; delay <= 300; delay += 20) {
@@ -137,7 +138,7 @@ void measureStop(const QStringList& clips) {
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     silenceLog();
-    // Decoders tell here what the machine does not accelerate, once for each clip.
+    // Decoders report on stderr what the machine does not accelerate, once for each clip.
     if (!std::freopen("/dev/null", "w", stderr))
         qFatal("no /dev/null");
     const QTemporaryDir directory;

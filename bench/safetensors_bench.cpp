@@ -20,8 +20,8 @@
 
 namespace {
 
-// Memory that went back to the system between two runs would come again page by page, which depends on the
-// order of releases and costs as much as the parsing.
+// Memory that is returned to the system between two runs would be mapped again page by page, which depends on
+// the order of releases and takes as long as the parsing.
 [[maybe_unused]] const bool memoryIsKept = [] {
 #ifdef __GLIBC__
     mallopt(M_MMAP_THRESHOLD, 1 << 30);

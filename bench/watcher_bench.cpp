@@ -142,7 +142,7 @@ private:
 
     BenchWindow _bench;
     int _files;
-    int _next; // number of the file that comes next
+    int _next; // number of the next file
     QStandardItemModel* _model = nullptr;
     QHash<QString, QStringList> _tags;
 };

@@ -26,7 +26,7 @@
 
 namespace {
 
-// Notes what the window knew when it painted rows for the first time.
+// Records whether the window had read tags and thumbnails when it painted rows for the first time.
 class FirstPaint : public QObject {
 public:
     FirstPaint(BenchWindow& bench, QAbstractItemView* view) : _bench(bench), _view(view) {
@@ -119,7 +119,7 @@ private:
         _tags = bound.tags;
     }
 
-    // What the file filter looks through.
+    // The texts that the file filter searches.
     [[nodiscard]] QList<QStringList> searchedStrings() const {
         QList<QStringList> strings;
         for (int row = 0; row < model()->rowCount(); ++row) {
@@ -182,7 +182,8 @@ private:
         table->sortByColumn(-1, Qt::AscendingOrder);
     }
 
-    // Every other selected row of the first thousand leaves the disk, as a move of these files would have it.
+    // Every second one of the first thousand rows, which are selected, is removed by moving its file to
+    // another directory.
     void removing() {
         auto* view = _bench.find<QListView>("listView");
         const QString away = QDir(_bench.emptyPath()).filePath("away");
@@ -272,7 +273,7 @@ private:
         Ratio::header();
     }
 
-    // Of an action and of the turn of the event loop that follows it.
+    // The times of an action and of the event loop iteration that follows it.
     static std::pair<double, double> turnsMs(const std::function<void()>& action) {
         const double first = Ratio::milliseconds(action);
         return {first, Ratio::milliseconds([] { QCoreApplication::processEvents(); })};
