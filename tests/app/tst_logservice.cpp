@@ -40,7 +40,7 @@ private slots:
         qInfo() << "an info";
         QVERIFY(content("app-previous.log").contains("first run"));
         QVERIFY(!content("app-current.log").contains("first run"));
-        // Turned over once more within one run.
+        // A second init within one run renames the log file again.
         LogService::instance()->init({"--no-log"});
         qDebug() << "silent";
         QCOMPARE(content("app-previous.log").count("an info"), 1);
@@ -60,7 +60,7 @@ private slots:
             }));
             threads.back()->start();
         }
-        // The log is turned over, ends and starts while the others write.
+        // The log files are renamed and the service is destroyed and created while other threads write.
         for (int turn = 0; turn < 20; ++turn) {
             if (turn % 2 == 0)
                 LogService::destroy();

@@ -63,7 +63,7 @@ QString captionOf(const QWidget* widget) {
     return label && label->buddy() ? label->text() : QString();
 }
 
-// A widget of a hidden tab has no place, so each tab is looked at by itself.
+// A widget of a hidden tab has no valid geometry, so each tab is shown and checked by itself.
 void eachTab(QWidget* window, const std::function<void()>& look) {
     auto* tabs = window->findChild<QTabWidget*>("tWTools");
     for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
@@ -137,7 +137,7 @@ private:
         QCOMPARE(nameless.join(" "), QString());
     }
 
-    // The texts of menus' entries are fixed; among the controls and the menu titles no letter stands twice.
+    // The texts of menus' entries are fixed; among the controls and the menu titles no letter is used twice.
     static void mnemonicsAreUnique(const QWidget* window) {
         QHash<QKeySequence, QString> owners;
         const auto claim = [&owners](const QString& text) {
@@ -152,7 +152,7 @@ private:
         }
     }
 
-    // Within one parent; what stands in different parents has no common rows.
+    // Within one parent; widgets of different parents share no rows.
     static void tabGoesRightAndDown(const QWidget* window) {
         const QList<QWidget*> named = namedWidgets(window);
         const QWidget* before = nullptr;

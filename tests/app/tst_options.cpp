@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-// The options as a user changes them, and what the main window makes of that.
+// The options as a user changes them, and their effect on the main window.
 class TestOptions : public QObject {
     Q_OBJECT
 

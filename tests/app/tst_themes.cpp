@@ -26,7 +26,7 @@ QColor flatColor(const QIcon& icon) {
 
 } // namespace
 
-// Each theme chosen from the menu: its look, its icons, and that it comes back with the next start.
+// Each theme chosen from the menu: its look, its icons, and that it is restored at the next start.
 class TestThemes : public QObject {
     Q_OBJECT
 

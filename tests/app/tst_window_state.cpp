@@ -28,7 +28,7 @@
 
 namespace {
 
-// The widgets of the main window that start anew with each run; all others come back as they were left.
+// The widgets of the main window whose state is not stored; all others are restored.
 const QStringList startAnew{
     "cBBackupTxt",           "cBDspEffectsList",        "cBResizeSrcScaleAlignment",
     "cBSaveTagsDuplicates",  "dSPResizeAspectRatio",    "dSPResizeScaleMulti",
@@ -134,7 +134,7 @@ void change(QWidget* widget) {
 
 } // namespace
 
-// What the windows look like at a first start, and that they come back as they were left.
+// The state of the windows at a first start, and that a changed state is restored.
 class TestWindowState : public QObject {
     Q_OBJECT
 
@@ -172,7 +172,7 @@ private slots:
         QStringList lines;
         for (const auto& [name, value] : std::as_const(state).asKeyValueRange())
             lines.append(name + '=' + value);
-        // Of all texts, numbers and boxes that a new user finds; what differs stands in the message.
+        // All texts, numbers and check marks of a first start; the message has the differences.
         const QByteArray all = lines.join('\n').toUtf8();
         QVERIFY2(QCryptographicHash::hash(all, QCryptographicHash::Md5).toHex() ==
                      "60981f740ad8401184b831b8995b0693",
@@ -193,7 +193,7 @@ private slots:
         _changes = true;
         static_cast<void>(windowState(driver));
         _changes = false;
-        // A filter in force has a button in the status bar, which may cost the splitters a few pixels.
+        // An active filter shows a button in the status bar, which may move the splitters by a few pixels.
         driver.widget<QLineEdit>("leFilterImages")->clear();
         Facts left = windowState(driver);
         left.insert(toolWindowStates(driver, other, true));
@@ -217,8 +217,8 @@ private slots:
     }
 
 private:
-    // The state of all widgets of the main window, each tab shown in its turn; on the way each may be
-    // changed.
+    // The state of all widgets of the main window, after showing each tab. Changes each widget first if
+    // _changes is set.
     Facts windowState(WindowDriver& driver) const {
         MainWindow& window = driver.window();
         Facts state;
@@ -272,7 +272,7 @@ private:
         return state;
     }
 
-    // The same for the tool windows that keep theirs, opened one after the other.
+    // The same for the tool windows whose state is stored, opened one after the other.
     static Facts toolWindowStates(WindowDriver& driver, const MediaFolder& folder, bool changes) {
         Facts state;
         const auto look = [&](QWidget* window) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int manyFiles = 200;
 
-// What the test of a killed program runs as a process of its own: it edits tags and says when they are kept.
+// The process that the test kills: it edits tags and prints a line when they are on the disk.
 int editAndWait(const QString& directory) {
     WindowDriver driver(directory);
     driver.select(driver.catalogueNames());
@@ -29,7 +29,7 @@ int editAndWait(const QString& directory) {
 
 } // namespace
 
-// What a killed program leaves behind is offered by the next one.
+// The next program offers the unsaved tags of a killed one.
 class TestWindowStatusPanel : public QObject {
     Q_OBJECT
 

@@ -101,7 +101,8 @@ private slots:
 
     void queriesFindFiles_data() {
         // The found ones of: a picture of 1500x1000 with "sky" and "blue sky", one of 512x512 with "x" twice
-        // that is not saved, a clip without tags or size. Without any: the word that is not understood.
+        // that is not saved, a clip without tags or size. Without any: the word that is not part of the
+        // language.
         addRows<QString, QString>({
             {"a tag, in any case", ":tag SKY", "1"},
             {"a tag with a blank", ":tag \"blue sky\"", "1"},

@@ -39,7 +39,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Answers whatever modal window comes, one answer each, and notes what was asked.
+// Answers each modal window that is opened with the next answer, and records its question.
 class Answers : public QObject {
 public:
     Answers(const QStringList& answers, QStringList& asked) : _answers(answers), _asked(asked) {
@@ -91,7 +91,7 @@ QString joined(const QAbstractItemModel* model, int column = 0) {
     return texts.join('|');
 }
 
-// Directories and records of tags are read in an order of their own.
+// The order of a directory and of the tag record is arbitrary.
 QString sorted(const QString& texts) {
     QStringList all = texts.split('|');
     all.sort();
@@ -121,7 +121,7 @@ QString shownBy(const QWidget* widget) {
             QStringList texts;
             for (int row = 0; row < tree->topLevelItem(top)->childCount(); ++row) {
                 const QTreeWidgetItem* item = tree->topLevelItem(top)->child(row);
-                // What else a clip tells depends on who made it.
+                // The other metadata of a clip depends on the program that made it.
                 if (item->text(0)[0].isLower() ||
                     QStringList{"Comment", "Duration", "Resolution"}.contains(item->text(0)))
                     texts.append(item->text(0) + ": " + item->text(1));
@@ -139,7 +139,7 @@ QString shownBy(const QWidget* widget) {
     }
     if (const auto* dock = qobject_cast<const QDockWidget*>(widget))
         return dock->windowTitle();
-    // The state of a player comes when it comes.
+    // A player reports its state at an unpredictable time.
     if (const auto* bar = qobject_cast<const QStatusBar*>(widget))
         return bar->currentMessage().startsWith("Status: ") ? QString() : bar->currentMessage();
     if (qobject_cast<const QStackedWidget*>(widget) || qobject_cast<const QTabWidget*>(widget))
@@ -198,7 +198,7 @@ QString Desk::perform(const Step& step) {
     _sorts = parts.first().contains("&Sort/");
     _sortsTags = parts.first() == "lwAllImagesTags > &Sort";
     {
-        const Answers answering(meant(parts.value(1)).split(", ", Qt::SkipEmptyParts), _asked);
+        const Answers answers(meant(parts.value(1)).split(", ", Qt::SkipEmptyParts), _asked);
         act(meant(parts.first()));
         WindowDriver::settle();
     }
@@ -246,7 +246,7 @@ QString Desk::perform(const Step& step) {
     return isSame ? QString() : differs;
 }
 
-// What a selection shows of the files. The tags of their record, and what clips tell, are left to the step.
+// What a selection shows of the files. The tags of the record and the metadata of clips are left to the step.
 Facts Desk::selectionFacts(QStringList names) const {
     Facts facts;
     facts["labelCurrentSelectionTags"] = QString("Current selection [%1] tags:").arg(names.size());
@@ -271,14 +271,14 @@ Facts Desk::selectionFacts(QStringList names) const {
     return facts;
 }
 
-// Its last message must not come in the middle of the next step.
+// The last message of a load must not arrive in the middle of the next step.
 bool Desk::isLoadOver() const {
     const QString log = _log.join('\n');
     return log.lastIndexOf("ImageLoaderThreaded::processQueue") <=
            log.lastIndexOf("Loaded all media previews in");
 }
 
-// What a window holds comes and goes with it, unless the step says more.
+// The facts of a tool window appear and disappear with it, unless the step lists them.
 Facts Desk::withWindows(Facts expected, const Facts& before, const Facts& now) {
     for (const auto& [name, value] : now.asKeyValueRange()) {
         const QString window = name.section('.', 0, 0);
@@ -393,10 +393,10 @@ QString Desk::meant(QString text) const {
     return text;
 }
 
-// Without what differs from run to run.
+// The text without the parts that differ from run to run.
 QString Desk::plain(QString text) const {
     static const QRegularExpression varying(R"( \[zoom: [^]]*\]|zoom level: \S+)");
-    static const QRegularExpression place(R"(\[\d+ - )");
+    static const QRegularExpression fileIndex(R"(\[\d+ - )");
     static const QRegularExpression seconds(R"(in:? [\d.e-]+ s\b)");
     static const QRegularExpression stamp(
         R"(\d\d_\d\d_\d{4}T\d\d_\d\d_\d\d_\d{3}(_\d+)?(?=\.)|\d\d\.\d\d\.\d{4} \d\d:\d\d:\d\d\.\d+)");
@@ -407,7 +407,7 @@ QString Desk::plain(QString text) const {
         "^(Loaded all media previews in: \\S+ s|Removed 0 missing items\\.)$");
     text.replace(background, "(background)");
     return text.remove(varying)
-        .replace(place, "[N - ")
+        .replace(fileIndex, "[N - ")
         .replace(seconds, "in T s")
         .replace(stamp, "TIME")
         .replace('\n', "\\n");
@@ -550,7 +550,7 @@ void Desk::walk() {
                 menu->close();
             }));
             emit view->customContextMenuRequested({});
-            // A menu that pops up comes later, and none comes without a selection.
+            // A popup menu opens later, and only with a selection.
             static_cast<void>(QTest::qWaitFor([&answer] { return answer.isUsed(); }, 50));
         }
     }

@@ -13,13 +13,13 @@
 
 class QWidget;
 
-// One thing that a user does, and all that it changes: "THING=VALUE ; THING=VALUE". "(nothing)" is gone, "*"
-// is left to the window.
+// One thing that a user does, and all that it changes: "THING=VALUE ; THING=VALUE". The value
+// "(nothing)" means that the thing no longer exists, "*" that any value is accepted.
 //
 //   NAME                     clicks a button or triggers an action
 //   NAME = VALUE             sets a line, a box, a slider or a list's current entry
 //   NAME > ENTRY             picks an entry of a context menu, "&Sort/&Name" of a submenu
-//   select A|B               selects rows, whose files tell most of what it changes, or items of a list by
+//   select A|B               selects rows, whose files decide most of what it changes, or items of a list by
 //                            "select A|B in NAME"
 //   press KEYS in NAME       a key or a shortcut
 //   write FILE COLOUR WxH    what another program does; also: remove FILE
@@ -27,7 +27,7 @@ class QWidget;
 //
 // NAME is an object name, a text or data; in a tool window with that window's name before it,
 // "VideoWidget.tBFileNext".
-// "-> ANSWER, ANSWER" answers the questions that come: a button's name, or a path for a file dialog.
+// "-> ANSWER, ANSWER" answers the questions that follow: a button's name, or a path for a file dialog.
 struct Step {
     const char* what;
     const char* changes;
@@ -44,21 +44,21 @@ public:
     ~Desk() override;
     Q_DISABLE_COPY_MOVE(Desk)
 
-    // Performs the steps; what goes wrong first, or nothing.
+    // Performs the steps. Returns the first difference, or nothing.
     [[nodiscard]] QString perform(const QList<Step>& steps);
 
     // Every action, button and context menu entry that can be reached now, by the names that steps use.
     void walk();
-    // What walks have found and no step has used.
+    // The actions that walks have found and no step has used.
     [[nodiscard]] static QStringList neverUsed();
 
     const MediaFolder folder;
     WindowDriver driver;
-    // Words that stand for values of this run, in steps and in what is seen.
+    // Words that replace values of this run, in steps and in facts.
     QMap<QString, QString> words;
 
 public slots:
-    // In place of the desktop.
+    // Called by the program instead of the desktop.
     void open(const QUrl& url);
 
 private:

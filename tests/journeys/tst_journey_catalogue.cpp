@@ -66,7 +66,7 @@ QStringList some(QRandomGenerator& random, QStringList from, int atMost) {
     return from.first(std::min<qsizetype>(from.size(), random.bounded(1, atMost + 1)));
 }
 
-// A directory as people have them.
+// A directory with the usual irregularities.
 void fill(const MediaFolder& folder) {
     const QStringList names{"IMG_0001.JPG",
                             "IMG_0002.JPG",
@@ -432,7 +432,7 @@ public:
         tagsChanged();
     }
 
-    // The window looks again where what is selected is not what it has shown.
+    // The window updates its panels if the selected files are not those that it shows.
     void compareSelection() {
         if (selected() != _reported)
             selectionChanged();
@@ -451,7 +451,7 @@ public:
         _isPreviewDue = true;
     }
 
-    // The list of all tags is built anew, which drops a search by it.
+    // The list of all tags is rebuilt, which clears its selection and so ends a search by it.
     void tagsChanged() {
         _tagFilterCounts = false;
         if (_searched.isEmpty())
@@ -562,7 +562,7 @@ public:
         const auto isShown = [&](const QString& name) {
             return label.endsWith(' ' + folder.filePath(txtNameOf(name)));
         };
-        // A selection that still begins with the file it began with leaves a typed text alone.
+        // A typed text stays while the first selected file is the same.
         const bool mayKeep = !_typedBefore.isNull() && _isPreviewDue && _bindings.contains(_followedBefore);
         const bool isKept = mayKeep && isShown(_fileBefore) && driver.text("pTETagsFromFile") == _typedBefore;
         const auto shown = std::ranges::find_if(_bindings, isShown);
@@ -614,7 +614,7 @@ public:
             driver.widget<QDockWidget>("dockWidget_ImgPreview")->windowTitle().section(" [", 0, 0);
         const QImage preview = driver.widget<QWidget>("imgWidget")->grab().toImage();
         facts["preview"] = title + ' ' + (title == "Video preview" ? "none" : middleColour(preview));
-        // A start without a server, and files that are no pictures, have theirs.
+        // A start without a server and files that are no pictures log failures of their own.
         static const QRegularExpression complaint(
             "^(?!.*(empty\\.png|truncated\\.png|no video\\.mp4|get reply error|not JSON|header state))"
             "(Error|Failed|Unable|Warning)");

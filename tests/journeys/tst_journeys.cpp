@@ -583,7 +583,7 @@ private slots:
                            "statusbar=(background) ; tBLastResult=saved 3 ; tBUnsavedCount=0 unsaved"},
         };
         live(desk, steps);
-        // An answer for a file that is no longer selected leaves alone what is shown.
+        // An answer for a file that is no longer selected does not change the tags that are shown.
         peer.setAnswers("/api/generate", {{R"({"response":"late"})", OllamaPeer::Held}});
         bool isAsked = false;
         connect(&peer, &OllamaPeer::requested, &desk, [&] {

@@ -19,7 +19,7 @@ class OllamaPeer : public QTcpServer {
     Q_OBJECT
 
 public:
-    // Held waits for release(), Silent for ever; Half and Closing hang up.
+    // Held waits for release(), Silent never answers; Half and Closing close the connection.
     enum Manner { Whole, Held, Silent, Half, Closing };
 
     struct Answer {
@@ -31,7 +31,7 @@ public:
     OllamaPeer();
 
     [[nodiscard]] QString url() const { return QString("http://127.0.0.1:%1/").arg(serverPort()); }
-    // One answer a request; the last stays.
+    // One answer a request; the last one is repeated.
     void setAnswers(const QByteArray& path, const QList<Answer>& answers) { _answers.insert(path, answers); }
     [[nodiscard]] QList<PeerRequest> requests(const QByteArray& path) const;
     void release();

@@ -25,7 +25,7 @@ private slots:
         const QByteArray text(5'000'000, 'x');
         peer.setAnswers("/api/generate",
                         {{"{\"thinking\":\"hm\",\"response\":\"" + text + "\"}", OllamaPeer::Held}});
-        // Later than a GET would wait.
+        // Later than the time-out of a GET.
         connect(&peer, &OllamaPeer::requested, &api,
                 [&] { QTimer::singleShot(700, &peer, &OllamaPeer::release); });
         api.setModel("x/\"y\"");
@@ -77,7 +77,7 @@ private slots:
         peer.setAnswers("/api/generate", {answer});
         QCOMPARE(api.getVersion(), version);
         QCOMPARE(api.isOnline(), online);
-        // Offline, nothing is asked until the next version request.
+        // While offline, no request is sent until the next version request.
         QCOMPARE(api.getModelList(), online ? QStringList("m") : QStringList());
         QCOMPARE(api.getVersion(), QString("2"));
         QCOMPARE(api.getModelList(), QStringList("m"));

@@ -33,7 +33,7 @@ private slots:
                 return;
             if (requests == 1) {
                 QCOMPARE(driver.widget<QToolButton>("tBBatchProgress")->text(), QString("captions 0/3"));
-                // A server that answers no more leaves the button that aborts.
+                // The button stays enabled although the server no longer answers, since it aborts the batch.
                 peer.setAnswers("/api/version", {{{}, OllamaPeer::Closing}});
                 driver.click("tBOllamaReconect");
                 QCOMPARE(driver.statusText(), QString("Ollama status is online: false"));
@@ -51,7 +51,7 @@ private slots:
         QCOMPARE(peer.requests(generatePath).size(), 1);
         QCOMPARE(tags("a.png"), QStringList("x"));
         QCOMPARE(tags("b.png"), QStringList());
-        // The next batch starts anew.
+        // The next batch starts from the beginning.
         peer.setAnswers("/api/version", version);
         driver.click("tBOllamaReconect");
         driver.widget<QCheckBox>("cBOllamaAddTags")->setChecked(false);

@@ -30,7 +30,7 @@ void triggerEntry(QMenu* menu, const QStringList& path) {
         current = action->menu();
     }
     QAction* action = menuAction(current, path.last());
-    // The menu goes first, as it does under a mouse: the entry may open a window of its own.
+    // The menu is closed first, as a click of the mouse does: the entry may open a window of its own.
     menu->close();
     if (action)
         action->trigger();

@@ -25,7 +25,7 @@ public:
     // Picks the entry of that text from the next menu; a submenu's entry as "&View/&Icon".
     explicit ModalAnswer(const QString& menuEntry);
 
-    // Whether the window came and was answered, and the texts of a message box.
+    // Whether the window was opened and answered, and the texts of a message box.
     [[nodiscard]] bool isUsed() const { return _isUsed; }
     [[nodiscard]] QString text() const { return _text; }
 

@@ -40,7 +40,7 @@ void WindowDriver::useScreen(QSize size) {
 }
 
 WindowDriver::WindowDriver(const QString& workingPath) : _window(std::make_unique<MainWindow>()) {
-    // The scan of the start comes a moment later and reads this text.
+    // The scan of the start runs a moment later and reads this text.
     widget<QLineEdit>("lEWorkingPath")->setText(workingPath.isEmpty() ? emptyDirectory() : workingPath);
     _window->show();
     if (!waitForLoad())

@@ -38,7 +38,7 @@ public:
         return found;
     }
 
-    // Waits until rows and previews are in.
+    // Waits until rows and previews are complete.
     [[nodiscard]] bool waitForLoad();
     void rescan();
 
@@ -51,12 +51,12 @@ public:
     [[nodiscard]] QWidget* toolWindow(const char* name) const;
     // What a label, button, line or text edit shows.
     [[nodiscard]] QString text(const char* name) const;
-    // Until no event waits any more, also none of the watched directory.
+    // Processes events until none is pending, not even one of the watched directory.
     static void settle();
     [[nodiscard]] QString statusText() const;
     [[nodiscard]] static QString log();
     [[nodiscard]] static qsizetype logCount(const QString& text);
-    // The lines, without their times, that came since the last call.
+    // The log lines since the last call, without their times.
     [[nodiscard]] QStringList freshLog();
 
     [[nodiscard]] QAbstractItemModel* catalogue() const;

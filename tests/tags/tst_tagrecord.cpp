@@ -157,16 +157,17 @@ private slots:
         QCOMPARE(folder.content("b.txt"), QByteArray("old,b.png"));
         QCOMPARE(report.written, 3);
         QCOMPARE(report.failed, 1);
-        // The one that wrote the shared sidecar first differs from it now; so does the one without a sidecar.
+        // The file whose tags were written first to the shared sidecar now differs from it; so does the one
+        // without a sidecar.
         const QString loser = folder.content("s.txt") == "s.png" ? keys.at(3) : keys.at(2);
         QCOMPARE(sorted(record.unsavedKeys()), sorted({keys.at(0), loser}));
         record.undo();
         QVERIFY(record.isUnsaved(keys.at(3)) || record.isUnsaved(keys.at(2)));
-        // An answer for a file that left the record joins what its sidecar holds.
+        // An answer for a file that was removed from the record is appended to the tags of its sidecar.
         record.remove({keys.at(1)});
         record.appendAnswer(keys.at(1), {"sky"}, 1);
         QCOMPARE(record.tags(keys.at(1)), QStringList({"old", "b.png", "sky"}));
-        // What is unsaved outlasts a file that comes back.
+        // Unsaved tags are kept when a file reappears.
         record.load({keys.at(1)});
         QCOMPARE(record.tags(keys.at(1)), QStringList({"old", "b.png", "sky"}));
     }

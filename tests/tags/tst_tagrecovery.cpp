@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QTest>
 
-// What is left of unsaved tags after a run that ended without saving.
+// The unsaved tags that are recovered after a run that ended without saving.
 class TestTagRecovery : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
             recovery.open(folder.path());
             record.append({keys.at(0), keys.at(1)}, {"sky, sea"});
             QTRY_COMPARE(files().size(), 1);
-            // What was taken back is not kept.
+            // An undone edit is not stored.
             record.undo();
             QTRY_COMPARE(files().size(), 0);
             record.redo();
@@ -38,7 +38,7 @@ private slots:
             TagRecovery recovery(record, place);
             recovery.open(folder.path());
             QCOMPARE(recovery.offeredCount(), 1); // the other one is not in the record
-            // An offer that nobody takes outlasts what is edited and saved beside it.
+            // An offer that is not restored stays while other tags are edited and saved.
             record.append({keys.at(2)}, {"third"});
             record.save({});
             recovery.close();

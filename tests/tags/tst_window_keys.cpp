@@ -17,7 +17,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-// The work of a day without the mouse.
+// A day's work without the mouse.
 class TestWindowKeys : public QObject {
     Q_OBJECT
 

@@ -44,7 +44,7 @@ private slots:
         auto* edit = driver.widget<QPlainTextEdit>("pTETagsFromFile");
         driver.select({"a.png"});
         QVERIFY(!edit->document()->isUndoAvailable());
-        // A dialog on one file leaves the record of another alone, wherever the editor is bound.
+        // A dialog for one file does not change the tags of another, whichever file the editor is bound to.
         driver.window().editTagFor(folder.filePath("a.png"));
         auto* dialog = driver.window().findChild<AddTagsDialog*>();
         dialog->findChild<QPlainTextEdit*>()->setPlainText("sky");
@@ -72,7 +72,7 @@ private slots:
         driver.click("tBSaveTagTxtFile");
         QCOMPARE(driver.statusText(), QString("Error, file name is empty."));
         QCOMPARE(folder.content("b.txt"), QByteArray("kept"));
-        // A change of the directory before arrives late.
+        // A notification of the previous directory arrives late.
         driver.window().onWorkingDirectoryChanged(folder.path());
         QCOMPARE(driver.catalogueNames(), QStringList());
     }
