@@ -89,8 +89,8 @@ QImage ThumbnailStore::inFile(const QImage& image) {
     QTemporaryFile& file = _segment->file;
     if (!file.seek(_segment->used) ||
         file.write(reinterpret_cast<const char*>(image.constBits()), size) != size) {
-        qDebug() << "Error, unable to write thumbnails to the cache, they stay in memory:"
-                 << file.errorString();
+        qWarning() << "Error, unable to write thumbnails to the cache, they stay in memory:"
+                   << file.errorString();
         return {};
     }
     const uchar* bytes = _segment->bytes + _segment->used;
@@ -107,8 +107,8 @@ bool ThumbnailStore::openSegment(qint64 leastBytes) {
     if (file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.resize(segment->size))
         segment->bytes = file.map(0, segment->size);
     if (!segment->bytes) {
-        qDebug() << "Error, unable to make a file for thumbnails, they stay in memory:" << _directory
-                 << file.errorString();
+        qWarning() << "Error, unable to make a file for thumbnails, they stay in memory:" << _directory
+                   << file.errorString();
         return false;
     }
     // A file without a name is freed when the program ends, even by a crash. Where the system cannot remove

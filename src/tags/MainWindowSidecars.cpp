@@ -128,8 +128,8 @@ void MainWindow::onSaveTags() {
     QStringList failures;
     for (const TagSaveRemark& remark : report.remarks) {
         if (remark.isShared)
-            qDebug() << "Warning, another file shares this sidecar, its tags are overwritten:"
-                     << remark.txtFileName;
+            qWarning() << "Warning, another file shares this sidecar, its tags are overwritten:"
+                       << remark.txtFileName;
         logBackup(remark.txtFileName, remark.write);
         if (remark.write.outcome == SidecarWrite::NotOpened)
             qDebug() << "Failed to open txt file:" << remark.write.error << remark.txtFileName;

@@ -24,7 +24,7 @@ void logSidecarRead(const QString& txtFileName, const SidecarRead& read) {
         qDebug() << "Error:" << read.error << "unable to open file:" << txtFileName;
     // The next save replaces the bytes that cannot be decoded, so the loss is logged.
     if (!read.isValid)
-        qDebug() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
+        qWarning() << "Warning, sidecar is not valid UTF-8:" << txtFileName;
 }
 
 std::optional<QString> sidecarText(const QString& txtFileName) {

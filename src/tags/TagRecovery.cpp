@@ -50,7 +50,7 @@ std::optional<RecoveredTags> readRecovery(const QString& path) {
 void logFailedWrite(const QString& path, const QString& error) {
     static std::atomic<bool> isLogged = false;
     if (!isLogged.exchange(true))
-        qDebug() << "Error, unable to write unsaved tags to:" << path << "error:" << error;
+        qWarning() << "Error, unable to write unsaved tags to:" << path << "error:" << error;
 }
 
 // Runs in the writer's thread. Without files the old recovery is removed.
@@ -136,7 +136,7 @@ QString TagRecovery::freePath(const QString& workingDirectory, RecoveredTags& le
             left = std::move(*found);
             return path;
         }
-        qDebug() << "Error, unable to read unsaved tags from:" << path;
+        qWarning() << "Error, unable to read unsaved tags from:" << path;
     }
 }
 

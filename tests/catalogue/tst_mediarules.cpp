@@ -82,7 +82,8 @@ private slots:
     void thumbnailsBeyondTheBudgetLieInAFile() {
         const MediaFolder folder;
         folder.addFile("no directory");
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^Error, unable to make a file for thumbnails"));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("^Error, unable to make a file for thumbnails"));
         for (const auto& [name, inMemory] : {std::pair("cache", 6080), std::pair("no directory", 18240)}) {
             ThumbnailStore store(10000, folder.filePath(name));
             QList<QImage> kept;
