@@ -176,7 +176,7 @@ void MainWindow::deleteStrayTxtFiles() {
 }
 
 QString MainWindow::importDirectory() {
-    const QString directory = ui->lEWorkingPath->text();
+    QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
         tellUser(this, tr("Set working directory. Path is empty."));
         return {};

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = qint64(1024) * 1024;
 constexpr qint64 segmentBytes = 64 * mebibyte;
 constexpr qint64 pixelAlignment = 64; // bytes
 
