@@ -18,6 +18,7 @@ bool ensureOutputDirectory(const QString& directory) {
 
 QString outputFilePath(const QString& sourcePath, const QString& outputDirectory) {
     const QFileInfo source(sourcePath);
+    // The path is the key of the file in the catalogue, so it is not composed anew.
     if (source.path() == outputDirectory)
         return sourcePath;
     return u"%1/%2"_s.arg(outputDirectory, source.fileName());

@@ -8,13 +8,14 @@
 
 class QImage;
 
-// Where a batch writes: a relative text counts from the working directory, an empty one stands for it.
+// Where a batch writes. A relative text counts from the working directory, an empty one means that directory.
 [[nodiscard]] QString resolveOutputDirectory(const QString& workingPath, const QString& outputText);
 
 // Makes the directory with its parents unless something of that name exists.
 [[nodiscard]] bool ensureOutputDirectory(const QString& directory);
 
-// The source's name in the output directory; the source path itself, untouched, if it lies there by its text.
+// The source's name in the output directory. The source path itself, unchanged, if its directory is that one
+// in the same spelling.
 [[nodiscard]] QString outputFilePath(const QString& sourcePath, const QString& outputDirectory);
 
 // How a batch writes its images, with a quality from 1 to 100.
@@ -30,7 +31,7 @@ public:
     [[nodiscard]] bool write(const QImage& image, const QString& filePath);
     // Of the last write.
     [[nodiscard]] QString errorString() const { return _errorString; }
-    // Notes a file that gave no output. A write that fails notes itself.
+    // Records a file without output. write() records its own failures.
     void noteFailure(const QString& filePath, const QString& reason);
     // A line each: file and reason.
     [[nodiscard]] const QStringList& failures() const { return _failures; }

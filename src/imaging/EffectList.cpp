@@ -4,7 +4,7 @@
 #include <QMetaType>
 
 void registerEffectListType() {
-    // The type's own name travels in the stream; this one is what stored profiles may carry besides.
+    // Streams are written with the type's own name; profiles stored under the name below stay readable.
     const QByteArray name = QMetaObject::normalizedType("QList<QPair<QString, QHash<QString,QVariant>>>");
     qRegisterMetaType<EffectList>();
     qRegisterMetaType<EffectList>(name.constData());

@@ -14,7 +14,7 @@ using EffectList = QList<std::pair<QString, QHash<QString, QVariant>>>;
 // The option of a profile under which its chain is kept.
 inline constexpr QLatin1StringView effectListOption{"effectList"};
 
-// Makes stored effect lists readable; must run before any profile is restored. More calls do no harm.
+// Makes stored effect lists readable; must run before any profile is restored. May be called repeatedly.
 void registerEffectListType();
 
 [[nodiscard]] QVariant effectListToVariant(const EffectList& effects);

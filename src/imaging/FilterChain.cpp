@@ -17,7 +17,7 @@ struct NumberedFilter {
     FilterRange range;
 };
 
-constexpr std::array kNumberedFilters{
+constexpr std::array numberedFilters{
     NumberedFilter{ImageFilters::Brightness, {-255, 255, 10, 0}},
     NumberedFilter{ImageFilters::Contrast, {10, 30, 0, std::nullopt}},
     NumberedFilter{ImageFilters::Blur, {0, 18, 0, 0}},
@@ -25,19 +25,19 @@ constexpr std::array kNumberedFilters{
     NumberedFilter{ImageFilters::BlackPoint, {0, 255, 0, 0}},
 };
 
-constexpr auto kBypassedOption = "bypassed"_L1;
-constexpr auto kNumberTypeOption = "sliderType"_L1;
-constexpr auto kValueOption = "value"_L1;
-constexpr auto kTenthsOption = "valueD"_L1;
-constexpr double kTenths = 10.0;
+constexpr auto bypassedOption = "bypassed"_L1;
+constexpr auto numberTypeOption = "sliderType"_L1;
+constexpr auto valueOption = "value"_L1;
+constexpr auto tenthsOption = "valueD"_L1;
+constexpr double tenthsPerUnit = 10.0;
 
-constexpr int kSharpenSide = 3;
-constexpr std::array kSharpenKernel{-1.0, -1.0, -1.0, -1.0, 9.0, -1.0, -1.0, -1.0, -1.0};
+constexpr int sharpenSide = 3;
+constexpr std::array sharpenKernel{-1.0, -1.0, -1.0, -1.0, 9.0, -1.0, -1.0, -1.0, -1.0};
 
 QImage sharpened(const QImage& image) {
     QImage result = image;
     ImageDSP::convolute(result, QPointF(0, 0), image, QRectF(image.rect()), QPainter::CompositionMode_Source,
-                        kSharpenKernel, kSharpenSide, kSharpenSide);
+                        sharpenKernel, sharpenSide, sharpenSide);
     return result;
 }
 
@@ -46,6 +46,7 @@ QImage numberFiltered(const QImage& image, ImageFilters::FilterType type, int va
     case ImageFilters::Brightness:
         return ImageDSP::brightness(image, 1.0, value);
     case ImageFilters::Contrast:
+        // The fixed offset of 1 changes the image at any value, so that no value is neutral.
         return ImageDSP::brightness(image, 10.0 / value, 1);
     case ImageFilters::Blur:
         return ImageDSP::blurred(image, image.rect(), value, false);
@@ -58,19 +59,20 @@ QImage numberFiltered(const QImage& image, ImageFilters::FilterType type, int va
     }
 }
 
-// Stored numbers may be anything; what no integer can hold goes to the end of its range.
+// Stored numbers may be anything; those beyond an integer become its lowest or highest value.
 int valueFromTenths(double tenths) {
     constexpr double lowest = std::numeric_limits<int>::min();
     constexpr double highest = std::numeric_limits<int>::max();
-    const double value = tenths * kTenths;
+    const double value = tenths * tenthsPerUnit;
+    // Not a number is unequal to itself, and clamp() would return it.
     return value == value ? static_cast<int>(std::clamp(value, lowest, highest)) : 0;
 }
 
 } // namespace
 
 std::optional<FilterRange> filterRange(ImageFilters::FilterType type) {
-    const auto found = std::ranges::find(kNumberedFilters, type, &NumberedFilter::type);
-    return found == kNumberedFilters.end() ? std::nullopt : std::optional(found->range);
+    const auto found = std::ranges::find(numberedFilters, type, &NumberedFilter::type);
+    return found == numberedFilters.end() ? std::nullopt : std::optional(found->range);
 }
 
 QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied) {
@@ -82,6 +84,7 @@ QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied)
     }
     const std::optional<FilterRange> range = filterRange(step.type);
     if (!range) {
+        // A row of an unknown name, which a stored profile may contain.
         qDebug() << "Error, invalid filter type";
         return image;
     }
@@ -92,26 +95,26 @@ QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied)
 }
 
 StoredFilterOptions storedFilterOptions(const QHash<QString, QVariant>& options) {
-    StoredFilterOptions stored{.isBypassed = options.value(kBypassedOption, false).toBool(),
-                               .numberType = options.value(kNumberTypeOption, 0).toInt(),
+    StoredFilterOptions stored{.isBypassed = options.value(bypassedOption, false).toBool(),
+                               .numberType = options.value(numberTypeOption, 0).toInt(),
                                .value = {}};
     if (stored.numberType == 0)
-        stored.value = options.value(kValueOption, 0).toInt();
+        stored.value = options.value(valueOption, 0).toInt();
     else if (stored.numberType == 1)
-        stored.value = valueFromTenths(options.value(kTenthsOption, 0.0).toDouble());
+        stored.value = valueFromTenths(options.value(tenthsOption, 0.0).toDouble());
     return stored;
 }
 
 QHash<QString, QVariant> bypassOption(bool isBypassed) {
-    return {{kBypassedOption, isBypassed}};
+    return {{bypassedOption, isBypassed}};
 }
 
 void storeFilterNumber(QHash<QString, QVariant>& options, int numberType, int value) {
-    options.insert(kNumberTypeOption, numberType);
+    options.insert(numberTypeOption, numberType);
     if (numberType == 0)
-        options.insert(kValueOption, value);
+        options.insert(valueOption, value);
     else if (numberType == 1)
-        options.insert(kTenthsOption, value / kTenths);
+        options.insert(tenthsOption, value / tenthsPerUnit);
 }
 
 QList<FilterStep> filterChain(const EffectList& effects) {
@@ -120,6 +123,7 @@ QList<FilterStep> filterChain(const EffectList& effects) {
         const StoredFilterOptions stored = storedFilterOptions(options);
         FilterStep step{.type = ImageFilters::filterType(name), .isBypassed = stored.isBypassed};
         if (const std::optional<FilterRange> range = filterRange(step.type))
+            // The slider of a row limits a stored value in the same way.
             step.value = std::clamp(stored.value.value_or(range->initial), range->minimum, range->maximum);
         chain.append(step);
     }

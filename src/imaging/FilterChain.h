@@ -21,19 +21,19 @@ struct FilterRange {
     std::optional<int> neutral;
 };
 
-// Nothing for a filter that takes no number.
+// Nothing for a filter without a number.
 [[nodiscard]] std::optional<FilterRange> filterRange(ImageFilters::FilterType type);
 
 struct FilterStep {
     ImageFilters::FilterType type = ImageFilters::Invalid;
-    int value = 0; // of a filter with a range, within it
+    int value = 0; // within the range of the filter, if it has one
     bool isBypassed = false;
 
     bool operator==(const FilterStep&) const = default;
 };
 
-// Sets the flag when the step changed the image and leaves it alone otherwise. The result of an image that is
-// not of 32 bits in a plain layout has ARGB32 or RGB32.
+// Sets the flag if the step was applied and does not write it otherwise. An image in another format than
+// those of filterInput() results in ARGB32 or RGB32.
 [[nodiscard]] QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied);
 
 // The options of a stored row: missing keys count as false and 0.
@@ -46,9 +46,9 @@ struct StoredFilterOptions {
 [[nodiscard]] QHash<QString, QVariant> bypassOption(bool isBypassed);
 void storeFilterNumber(QHash<QString, QVariant>& options, int numberType, int value);
 
-// The steps that the rows of a stored chain stand for.
+// One step for each row of a stored chain, in its order.
 [[nodiscard]] QList<FilterStep> filterChain(const EffectList& effects);
 
-// The image in a format that the pixel routines take: 32-bit RGB and ARGB as they are, all others converted
+// The image in a format that the pixel routines accept: 32-bit RGB and ARGB as they are, all others converted
 // to ARGB32, or to RGB32 without an alpha channel.
 [[nodiscard]] QImage filterInput(const QImage& image);

@@ -9,22 +9,22 @@
 namespace {
 
 // Feedback weights in sixteenths for the radii 1 to 17.
-constexpr std::array<quint16, 17> kBlurWeights{14, 10, 8, 6, 5, 5, 4, 3, 3, 3, 3, 2, 2, 2, 2, 2, 2};
-constexpr quint16 kNoBlurWeight = 16;
-constexpr quint16 kStrongestBlurWeight = 1;
+constexpr std::array<quint16, 17> blurWeights{14, 10, 8, 6, 5, 5, 4, 3, 3, 3, 3, 2, 2, 2, 2, 2, 2};
+constexpr quint16 noBlurWeight = 16;
+constexpr quint16 strongestBlurWeight = 1;
 
-// Rows that the walks along and across share while they lie in the cache, walked side by side.
-constexpr int kBandRows = 8;
+// Rows of a band: the walks along and across handle them while they are in the cache.
+constexpr int bandRows = 8;
 
 quint16 blurWeight(int radius) {
     if (radius < 1)
-        return kNoBlurWeight;
-    if (radius > static_cast<int>(kBlurWeights.size()))
-        return kStrongestBlurWeight;
-    return kBlurWeights[static_cast<size_t>(radius) - 1];
+        return noBlurWeight;
+    if (radius > static_cast<int>(blurWeights.size()))
+        return strongestBlurWeight;
+    return blurWeights[static_cast<size_t>(radius) - 1];
 }
 
-// Walks every column one row further. The states start from the first row, which stays as it is.
+// Filters all columns at once, row by row. The states start with the first row, which stays unchanged.
 class ColumnWalk {
 public:
     ColumnWalk(qsizetype pixels, quint16 alpha) : _states(static_cast<size_t>(pixels * 4)), _alpha(alpha) {}
@@ -43,12 +43,14 @@ public:
             lanes.storeStates(&_states[i]);
             lanes.storeChannels(row + i);
         }
+        // A register holds two pixels; an odd width leaves one.
         if (i < channels)
-            stepLastPixel(row + i, &_states[i]);
+            stepSinglePixel(row + i, &_states[i]);
     }
 
 private:
-    void stepLastPixel(uchar* pixel, quint16* states) const {
+    void stepSinglePixel(uchar* pixel, quint16* states) const {
+        // The second half of the registers is unused.
         std::array<quint16, 8> both{};
         std::copy_n(states, 4, both.begin());
         BlurLanes lanes = BlurLanes::fromStates(both.data());
@@ -64,9 +66,9 @@ private:
 };
 
 // Walks 2 * Pairs rows side by side: a single walk would wait for its own result at every pixel. The rows
-// begin at the walk's first pixel, and step is 4 or -4 bytes.
+// begin at the first pixel of the walk; the step is 4 or -4 bytes.
 template <size_t Pairs>
-void walkRows(const std::array<uchar*, kBandRows>& rows, qsizetype pixels, qsizetype step, quint16 alpha) {
+void walkRows(const std::array<uchar*, bandRows>& rows, qsizetype pixels, qsizetype step, quint16 alpha) {
     const auto walks = [&rows]<size_t... I>(std::index_sequence<I...>) {
         return std::array{BlurLanes::fromPixels(rows[2 * I], rows[2 * I + 1])...};
     };
@@ -80,21 +82,20 @@ void walkRows(const std::array<uchar*, kBandRows>& rows, qsizetype pixels, qsize
     }
 }
 
-void walkBand(std::array<uchar*, kBandRows> rows, int count, qsizetype pixels, qsizetype step,
-              quint16 alpha) {
-    if (count == kBandRows) {
-        walkRows<kBandRows / 2>(rows, pixels, step, alpha);
+void walkBand(std::array<uchar*, bandRows> rows, int count, qsizetype pixels, qsizetype step, quint16 alpha) {
+    if (count == bandRows) {
+        walkRows<bandRows / 2>(rows, pixels, step, alpha);
         return;
     }
     for (size_t i = 0; i < static_cast<size_t>(count); i += 2) {
-        // An odd last row is its own partner: both halves write the same pixels.
+        // A last row without a partner fills both halves of a register; both write the same pixels.
         rows[0] = rows[i];
         rows[1] = i + 1 < static_cast<size_t>(count) ? rows[i + 1] : rows[i];
         walkRows<1>(rows, pixels, step, alpha);
     }
 }
 
-// The part of an image that is blurred. Rows are counted along the direction of the walk.
+// The part of an image that is blurred. Rows are numbered in the direction of the walk.
 struct BlurArea {
     uchar* firstRow;
     qsizetype rowStep;
@@ -102,13 +103,13 @@ struct BlurArea {
     qsizetype pixels;
 };
 
-// One walk across the rows and the one along them, band by band: a row's walk needs nothing of later rows.
+// Filters along the columns and along the rows in one pass, band by band, as no row depends on a later one.
 void blurBothWays(const BlurArea& area, bool backward, quint16 alpha) {
     ColumnWalk columns(area.pixels, alpha);
     const qsizetype firstPixel = backward ? (area.pixels - 1) * 4 : 0;
-    for (int done = 0; done < area.rows; done += kBandRows) {
-        const int count = std::min(kBandRows, area.rows - done);
-        std::array<uchar*, kBandRows> starts{};
+    for (int done = 0; done < area.rows; done += bandRows) {
+        const int count = std::min(bandRows, area.rows - done);
+        std::array<uchar*, bandRows> starts{};
         for (int i = 0; i < count; ++i) {
             uchar* const row = area.firstRow + (done + i) * area.rowStep;
             if (done + i == 0)
@@ -122,6 +123,7 @@ void blurBothWays(const BlurArea& area, bool backward, quint16 alpha) {
 }
 
 void walkOneChannel(uchar* first, qsizetype step, qsizetype count, int alpha) {
+    // Same arithmetic as the lanes: a state has 4 fractional bits.
     int state = *first * 16;
     for (qsizetype i = 1; i < count; ++i) {
         uchar& value = first[i * step];
@@ -149,9 +151,9 @@ QImage ImageDSP::blurred(const QImage& image, const QRect& rect, int radius, boo
     QImage result = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QRect area = rect & result.rect();
     const quint16 alpha = blurWeight(radius);
-    if (area.isEmpty() || alpha == kNoBlurWeight)
+    if (area.isEmpty() || alpha == noBlurWeight)
         return result;
-    // A view of foreign rows gets rows of its own here, of another length.
+    // bits() first: it detaches an image over foreign memory, and the copy may have rows of another length.
     uchar* const bits = result.bits();
     const qsizetype stride = result.bytesPerLine();
     uchar* const topLeft = bits + area.top() * stride + qsizetype{4} * area.left();

@@ -10,10 +10,10 @@
 
 namespace {
 
-constexpr double kWeightOne = 65536.0;
-constexpr double kLowestWeight = std::numeric_limits<qint32>::min();
-constexpr double kHighestWeight = std::numeric_limits<qint32>::max();
-constexpr int kLanePixels = 4;
+constexpr double weightOne = 65536.0;
+constexpr double lowestWeight = std::numeric_limits<qint32>::min();
+constexpr double highestWeight = std::numeric_limits<qint32>::max();
+constexpr int lanePixels = 4;
 
 // A kernel in 16.16 fixed point, row-major.
 struct FixedKernel {
@@ -40,7 +40,7 @@ struct Channels {
 FixedKernel fixedKernel(std::span<const double> kernel, int width, int height) {
     FixedKernel fixed{width, height, std::vector<qint32>(kernel.size())};
     std::transform(kernel.begin(), kernel.end(), fixed.weights.begin(), [](double w) {
-        return static_cast<qint32>(std::clamp(kWeightOne * w, kLowestWeight, kHighestWeight));
+        return static_cast<qint32>(std::clamp(weightOne * w, lowestWeight, highestWeight));
     });
     return fixed;
 }
@@ -83,11 +83,11 @@ std::vector<TapPair> tapPairs(const FixedKernel& kernel, qsizetype stride) {
     return pairs;
 }
 
-// Convolves kLanePixels pixels at a time; returns how many of the pixels it did. All their taps lie inside.
+// Convolves lanePixels pixels at a time; returns how many of the pixels it did. All their taps lie inside.
 template <bool High, bool Low>
 int convolveInterior(const std::vector<TapPair>& pairs, const uchar* in, uchar* out, int pixels) {
     int x = 0;
-    for (; x + kLanePixels <= pixels; x += kLanePixels) {
+    for (; x + lanePixels <= pixels; x += lanePixels) {
         const uchar* const at = in + qsizetype{4} * x;
         TapSums high;
         TapSums low;
@@ -106,6 +106,7 @@ int convolveInterior(const std::vector<TapPair>& pairs, const uchar* in, uchar* 
 using InteriorStep = int (*)(const std::vector<TapPair>&, const uchar*, uchar*, int);
 
 InteriorStep interiorStep(const FixedKernel& kernel) {
+    // A half that is zero in all weights, as in kernels of whole numbers, costs no multiplications.
     const bool high = std::ranges::any_of(kernel.weights, [](qint32 w) { return weightHigh(w) != 0; });
     const bool low = std::ranges::any_of(kernel.weights, [](qint32 w) { return weightLow(w) != 0; });
     if (high && low)
@@ -135,7 +136,7 @@ Channels convolvePixel(const QImage& source, const FixedKernel& kernel, int x, i
     return {channel(0), channel(1), channel(2), channel(3)};
 }
 
-// Wraps around where a channel exceeds a byte, as the sum of shifted channels does.
+// Added, not combined bit by bit: a channel above 255 carries into the next one, on which results depend.
 QRgb packedChannels(const Channels& c) {
     return (static_cast<QRgb>(c.alpha) << 24) + (static_cast<QRgb>(c.red) << 16) +
            (static_cast<QRgb>(c.green) << 8) + static_cast<QRgb>(c.blue);
@@ -162,7 +163,7 @@ ConvolutionArea convolutionArea(const QRectF& region, const QPointF& position, c
     return {target, grown(region).topLeft() + (target.topLeft() - moved.topLeft())};
 }
 
-// One run of convolute() after everything that can be settled before the first pixel.
+// One call of convolute() with all that is computed before its first pixel.
 class Convolution {
 public:
     Convolution(const QImage& source, FixedKernel kernel)
@@ -174,6 +175,7 @@ public:
     // Replaces count pixels by those that belong to the source pixels from (x, y) on.
     void replaceRow(QRgb* out, int count, int x, int y) const {
         int done = 0;
+        // Only rows and columns with all taps inside the source take the fast path.
         if (_interior && y >= _kernel.height / 2 && y + (_kernel.height - 1) / 2 < _source.height()) {
             const int begin = std::clamp(_kernel.width / 2 - x, 0, count);
             const int end = std::clamp(_source.width() - (_kernel.width - 1) / 2 - x, begin, count);
@@ -214,7 +216,7 @@ void ImageDSP::convolute(QImage& destination, const QPointF& position, const QIm
     const auto [target, start] =
         convolutionArea(region, position, destination.rect(), kernelWidth, kernelHeight);
     const bool replace = mode == QPainter::CompositionMode_Source;
-    // A shared image that is replaced as a whole need not be copied first.
+    // scanLine() would copy the pixels of a shared image, although each of them is replaced.
     if (replace && target == destination.rect() && !destination.isDetached())
         destination = blankLike(destination);
     for (int y = 0; y < target.height(); ++y) {

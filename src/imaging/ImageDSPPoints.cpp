@@ -13,14 +13,15 @@ namespace {
 
 using ChannelTable = std::array<quint32, 256>;
 
-constexpr quint32 kOpaque = 0xff000000;
+constexpr quint32 opaqueAlpha = 0xff000000;
 
 // Pixels a block: small enough for the second pass over it to stay in the first-level cache.
-constexpr qsizetype kBlockPixels = 256;
+constexpr qsizetype blockPixels = 256;
 
 // Runs a step(const quint32* in, quint32* out, qsizetype pixels) over all pixels on all processors.
 template <typename Step>
 QImage mapPixels(const QImage& image, const Step& step) {
+    // The copy of an image over foreign memory has rows without padding.
     const QImage source = isFlat32Bit(image) ? image : image.copy();
     QImage result = blankLike(source);
     if (result.isNull())
@@ -38,15 +39,15 @@ QImage mapPixels(const QImage& image, const Step& step) {
 // code.
 template <typename ByteMap>
 void mapBytesOpaque(const quint32* in, quint32* out, qsizetype pixels, const ByteMap& map) {
-    for (qsizetype done = 0; done < pixels; done += kBlockPixels) {
-        const qsizetype block = std::min(kBlockPixels, pixels - done);
+    for (qsizetype done = 0; done < pixels; done += blockPixels) {
+        const qsizetype block = std::min(blockPixels, pixels - done);
         const auto* from = reinterpret_cast<const uchar*>(in + done);
         quint32* const words = out + done;
         auto* const to = reinterpret_cast<uchar*>(words);
         for (qsizetype i = 0; i < block * 4; ++i)
             to[i] = map(from[i]);
         for (qsizetype i = 0; i < block; ++i)
-            words[i] |= kOpaque;
+            words[i] |= opaqueAlpha;
     }
 }
 
@@ -54,7 +55,7 @@ ChannelTable brightnessTable(double factor, int offset) {
     ChannelTable table;
     for (int c = 0; c < 256; ++c) {
         const double x = c * factor + offset;
-        // Cutting toward zero takes everything below 1 to 0, so negative numbers never reach the conversion.
+        // The conversion of a negative number to an unsigned one is undefined.
         table[static_cast<size_t>(c)] = x > 0.0 ? static_cast<quint32>(std::min(x, 255.0)) : 0;
     }
     return table;
@@ -63,7 +64,7 @@ ChannelTable brightnessTable(double factor, int offset) {
 void mapThroughTable(const quint32* in, quint32* out, qsizetype pixels, const ChannelTable& table) {
     for (qsizetype i = 0; i < pixels; ++i) {
         const quint32 p = in[i];
-        out[i] = kOpaque | table[p >> 16 & 255] << 16 | table[p >> 8 & 255] << 8 | table[p & 255];
+        out[i] = opaqueAlpha | table[p >> 16 & 255] << 16 | table[p >> 8 & 255] << 8 | table[p & 255];
     }
 }
 
@@ -71,6 +72,7 @@ void mapThroughTable(const quint32* in, quint32* out, qsizetype pixels, const Ch
 
 QImage ImageDSP::brightness(const QImage& image, double factor, int offset) {
     qDebug() << "ImageDSP::brightness";
+    // Without a factor the sums stay whole numbers, which compilers vectorise.
     if (factor == 1.0) {
         const auto shift = static_cast<qint16>(std::clamp(offset, -255, 255));
         return mapPixels(image, [shift](const quint32* in, quint32* out, qsizetype pixels) {
@@ -107,7 +109,7 @@ QImage ImageDSP::blackPointed(const QImage& image, int point) {
     const auto limit = static_cast<uchar>(std::clamp(point, 0, 255));
     return mapPixels(image, [all, limit](const quint32* in, quint32* out, qsizetype pixels) {
         if (all)
-            std::fill_n(out, pixels, kOpaque);
+            std::fill_n(out, pixels, opaqueAlpha);
         else
             mapBytesOpaque(in, out, pixels,
                            [limit](uchar c) { return static_cast<uchar>(c < limit ? 0 : c); });

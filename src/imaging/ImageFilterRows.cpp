@@ -7,13 +7,14 @@
 
 #include <optional>
 
-// The part of the catalogue that makes and reads widgets; the command line does without it.
+// The part of ImageFilters that makes and reads widgets, which the command line is not linked to.
 
 ImageFilterWidgetBase* ImageFilters::createFilterWidget(const QString& filterName) const {
     const FilterType type = filterType(filterName);
     auto* const row = new ImageFilterWidgetBase;
     row->setFilterType(type);
     if (type == Sharpen) {
+        // Without a number there is nothing to set, but a row always has an option widget.
         row->setOptionWidget(new QWidget(row));
         return row;
     }

@@ -32,10 +32,11 @@ void ImageFilterWidgetBase::setOptionWidget(QWidget* widget) {
     _ui->hLFilterOptions->addWidget(widget);
     if (const auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(widget))
         connect(slider, &ImageFilterWidgetSlider::sliderChanged, this, &ImageFilterWidgetBase::optionChanged);
-    else
+    else // as for each filter without a number; the word "Error" is part of the fixed text
         qDebug() << "Error, unable to cast filter option widget...";
 }
 
+// The check box means bypass, the opposite of its object name.
 bool ImageFilterWidgetBase::isFilterEnabled() const {
     return !_ui->cBEnabled->isChecked();
 }

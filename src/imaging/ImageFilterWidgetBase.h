@@ -14,7 +14,7 @@ namespace Ui {
 class ImageFilterWidgetBase;
 }
 
-// One row of the effect list. It is the user's control and the filter's data at once.
+// One row of the effect list: the user's control of a filter and at the same time its only data.
 class ImageFilterWidgetBase : public QWidget {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
 
     void setFilterType(ImageFilters::FilterType type);
     [[nodiscard]] ImageFilters::FilterType filterType() const { return _filterType; }
-    // Takes the widget into the row, which then owns it.
+    // The row becomes the owner of the widget.
     void setOptionWidget(QWidget* widget);
     [[nodiscard]] QWidget* optionWidget() const { return _optionWidget; }
     // The list item that shows this row; not owned.
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] QListWidgetItem* item() const { return _item; }
 
     [[nodiscard]] bool isFilterEnabled() const;
-    // With blockSignals no optionChanged follows.
+    // With blockSignals, optionChanged is not emitted.
     void setFilterEnabled(bool enabled, bool blockSignals);
 
     // "bypassed" always; with a slider "sliderType" and "value" (whole) or "valueD" (tenths).

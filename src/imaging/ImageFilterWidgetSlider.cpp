@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr double kSliderStepsPerUnit = 10.0;
+constexpr double sliderStepsPerUnit = 10.0;
 
 } // namespace
 
@@ -16,6 +16,7 @@ ImageFilterWidgetSlider::ImageFilterWidgetSlider(QWidget* parent)
     qRegisterMetaType<ImageFilterWidgetSlider::SliderType>();
     _ui->setupUi(this);
     _ui->doubleSpinBox->hide();
+    // The boxes set the slider only; its own signal updates the other box and reports the change.
     connect(_ui->spinBox, &QSpinBox::valueChanged, _ui->horizontalSlider, &QSlider::setValue);
     connect(_ui->doubleSpinBox, &QDoubleSpinBox::valueChanged, this,
             &ImageFilterWidgetSlider::onTenthsChanged);
@@ -27,7 +28,7 @@ ImageFilterWidgetSlider::~ImageFilterWidgetSlider() = default;
 
 void ImageFilterWidgetSlider::setRange(int min, int max) {
     _ui->spinBox->setRange(min, max);
-    _ui->doubleSpinBox->setRange(min / kSliderStepsPerUnit, max / kSliderStepsPerUnit);
+    _ui->doubleSpinBox->setRange(min / sliderStepsPerUnit, max / sliderStepsPerUnit);
     _ui->horizontalSlider->setRange(min, max);
 }
 
@@ -52,20 +53,20 @@ int ImageFilterWidgetSlider::value() const {
 }
 
 double ImageFilterWidgetSlider::valueD() const {
-    return value() / kSliderStepsPerUnit;
+    return value() / sliderStepsPerUnit;
 }
 
 void ImageFilterWidgetSlider::sliderValueChanged(int value) {
     const QSignalBlocker spinBoxBlocker(_ui->spinBox);
     const QSignalBlocker doubleSpinBoxBlocker(_ui->doubleSpinBox);
     _ui->spinBox->setValue(value);
-    _ui->doubleSpinBox->setValue(value / kSliderStepsPerUnit);
+    _ui->doubleSpinBox->setValue(value / sliderStepsPerUnit);
     emit sliderChanged(value);
 }
 
 void ImageFilterWidgetSlider::onTenthsChanged(double tenths) {
-    _ui->horizontalSlider->setValue(static_cast<int>(tenths * kSliderStepsPerUnit));
-    // A number between two tenths moves no slider and would stay in the box.
+    _ui->horizontalSlider->setValue(static_cast<int>(tenths * sliderStepsPerUnit));
+    // A number between two tenths does not move the slider, so no signal of it corrects the box.
     showTenths();
 }
 

@@ -8,8 +8,8 @@ namespace Ui {
 class ImageFilterWidgetSlider;
 }
 
-// The option widget of a filter with a number. The slider's value is the one truth, the boxes are views of
-// it: one of the value, one of its tenths.
+// The option widget of a filter with a number. The slider holds the value; one box shows it as it is, the
+// other a tenth of it.
 class ImageFilterWidgetSlider : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     ~ImageFilterWidgetSlider() override;
 
     void setRange(int min, int max);
-    // Shows the box of that type; an unknown one is kept and shows nothing new.
+    // Shows the box of that type. An unknown type is stored and changes nothing on the screen.
     void setSliderType(SliderType type);
     [[nodiscard]] SliderType sliderType() const { return _sliderType; }
     // Emits nothing.

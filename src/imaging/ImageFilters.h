@@ -28,8 +28,8 @@ public:
     [[nodiscard]] QStringList filterNames() const;
     // The caller owns the row. Names are matched in any case; an unknown one gives a row that does nothing.
     [[nodiscard]] ImageFilterWidgetBase* createFilterWidget(const QString& filterName) const;
-    // Sets the flag when the row changed the image and leaves it alone otherwise. The result of an image that
-    // is not of 32 bits in a plain layout has ARGB32 or RGB32.
+    // Sets the flag if the row was applied and does not write it otherwise. The result has a format of
+    // filterInput(), or that of the image if the row was not applied.
     [[nodiscard]] QImage applyFilter(const QImage& image, QWidget* row, bool* applied) const;
 
     // "Invalid" outside the table.

@@ -20,7 +20,7 @@ namespace {
 constexpr QSize effectItemSize(24, 26);
 constexpr int effectNameRole = Qt::UserRole + 1;
 
-// Why the preview is not written over its file.
+// Shown instead of writing the preview over its file.
 QString noSaveOfEffects() {
     return MainWindow::tr("Preview of effects is not saved, use Apply.");
 }
@@ -60,7 +60,7 @@ ImageFilterWidgetBase* MainWindow::effectRow(QListWidgetItem* item) const {
     return qobject_cast<ImageFilterWidgetBase*>(ui->lWDspEffects->itemWidget(item));
 }
 
-// A row for the item, connected and attached.
+// A new row widget for the item, not yet connected.
 ImageFilterWidgetBase* MainWindow::attachEffectRow(QListWidgetItem* item) {
     ImageFilterWidgetBase* row = _imageFilters->createFilterWidget(effectName(item));
     row->setItem(item);
@@ -95,6 +95,7 @@ void MainWindow::onFilterItemDelete() {
         qDebug() << "Error, unable to cast filter widget to base...";
         return;
     }
+    // The view removes the row widget, too, by deleteLater(): it is still the sender here.
     delete ui->lWDspEffects->takeItem(ui->lWDspEffects->row(row->item()));
     onFilterApply();
 }
@@ -120,16 +121,17 @@ void MainWindow::moveSendingRow(bool up) {
 }
 
 void MainWindow::onFilterItemMove(bool up, QListWidgetItem* item) {
-    // Row widgets do not survive a move of their item, so the row is rebuilt from its options.
+    // A row widget does not survive a move of its item, so a new one is made from its options.
     QListWidget* list = ui->lWDspEffects;
-    const int place = list->row(item);
-    if (up && place - 1 < 0)
+    const int index = list->row(item);
+    // Downwards, insertItem() appends at most, so the last row stays the last.
+    if (up && index - 1 < 0)
         return;
     const ImageFilterWidgetBase* row = effectRow(item);
     const QVariantHash options = row ? row->options() : QVariantHash();
     list->removeItemWidget(item);
-    list->takeItem(place);
-    list->insertItem(up ? place - 1 : place + 1, item);
+    list->takeItem(index);
+    list->insertItem(up ? index - 1 : index + 1, item);
     ImageFilterWidgetBase* rebuilt = attachEffectRow(item);
     rebuilt->setOptions(options);
     connectEffectRow(rebuilt);
@@ -139,6 +141,7 @@ void MainWindow::onDspEffectsCustomContextMenu() {
     QListWidget* list = ui->lWDspEffects;
     QMenu menu;
     menu.addAction(tr("&Toggle bypass"), this, [this] {
+        // Without signals, as each would run the chain; it is run once below.
         forEachEffectRow(
             [](ImageFilterWidgetBase* row) { row->setFilterEnabled(!row->isFilterEnabled(), true); });
         onFilterApply();
@@ -164,8 +167,8 @@ void MainWindow::onDspEffectsCustomContextMenu() {
 }
 
 void MainWindow::forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) const {
-    for (int place = 0; place < ui->lWDspEffects->count(); ++place) {
-        if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(place)))
+    for (int index = 0; index < ui->lWDspEffects->count(); ++index) {
+        if (ImageFilterWidgetBase* row = effectRow(ui->lWDspEffects->item(index)))
             visit(row);
         else
             qDebug() << "Error, unable to cast to base Image Filter.";
@@ -180,7 +183,7 @@ QString MainWindow::prepareOutputDirectory(const QString& outputText) {
 }
 
 void MainWindow::onFilterApply() {
-    // One slot is the batch run and the live preview of every change; only the button asks for the batch.
+    // The slot serves the batch and the live preview of each change. Only the button starts a batch.
     const bool isBatch = sender() == ui->pBDspApply;
     ui->dockWidget_ImgPreview->show();
     QStringList paths = selectedFilePaths();
@@ -222,7 +225,7 @@ void MainWindow::onFilterApply() {
 }
 
 void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
-    // A batch never takes the reduced copy that a preview left.
+    // A preview leaves a reduced copy here, which a batch must not write.
     if (isBatch || _filterImage.isNull() || _filterImagePath != path) {
         _filterImagePath = path;
         _filterImage = QImage(path);
@@ -230,6 +233,7 @@ void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
             _filterImage = reducedToFit(_filterImage, ui->imgWidget->size());
     }
     if (!isBatch) {
+        // Only the whole, unchanged picture may be saved over its file.
         const bool isWholeFile = _filterImage.size() == QImageReader(path).size();
         ui->imgWidget->setImage(_filterImage, path, isWholeFile ? QString() : noSaveOfEffects());
     }

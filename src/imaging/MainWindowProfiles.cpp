@@ -32,6 +32,7 @@ void MainWindow::onFilterProfilesCurrentAboutToChange() {
 
 void MainWindow::onFilterProfilesHasChanged() {
     {
+        // Rows are restored silently; the preview is made once, at the end.
         const QSignalBlocker blocker(ui->lWDspEffects);
         ui->lWDspEffects->clear();
         if (Profiles::instance()->isEmpty()) {
@@ -50,7 +51,7 @@ void MainWindow::onFilterProfilesHasChanged() {
     onFilterApply();
 }
 
-// A profile of the default name, or of that name with "_1" appended until it is new.
+// Adds and selects a profile of the default name, with "_1" appended until the name is new.
 void MainWindow::addDefaultProfile() {
     Profile profile;
     profile.setName(unusedProfileName(tr("Default"), Profiles::instance()->profiles()));
@@ -69,8 +70,10 @@ void MainWindow::onFilterProfilesEditRequested(int /*index*/) {
 
 void MainWindow::onFilterProfilesRemoveRequested(int index) {
     Profiles::instance()->removeProfile(index);
+    // The rows always belong to a profile.
     if (Profiles::instance()->isEmpty())
         addDefaultProfile();
 }
 
+// The order of profiles does not show in the rows.
 void MainWindow::onFilterProfilesMoved() {}

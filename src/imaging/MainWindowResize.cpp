@@ -68,6 +68,7 @@ ResizeMode MainWindow::resizeModeOf(const QGroupBox* box) const {
 }
 
 void MainWindow::onResizeGroupToggled(const QGroupBox* box, bool on) {
+    // The boxes exclude one another like radio buttons; switching one off switches another on.
     const QGroupBox* chosen = resizeGroupBox(resizeModeAfterToggle(resizeModeOf(box), on));
     for (QGroupBox* other : resizeGroupBoxes()) {
         if (other != box) {
@@ -89,6 +90,7 @@ ResizeOptions MainWindow::resizeOptions() const {
     options.specificSize = {ui->sBSpecificW->value(), ui->sBSpecificH->value()};
     options.scale = ui->dSPResizeScaleMulti->value();
     options.aspectRatio = ui->dSPResizeAspectRatio->value();
+    // The entries of both boxes are in the order of the enumerators; without a choice the first one counts.
     options.aspectRatioMode =
         static_cast<Qt::AspectRatioMode>(qMax(0, ui->cBResizeSrcAspectRatio->currentIndex()));
     options.transformationMode =
@@ -132,6 +134,7 @@ void MainWindow::onProcessResize() {
         if (writeBatchImage(writer, *resized, path, directory))
             showBlockingMessage(tr("Resized %1 of total: %2").arg(writer.writtenCount()).arg(files.size()));
     }
+    // The status bar reports the selected files, the panel those that were really written.
     showResult(tr("resized"), writer.writtenCount(), files.size(), writer.failures());
     const double seconds = static_cast<double>(timer.elapsed()) / 1000.0;
     onShowMessage(tr("Resize completed, resized: %1 in %2 s").arg(files.size()).arg(seconds));

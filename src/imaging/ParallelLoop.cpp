@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr qsizetype kChunksPerThread = 32;
-constexpr qsizetype kWorkItemsPerThread = 4;
+constexpr qsizetype chunksPerThread = 32;
+constexpr qsizetype workItemsPerThread = 4;
 
-// Hands out the chunks of one loop; the counter is all that the threads share.
+// Distributes the chunks of one loop to the threads, which share only its counter.
 class ChunkQueue {
 public:
     ChunkQueue(qsizetype count, qsizetype chunks, const ChunkStep& step)
@@ -26,9 +26,9 @@ public:
             _step(begin(chunk), begin(chunk + 1));
     }
 
-    // What the threads wrote before they found no chunk left is visible after this. The pool and its
-    // semaphore see to that as well, but out of sight of a race check.
-    void takeOver() const { (void)_next.load(); }
+    // Makes the results of all threads visible to the calling one. The semaphore does that as well, but
+    // inside Qt, which is not instrumented, so that ThreadSanitizer would report a data race.
+    void acquireResults() const { (void)_next.load(); }
 
 private:
     [[nodiscard]] qsizetype begin(qsizetype chunk) const {
@@ -50,6 +50,7 @@ public:
         _queue = queue;
     }
     void run() override {
+        // In this order: reading the atomic pointer makes the other one visible.
         ChunkQueue* const queue = _queue;
         QSemaphore* const finished = _finished;
         queue->work();
@@ -57,7 +58,7 @@ public:
     }
 
 private:
-    std::atomic<ChunkQueue*> _queue = nullptr; // hands over what was written before
+    std::atomic<ChunkQueue*> _queue = nullptr; // its store publishes what was written before
     QSemaphore* _finished = nullptr;
 };
 
@@ -70,9 +71,10 @@ void parallelLoop(qsizetype count, int threads, const ChunkStep& step) {
         step(0, count);
         return;
     }
-    const qsizetype chunks = std::min(count, kChunksPerThread * threads);
-    const qsizetype items = std::min(chunks, kWorkItemsPerThread * threads);
+    const qsizetype chunks = std::min(count, chunksPerThread * threads);
+    const qsizetype items = std::min(chunks, workItemsPerThread * threads);
     const std::unique_ptr<ChunkWorker[]> workers(new (std::nothrow) ChunkWorker[static_cast<size_t>(items)]);
+    // Short of memory, the calling thread does all the work.
     if (!workers) {
         step(0, count);
         return;
@@ -86,5 +88,5 @@ void parallelLoop(qsizetype count, int threads, const ChunkStep& step) {
     }
     queue.work();
     finished.acquire(static_cast<int>(items));
-    queue.takeOver();
+    queue.acquireResults();
 }

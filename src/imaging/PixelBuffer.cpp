@@ -8,8 +8,8 @@
 
 namespace {
 
-// Fresh memory comes page by page, which takes longer than filling it; in large pages it takes a fraction. A
-// system that refuses gives small ones.
+// The system provides fresh memory page by page at first use, which takes longer than filling it. Large pages
+// cost a fraction of that; where the system has none, small ones remain.
 void preferLargePages([[maybe_unused]] uchar* memory, [[maybe_unused]] qsizetype size) {
 #ifdef Q_OS_LINUX
     constexpr quintptr largePage = quintptr{2} << 20;

@@ -13,17 +13,17 @@
 #include <emmintrin.h>
 #endif
 
-// The only place with processor intrinsics. Both classes have a plain form with the same results.
+// The only file with processor intrinsics. Both classes have a portable form with the same results.
 
 // The states of eight recursive filters, each a channel value in fixed point with 4 fractional bits.
 class BlurLanes {
 public:
     static BlurLanes fromChannels(const uchar* eight);
-    // One pixel of each of two places.
+    // Two pixels, which need not be neighbours.
     static BlurLanes fromPixels(const uchar* first, const uchar* second);
     static BlurLanes fromStates(const quint16* states);
 
-    // Moves the states toward the values by alpha / 16 of the distance, cut toward zero.
+    // Moves the states toward the values by alpha / 16 of the distance, truncated toward zero.
     void feed(const BlurLanes& values, quint16 alpha);
     void storeStates(quint16* states) const;
     void storeChannels(uchar* eight) const;
@@ -38,7 +38,7 @@ private:
 #endif
 };
 
-// Two taps' weights, alternating, as they stand beside one another in a register.
+// The weights of two taps, alternating as in a register.
 struct alignas(16) WeightPair {
     std::array<qint16, 8> weights{};
 };
@@ -51,7 +51,7 @@ public:
     void addTaps(const uchar* first, const uchar* second, const WeightPair& pair);
     // this = this * 65536 + low.
     void raiseAndAdd(const TapSums& low);
-    // Sums / 65536, rounded down and held in 0 to 255.
+    // Sums / 65536, rounded down and clamped to 0 to 255.
     void storeClamped(uchar* sixteen) const;
 
 private:

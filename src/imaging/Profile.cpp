@@ -17,6 +17,7 @@ QVariant Profile::option(const QString& key) const {
 }
 
 void Profile::setOption(const QString& key, const QVariant& value) {
+    // Only logged: any option is accepted.
     if (_allowedOptionsKeys.isEmpty())
         qDebug("Info, _allowedOptionsKeys is empty");
     if (!_allowedOptionsKeys.contains(key))

@@ -8,7 +8,8 @@
 
 class QDataStream;
 
-// A named bag of options. The allowed keys warn in the log and refuse nothing; they are not streamed.
+// A named set of options. An option with a key that is not allowed is logged and set all the same. The
+// allowed keys are not streamed.
 class Profile {
 public:
     Profile() = default;

@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr quint32 kNullLength = 0xffffffff;
-constexpr quint32 kExtendedLength = 0xfffffffe;
+constexpr quint32 nullLength = 0xffffffff;
+constexpr quint32 extendedLength = 0xfffffffe;
 
-// Lists within lists beyond this are an attack on the stack, not a profile.
-constexpr int kMaximumDepth = 32;
+// No profile nests lists this deep; a hostile file may, to exhaust the stack.
+constexpr int maximumDepth = 32;
 
 // The encoded size of a value of a type whose values all have the same; -1 for other types.
 int fixedEncodedSize(quint32 type) {
@@ -62,7 +62,7 @@ public:
     [[nodiscard]] QDataStream::Status status() const { return _status; }
     [[nodiscard]] bool isOk() const { return _status == QDataStream::Ok; }
 
-    // 0 where the bytes end before.
+    // 0 if too few bytes are left.
     template <typename Number>
     Number number() {
         if (!take(sizeof(Number)))
@@ -70,7 +70,7 @@ public:
         return qFromBigEndian<Number>(_bytes.constData() + _position - sizeof(Number));
     }
 
-    // A count of elements; a null or negative one is a size that cannot be.
+    // A count of elements, which must not be null or negative.
     qint64 count() {
         const qint64 size = length();
         if (size < 0)
@@ -83,7 +83,7 @@ public:
         skipOptions(0);
     }
 
-    // Reads on behind a failure, as a data stream does.
+    // Reading continues after a failure, as with QDataStream.
     void clearStatus() { _status = QDataStream::Ok; }
 
 private:
@@ -104,9 +104,9 @@ private:
     // -1 for null.
     qint64 length() {
         const auto size = number<quint32>();
-        if (size == kNullLength)
+        if (size == nullLength)
             return -1;
-        return size == kExtendedLength ? number<qint64>() : size;
+        return size == extendedLength ? number<qint64>() : size;
     }
 
     qint64 skipBytes() {
@@ -119,11 +119,12 @@ private:
     }
 
     void skipString() {
+        // UTF-16, two bytes a character; null has the length -1, which is odd but leaves the remainder -1.
         if (skipBytes() % 2 == 1)
             fail(QDataStream::ReadCorruptData);
     }
 
-    // Every element takes bytes, so the walk ends with the bytes however large the count is.
+    // Every element consumes bytes, so the loop ends with them, however large the count is.
     template <typename Element>
     void skipElements(const Element& skipElement) {
         for (qint64 left = count(); left > 0 && isOk(); --left)
@@ -147,7 +148,7 @@ private:
     }
 
     void skipBuiltIn(quint32 type, int depth) {
-        if (depth > kMaximumDepth) {
+        if (depth > maximumDepth) {
             fail(QDataStream::ReadCorruptData);
             return;
         }
@@ -176,8 +177,9 @@ private:
         const qint64 size = skipBytes();
         if (!isOk())
             return;
+        // Null and empty names have no bytes.
         const QByteArray name(_bytes.constData() + _position - qMax(size, 0), qMax(size, 0));
-        if (depth > kMaximumDepth ||
+        if (depth > maximumDepth ||
             QMetaType::fromName(name.constData()) != QMetaType::fromType<EffectList>()) {
             fail(QDataStream::ReadCorruptData);
             return;
@@ -193,7 +195,7 @@ private:
     QDataStream::Status _status = QDataStream::Ok;
 };
 
-// Decodes the bytes that the walker found whole.
+// Decodes bytes whose structure the walker has checked.
 QDataStream::Status decodeProfile(const QByteArray& bytes, Profile* profile) {
     QDataStream stream(bytes);
     stream >> *profile;
@@ -221,6 +223,7 @@ ProfileStreamContents readProfileStream(const QByteArray& bytes) {
         contents.profiles.clear();
     else
         contents.status = walker.status();
+    // The index is read even after a failure.
     walker.clearStatus();
     contents.current = walker.number<qint32>();
     if (contents.status == QDataStream::Ok)

@@ -14,7 +14,7 @@ struct ProfileStreamContents {
     QDataStream::Status status = QDataStream::Ok;
 };
 
-// Every count and length is held against the bytes that are left before anything is allocated for it. Values
+// Every count and length is compared with the bytes that are left before memory is allocated for it. Values
 // other than plain numbers, texts, simple geometry, lists and maps of these and effect lists count as
 // corrupt.
 [[nodiscard]] ProfileStreamContents readProfileStream(const QByteArray& bytes);

@@ -33,6 +33,7 @@ void Profiles::setAllowedOptionsKeys(const QStringList& keys) {
 Profile& Profiles::currentProfile() {
     if (_profiles.isEmpty()) {
         qDebug() << "Error, profiles are empty.";
+        // Drops what a caller wrote into it earlier.
         _noProfile = {};
         return _noProfile;
     }
@@ -49,6 +50,7 @@ void Profiles::removeProfile(int index) {
     emit profilesCurrentAboutToChange();
     if (isValidIndex(index)) {
         _profiles.removeAt(index);
+        // Whichever profile was removed, the current index moves up by one.
         _current = std::max(_current - 1, 0);
         if (_edited == index)
             closeLostEdit();
@@ -91,6 +93,7 @@ void Profiles::currentProfileMoved(bool movedUp) {
         return;
     const int target = movedUp ? _current - 1 : _current + 1;
     if (isValidIndex(target)) {
+        // The window that edits a profile follows it to its new index.
         _profiles.move(_current, target);
         if (_edited == _current)
             _edited = target;
@@ -160,7 +163,7 @@ void Profiles::onProfileEdited() {
     emit profilesHasChanged();
 }
 
-// The entries may have moved in memory since the window was opened.
+// Changes of the list may have moved the profiles in memory since the window was opened.
 void Profiles::rebindEdit() {
     _editWidget->rebindProfile(isValidIndex(_edited) ? &_profiles[_edited] : nullptr);
 }
@@ -179,6 +182,7 @@ void Profiles::restore(const QByteArray& data) {
         return;
     }
     ProfileStreamContents contents = readProfileStream(data);
+    // The profile under edit belongs to the list that is replaced.
     closeLostEdit();
     _profiles = std::move(contents.profiles);
     _current = contents.current;
@@ -212,6 +216,7 @@ void Profiles::dump() const {
         for (auto option = profile.options().cbegin(); option != profile.options().cend(); ++option)
             text += u"%1:%2,"_s.arg(option.key(), option.value().toString());
     }
+    // The count is logged twice, which is part of the fixed text.
     qDebug() << "Profiles debug:" << "profiles count:" << _profiles.size() << "current profile:" << _current
              << "profiles count:" << _profiles.size() << "profiles:" << text;
 }

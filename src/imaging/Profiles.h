@@ -22,18 +22,18 @@ public:
     static Profiles* instance(QObject* parent = nullptr);
     static void destroyInstance();
 
-    // Handed to every profile that joins the list.
+    // Set in every profile that is added to the list.
     void setAllowedOptionsKeys(const QStringList& keys);
     [[nodiscard]] bool isEmpty() const { return _profiles.isEmpty(); }
     [[nodiscard]] const QList<Profile>& profiles() const { return _profiles; }
     [[nodiscard]] int currentIndex() const { return _current; }
-    // Ask isEmpty() first: without profiles this is a throw-away.
+    // Check isEmpty() before: without profiles this is a temporary one, whose changes are lost.
     Profile& currentProfile();
     void addProfile(const Profile& profile);
     void removeProfile(int index);
     // Selects the first profile of that name and those options.
     void setCurrentProfile(const Profile& profile);
-    // A new profile, not in the list; its name is not in it either, in any case.
+    // A new profile that is not added to the list and has a name that is not in it, compared in any case.
     [[nodiscard]] Profile uniqueProfile(const QString& name) const;
 
     // The chooser, made on the first call as a child of that parent.
@@ -73,7 +73,7 @@ private:
     QPointer<ProfilesEditWidget> _editWidget;
     QList<Profile> _profiles;
     int _current = 0;
-    // The place of the profile under edit, -1 when it has gone.
+    // The index of the profile under edit; -1 after its removal.
     int _edited = -1;
     QStringList _allowedOptionsKeys;
     Profile _noProfile;

@@ -26,6 +26,7 @@ void ProfilesEditWidget::setProfile(Profile* profile) {
 
 void ProfilesEditWidget::onApply() {
     emit aboutToApply();
+    // The profile was removed in the meantime.
     if (!_profile) {
         close();
         return;

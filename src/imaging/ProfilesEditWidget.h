@@ -10,7 +10,7 @@ namespace Ui {
 class ProfilesEditWidget;
 }
 
-// The small window that renames a profile. Profiles owns the profile and keeps its address true.
+// The small window that renames a profile. Profiles owns the profile and updates its address here.
 class ProfilesEditWidget : public QWidget {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
 
     // Begins an edit.
     void setProfile(Profile* profile);
-    // The profile under edit has another address, or none any more; the fields stay.
+    // Sets a new address of the profile under edit, null after its removal. The fields stay.
     void rebindProfile(Profile* profile) { _profile = profile; }
 
 public slots:
@@ -28,7 +28,7 @@ public slots:
 
 signals:
     void profilesUpdated();
-    // The last moment to rebind the profile.
+    // The receiver must rebind the profile now, as it is about to be changed.
     void aboutToApply();
 
 private:

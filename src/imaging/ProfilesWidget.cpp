@@ -31,7 +31,7 @@ void ProfilesWidget::connectPages() {
         connect(button, &QToolButton::clicked, this, &ProfilesWidget::onProfileMove);
 }
 
-// The pages are named after their inner layouts: the one-row form is the vertical page.
+// The pages are named after their inner layouts: the one-row form is page_VerticalLayout.
 void ProfilesWidget::dropUnusedPage() {
     QWidget* const used = _horizontal ? _ui->page_VerticalLayout : _ui->page_HorizontalLayout;
     QWidget* const unused = _horizontal ? _ui->page_HorizontalLayout : _ui->page_VerticalLayout;
@@ -58,6 +58,7 @@ void ProfilesWidget::setProfiles(const QList<Profile>& profiles, int current) {
     comboBox->clear();
     for (const Profile& profile : profiles) {
         comboBox->addItem(profile.name());
+        // Long names are cut in the box.
         comboBox->setItemData(comboBox->count() - 1, plainToolTip(profile.name()), Qt::ToolTipRole);
     }
     comboBox->setCurrentIndex(current);

@@ -23,7 +23,7 @@ public:
 
     // Shows the list; emits nothing.
     void setProfiles(const QList<Profile>& profiles, int current);
-    // The five buttons on show.
+    // The five buttons of the form that is shown.
     [[nodiscard]] QList<QAbstractButton*> toolButtons() const;
 
 signals:

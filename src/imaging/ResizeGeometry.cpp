@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kSideFollows = -1;
+constexpr int sideFollows = -1;
 
 std::optional<QImage> resizedToSpecificSize(const QImage& image, const ResizeOptions& options) {
     const QSize& size = options.specificSize;
@@ -25,7 +25,7 @@ std::optional<QImage> resizedToSpecificSize(const QImage& image, const ResizeOpt
     return std::nullopt;
 }
 
-// Nearly the size of the result. Its sides may exceed any integer.
+// An estimate of the result's size in floating point, as its sides may exceed any integer.
 QSizeF resizedSize(QSizeF size, const ResizeOptions& options) {
     if (options.mode == ResizeMode::None)
         return size;
@@ -48,15 +48,16 @@ QSizeF resizedSize(QSizeF size, const ResizeOptions& options) {
 ResizeMode resizeModeAfterToggle(ResizeMode toggled, bool on) {
     if (on)
         return toggled;
+    // One mode stays chosen: switching it off chooses another.
     return toggled == ResizeMode::Scale ? ResizeMode::SpecificSize : ResizeMode::Scale;
 }
 
 SpecificSizeOperation specificSizeOperation(const QSize& size) {
-    if (size.width() == kSideFollows)
-        return size.height() == kSideFollows ? SpecificSizeOperation::Nothing
-                                             : SpecificSizeOperation::ScaleToHeight;
-    return size.height() == kSideFollows ? SpecificSizeOperation::ScaleToWidth
-                                         : SpecificSizeOperation::ScaleToSize;
+    if (size.width() == sideFollows)
+        return size.height() == sideFollows ? SpecificSizeOperation::Nothing
+                                            : SpecificSizeOperation::ScaleToHeight;
+    return size.height() == sideFollows ? SpecificSizeOperation::ScaleToWidth
+                                        : SpecificSizeOperation::ScaleToSize;
 }
 
 QSize scaledSize(const QSize& size, double factor) {
@@ -77,6 +78,7 @@ QImage reducedToFit(const QImage& image, const QSize& size) {
 }
 
 std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& options) {
+    // Checked before Qt computes the size in integers.
     if (exceedsImageAllocationLimit(resizedSize(image.size(), options)))
         return QImage();
     switch (options.mode) {

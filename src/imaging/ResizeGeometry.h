@@ -12,7 +12,7 @@ enum class ResizeMode { None, SpecificSize, Scale, AspectRatio };
 // The mode that is chosen after the user switched one on or off.
 [[nodiscard]] ResizeMode resizeModeAfterToggle(ResizeMode toggled, bool on);
 
-// What a specific size asks for; -1 means that this side follows the other.
+// The operation that a specific size requests; -1 means that this side follows the other.
 enum class SpecificSizeOperation { Nothing, ScaleToHeight, ScaleToWidth, ScaleToSize };
 [[nodiscard]] SpecificSizeOperation specificSizeOperation(const QSize& size);
 
@@ -30,12 +30,12 @@ struct ResizeOptions {
 // Each side times the factor, rounded to the nearest, halves away from zero.
 [[nodiscard]] QSize scaledSize(const QSize& size, double factor);
 
-// The centred crop: full width, and the shorter side times the ratio, cut to a whole number, as height. It
-// reaches beyond the image where that is higher.
+// The centred crop: full width, and as height the shorter side times the ratio, truncated. It extends beyond
+// an image of less height.
 [[nodiscard]] QRect aspectRatioCrop(const QSize& size, double aspectRatio);
 
-// The image itself, or where it is wider or higher than the size a smooth copy that fits into it.
+// The image itself, or a smooth copy that fits into the size if the image is wider or higher.
 [[nodiscard]] QImage reducedToFit(const QImage& image, const QSize& size);
 
-// Nothing if the options ask for no operation; a null image if the new size is empty or too large.
+// Nothing if the options request no operation; a null image if the new size is empty or too large.
 [[nodiscard]] std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& options);
