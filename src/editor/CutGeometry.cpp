@@ -36,7 +36,8 @@ QRectF draggedFreely(const QRectF& rect, int part, double dx, double dy) {
     }
 }
 
-// One axis leads, and the other follows it to both sides.
+// A dragged edge changes the other axis by as much at both ends, a corner both axes by the same distance. So
+// the ratio is not kept exactly, on purpose.
 QRectF draggedSymmetrically(const QRectF& rect, int part, double dx, double dy) {
     switch (part) {
     case CutPartLeft:
@@ -61,6 +62,7 @@ QRectF draggedSymmetrically(const QRectF& rect, int part, double dx, double dy) 
 } // namespace
 
 std::array<CutRegion, 9> cutRegions(const QRectF& cutRect) {
+    // The centre covers two thirds of each side; the regions around it share the rest.
     const int centreWidth = cutTruncated(cutRect.width() / 1.5);
     const int centreHeight = cutTruncated(cutRect.height() / 1.5);
     const int sideWidth = cutTruncated((cutRect.width() - centreWidth) * 0.5);
@@ -97,10 +99,13 @@ CutRegion cutRegionAt(const QRectF& cutRect, const QTransform& imageToWidget, do
 QRectF draggedCutRect(const QRectF& cutRect, int part, QPointF delta, bool keepAspectRatio) {
     const auto drag = keepAspectRatio ? draggedSymmetrically : draggedFreely;
     const QRectF dragged = drag(cutRect, part, delta.x(), delta.y());
+    // Otherwise the rectangle would be empty or turned inside out.
     return dragged.isValid() ? dragged : cutRect;
 }
 
 QRectF alignedCutRect(const QRectF& cutRect, CutAlignment alignment, const QRect& imageRect) {
+    // QRect's right() and bottom() are a pixel short of its size, and so are the edges aligned to them, on
+    // purpose.
     QRectF aligned = cutRect;
     switch (alignment) {
     case CutAlignment::Fit:

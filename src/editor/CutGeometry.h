@@ -6,10 +6,10 @@
 
 #include <array>
 
-// The cut rectangle of the image view: its nine drag regions and what moves and resizes it. Coordinates are
-// those of the image, unless a name says otherwise.
+// The cut rectangle of the image view: its nine drag regions, and how it is moved and resized. In image
+// coordinates, unless a name contains another.
 
-// Counted row by row, but for the centre.
+// Numbered by rows from the top left corner, except for the centre, which comes first.
 enum CutPart {
     CutPartNone = 0,
     CutPartCentre = 1,
@@ -43,7 +43,8 @@ enum class CutAlignment {
     EdgeBottom
 };
 
-// What a cut moves so that the picture stays where it stood: the image by translation, the rectangle with it.
+// What keeps the picture in its position on the screen after a cut: the translation of the image in the view,
+// and the cut rectangle in coordinates of the new image.
 struct CutShift {
     QPoint translation;
     QRectF cutRect;

@@ -57,6 +57,8 @@ void EditImageDialog::setImageFile(const QString& filePath, const QString& posit
 
 void EditImageDialog::initActions() {
     EditImageWidget* view = _ui->imgWidget;
+    // Two steps, the Save key and then Ctrl+S: on purpose, as the texts show both. The view handles each of
+    // the keys by itself.
     const auto save =
         addToolBarAction(tr("&Save image [%1]"), tr("Save image [%1]"),
                          QKeySequence(QKeyCombination(Qt::Key_Save), Qt::CTRL | Qt::Key_S), u"save"_s);
@@ -96,7 +98,7 @@ QAction* EditImageDialog::addToolBarAction(const QString& text, const QString& i
     action->setText(text.arg(keyText(shortcut)));
     action->setIconText(iconText.arg(keyText(shortcut)));
     _ui->toolBar->addAction(action);
-    // A hidden tool bar has no keys.
+    // The shortcuts of a hidden tool bar do not work, so the window has the actions as well.
     addAction(action);
     return action;
 }
@@ -108,7 +110,7 @@ void EditImageDialog::initToolTips(const QKeySequence& pan, const QKeySequence& 
     const QString cutText = tr("Cut image [%1]").arg(keyText(cut));
     _ui->tBToolCut->setText(cutText);
     _ui->tBToolCut->setToolTip(cutText);
-    // Keys of the view, not shortcuts of the window.
+    // The view handles these keys; they are not shortcuts of the window.
     _ui->tBAutoFit->setToolTip(tr("Auto fit image to view. Changes zoom. [%1]").arg(keyText(Qt::Key_F)));
     _ui->tBAutoCenter->setToolTip(tr("Auto center image. Dont change zoom. [%1]").arg(keyText(Qt::Key_C)));
     _ui->tBKeepAspectRatio->setToolTip(
@@ -130,6 +132,7 @@ void EditImageDialog::initControlConnections() {
 void EditImageDialog::initViewConnections() {
     EditImageWidget* view = _ui->imgWidget;
     const auto follow = [view](auto signal, QToolButton* button) {
+        // Blocked, as the button would set the view again.
         connect(view, signal, button, [button](bool on) {
             const QSignalBlocker blocker(button);
             button->setChecked(on);
@@ -169,7 +172,7 @@ void EditImageDialog::onZoomChanged(QPointF zoom) {
     showStatus(tr("zoom level: %1").arg(zoom.x()));
 }
 
-// A long path is cut at the label's end and whole in its tool tip.
+// The label cuts off a long path; the tool tip has all of it.
 void EditImageDialog::showStatus(const QString& text) {
     _ui->labelStatus->setText(text);
     _ui->labelStatus->setToolTip(plainToolTip(text));

@@ -10,8 +10,8 @@ namespace Ui {
 class EditImageDialog;
 }
 
-// A tool window around one image view. Forwards the user's actions to the view and what touches the catalogue
-// to its owner, by signals.
+// A tool window around one image view. Forwards the user's actions to the view, and by signals to its owner
+// what concerns the catalogue.
 class EditImageDialog : public QMainWindow {
     Q_OBJECT
 

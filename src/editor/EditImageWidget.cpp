@@ -24,11 +24,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Values of the axis lock.
-constexpr int kNoAxisLock = 0;
-constexpr int kHorizontalMovesOnly = 1;
-constexpr int kVerticalMovesOnly = 2;
+constexpr int noAxisLock = 0;
+constexpr int horizontalMovesOnly = 1;
+constexpr int verticalMovesOnly = 2;
 
-constexpr QColor kCutColour(180, 180, 180, 128);
+constexpr QColor cutColour(180, 180, 180, 128);
 
 int cutKeyStep(Qt::KeyboardModifiers modifiers) {
     if (modifiers == Qt::ControlModifier)
@@ -78,7 +78,7 @@ void EditImageWidget::setImageFilePath(const QString& filePath) {
         return;
     }
     _imageFilePath = filePath;
-    // Past the pixmap cache: the file as it is now.
+    // Through a reader, as the pixmap cache may have an older state of the file.
     QImageReader reader(filePath);
     _pixmap = QPixmap::fromImageReader(&reader);
     showLoadedImage();
@@ -87,6 +87,7 @@ void EditImageWidget::setImageFilePath(const QString& filePath) {
 void EditImageWidget::showLoadedImage() {
     updateView();
     update();
+    // The steps of undo belong to the previous image.
     _pixUndoRedo.clear();
     emit undoAvailableChanged(undoAvailable());
 }
@@ -99,6 +100,7 @@ QString EditImageWidget::imageSizeText() const {
 
 void EditImageWidget::setAutoCenter(bool on) {
     _autoCenter = on;
+    // Emitted without a change, too: the receivers centre the image again.
     emit autoCenterChanged(on);
 }
 
@@ -123,8 +125,9 @@ void EditImageWidget::resetZoom() {
     update();
 }
 
+// Runs when auto fit is switched off as well, which fits the image once more.
 void EditImageWidget::fitImage() {
-    // Without an image there is nothing to fit; the next one sets the view anew.
+    // Without an image there is nothing to fit; loading the next one updates the view.
     if (_pixmap.isNull())
         return;
     const double zoom = fittingZoom(size(), _pixmap.size());
@@ -157,6 +160,7 @@ void EditImageWidget::resizeEvent(QResizeEvent* event) {
 
 void EditImageWidget::wheelEvent(QWheelEvent* event) {
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        // Stays accepted: the base class would pass the event on to the parent.
         emit requestImage(wheelDegrees(event->angleDelta()).y() < 0);
         return;
     }
@@ -171,7 +175,7 @@ void EditImageWidget::wheelEvent(QWheelEvent* event) {
 void EditImageWidget::applyZoom(QPoint globalPos) {
     const double zoom = clampedViewZoom(_zoom.x());
     _zoom = {zoom, zoom};
-    // A cursor at the very origin stands for a position that is not known.
+    // A cursor at the origin of the screen counts as an unknown position.
     const QPoint position = globalPos.isNull() ? QPoint() : mapFromGlobal(globalPos);
     _transform = zoomedAround(_transform, position, zoom);
     update();
@@ -182,19 +186,20 @@ void EditImageWidget::paintEvent(QPaintEvent*) {
         return;
     QPainter painter(this);
     painter.setTransform(_transform);
-    // The whole pixmap, whatever is exposed: the painter clips it, and a part alone would be sampled at other
-    // pixels, so that the picture would jitter while it moves.
+    // The whole pixmap, whatever part is exposed. A part alone would be scaled from other sample points, and
+    // the picture would jitter while it moves; the painter clips anyway.
     painter.drawPixmap(_pixmap.rect(), _pixmap);
     if (_tool == ToolCut)
         paintCutRect(painter);
 }
 
 void EditImageWidget::paintCutRect(QPainter& painter) const {
+    // The painter is scaled, and the outline is to have its width on the screen.
     const double width = _cutOutlineWidth / _zoom.x();
-    painter.setPen(QPen(QBrush(kCutColour), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(QPen(QBrush(cutColour), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     painter.drawRects(&_cutRect, 1);
     if (_cutPartRect.isValid()) {
-        painter.setBrush(kCutColour);
+        painter.setBrush(cutColour);
         painter.drawRects(&_cutPartRect, 1);
     }
 }
@@ -213,14 +218,14 @@ void EditImageWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void EditImageWidget::mouseMoveEvent(QMouseEvent* event) {
-    // A view of no width fits its image at zoom 0, where no distance has a length in the image.
+    // A view without width fits its image at zoom 0, by which a distance cannot be divided.
     const double zoom = _zoom.x();
     const QPointF moved = zoom > 0.0 ? (event->position() - _lastMousePos) / zoom : QPointF();
     const QPointF delta = lockedToAxis(moved);
     if (_tool == ToolCut && _cutPart != CutPartNone && event->buttons().testFlag(Qt::LeftButton)) {
         _cutPartRect = {};
         _cutRect = draggedCutRect(_cutRect, _cutPart, delta, _aspectRatioKeep);
-    } else if (!hasMouseTracking()) {
+    } else if (!hasMouseTracking()) { // without tracking, a move means that a button is pressed
         _transform.translate(delta.x(), delta.y());
     }
     update();
@@ -242,21 +247,22 @@ void EditImageWidget::mouseReleaseEvent(QMouseEvent* event) {
 void EditImageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (_tool == ToolCut && event->buttons().testFlag(Qt::LeftButton))
         applyCut();
-    // It is a press as well, from which a drag may start.
+    // A double click replaces the second press, from which a drag may start.
     mousePressEvent(event);
 }
 
 QPointF EditImageWidget::lockedToAxis(QPointF delta) const {
-    if (_axisLock == kHorizontalMovesOnly)
+    if (_axisLock == horizontalMovesOnly)
         return {delta.x(), 0.0};
-    return _axisLock == kVerticalMovesOnly ? QPointF(0.0, delta.y()) : delta;
+    return _axisLock == verticalMovesOnly ? QPointF(0.0, delta.y()) : delta;
 }
 
 void EditImageWidget::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() == Qt::ShiftModifier)
-        _axisLock = kHorizontalMovesOnly;
+        _axisLock = horizontalMovesOnly;
     else if (event->modifiers() == Qt::ControlModifier)
-        _axisLock = kVerticalMovesOnly;
+        _axisLock = verticalMovesOnly;
+    // Keys act on release, when the user may have released the modifiers already.
     _pressedModifiers.insert(event->key(), event->modifiers());
     update();
     if (isSaveKey(event))
@@ -269,6 +275,7 @@ bool EditImageWidget::event(QEvent* event) {
         const auto* keys = static_cast<QKeyEvent*>(event);
         const bool isUndo = keys->key() == Qt::Key_Z && keys->modifiers().testFlag(Qt::ControlModifier);
         if (isUndo || (isSaveKey(keys) && !_imageFilePath.isEmpty())) {
+            // An accepted override arrives as a key press here instead of triggering a shortcut.
             event->accept();
             return true;
         }
@@ -277,9 +284,10 @@ bool EditImageWidget::event(QEvent* event) {
 }
 
 void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
-    _axisLock = kNoAxisLock;
+    _axisLock = noAxisLock;
     const Qt::KeyboardModifiers modifiers = releasedModifiers(event);
     handleViewKey(event->key(), modifiers);
+    // Reported after any key, whether it moved the rectangle or not.
     if (_tool == ToolCut) {
         handleCutKey(event->key(), modifiers);
         emit cutSizeChanged(_cutRect);
@@ -288,7 +296,7 @@ void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
     QWidget::keyReleaseEvent(event);
 }
 
-// Of Ctrl+Z, the user may let Ctrl go first.
+// On Ctrl+Z the user may release Ctrl before Z.
 Qt::KeyboardModifiers EditImageWidget::releasedModifiers(const QKeyEvent* event) {
     const Qt::KeyboardModifiers pressed = _pressedModifiers.take(event->key());
     return event->modifiers() == Qt::NoModifier ? pressed : event->modifiers();
@@ -382,6 +390,7 @@ void EditImageWidget::applyCut() {
 void EditImageWidget::undoLastAction() {
     qDebug() << "EditImageWidget::undoLastAction" << _pixUndoRedo;
     if (undoAvailable()) {
+        // The view and the cut rectangle stay as the cut has moved them.
         _pixmap = _pixUndoRedo.takeLast();
         update();
     }
@@ -391,6 +400,7 @@ void EditImageWidget::undoLastAction() {
 // --- save ----------------------------------------------------------------------------------------
 
 void EditImageWidget::saveImage() {
+    // The picture differs from the file, for instance by a preview of effects.
     if (!_noSaveReason.isEmpty()) {
         emit message(_noSaveReason);
         return;

@@ -11,8 +11,8 @@
 
 class QMenu;
 
-// Shows one image under pan and zoom, cuts it, and saves it. Knows no catalogue: it asks for the next or the
-// previous image by a signal.
+// Shows one image under pan and zoom, cuts it, and saves it. It has no access to the catalogue: the next or
+// the previous image is requested by a signal.
 class EditImageWidget : public QWidget {
     Q_OBJECT
 
@@ -22,8 +22,7 @@ public:
 
     explicit EditImageWidget(QWidget* parent = nullptr);
 
-    // With a reason not to save, the picture is none that belongs into the file: a plain save only reports
-    // it.
+    // A reason not to save marks a picture that must not replace the file: saveImage() then only reports it.
     void setImage(const QImage& image, const QString& filePath, const QString& noSaveReason = {});
     void setImageFilePath(const QString& filePath);
     [[nodiscard]] QString imageFilePath() const { return _imageFilePath; }
@@ -48,7 +47,7 @@ public:
     void undoLastAction();
 
     void saveImage();
-    // Asks for a name; the image still belongs to its first file afterwards.
+    // The user chooses a name; the image still belongs to its first file afterwards.
     void saveImageAs();
 
 public slots:
@@ -71,7 +70,7 @@ signals:
     void undoAvailableChanged(bool undoAvailable);
 
 protected:
-    // Keys that save or undo here are no shortcuts of the window then.
+    // Reserves the keys that save or undo here before they trigger shortcuts of the window.
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -110,7 +109,7 @@ private:
     QPointF _zoom{1.0, 1.0};
     QPointF _lastMousePos;
     int _axisLock = 0;
-    // By key, as the press of it had them.
+    // The modifiers at the press of each key, until its release.
     QHash<int, Qt::KeyboardModifiers> _pressedModifiers;
     Tool _tool = ToolNone;
     int _cutPart = 0;

@@ -23,6 +23,7 @@ void EditImageWidget::addViewEntries(QMenu* menu) {
         action->setChecked(checked);
         connect(action, &QAction::triggered, this, [this, toggle] {
             toggle();
+            // Reports the zoom of auto fit, too, which the toggle does not.
             updateView();
         });
     };

@@ -38,7 +38,7 @@ QString MainWindow::fileIndexText(const QString& filePath) const {
     return QStringLiteral("[%1 - %2]").arg(row < 0 ? -1 : row + 1).arg(_itemModel->rowCount());
 }
 
-// The path so many rows on, around both ends; empty for a path without a row.
+// The path of the row that many steps away, wrapping around; empty for a path without a row.
 QString MainWindow::steppedFilePath(const QString& filePath, int step) const {
     const int row = _itemModel->rowOf(filePath);
     const int count = _itemModel->rowCount();
@@ -96,6 +96,7 @@ void MainWindow::onEditImgNewlySavedFile(const QString& fileName) {
         onShowMessage(tr("Saved image as file: %1, file overwritten.").arg(fileName));
         return;
     }
+    // Compared as text, as the keys of the catalogue are.
     if (QFileInfo(fileName).path() != ui->lEWorkingPath->text()) {
         onShowMessage(
             tr("Saved image as file: %1, outside of working directory, not adding to list.").arg(fileName));
@@ -113,7 +114,7 @@ void MainWindow::reloadFile(const QString& filePath) {
 
 void MainWindow::onRequestDeleteImage(const QString& filePath) {
     qDebug() << "MainWindow::onRequestDeleteImage";
-    // The question runs an event loop in which the window may be closed.
+    // The editor window may be closed while the question runs its event loop.
     const QPointer<EditImageDialog> dialog = qobject_cast<EditImageDialog*>(sender());
     const auto answer =
         askUser(nullptr, tr("Delete file?"), tr("Do you want to delete %1 file?").arg(filePath),
@@ -124,6 +125,7 @@ void MainWindow::onRequestDeleteImage(const QString& filePath) {
         qDebug() << "Error, sender not EditImageDialog";
         return;
     }
+    // While the file still has a row; the directory watcher removes it later.
     const QString next = steppedFilePath(filePath, 1);
     if (const std::optional<QString> error = moveToTrash(filePath)) {
         qDebug() << "Error, unable to move file to trash:" << filePath << *error;

@@ -5,12 +5,12 @@
 
 namespace {
 
-constexpr double kDegreesPerAngleUnit = 0.125;
-constexpr double kDegreesPerNotch = 15.0;
-constexpr double kZoomStep = 1.0 / 16;
-constexpr double kFineZoomStep = 1.0 / 32;
+constexpr double degreesPerAngleUnit = 0.125;
+constexpr double degreesPerNotch = 15.0;
+constexpr double zoomStep = 1.0 / 16;
+constexpr double fineZoomStep = 1.0 / 32;
 
-// Half goes away from zero.
+// Halves are rounded away from zero.
 QPoint viewRounded(QPoint point, double factor) {
     return {static_cast<int>(std::round(point.x() * factor)),
             static_cast<int>(std::round(point.y() * factor))};
@@ -19,21 +19,22 @@ QPoint viewRounded(QPoint point, double factor) {
 } // namespace
 
 double clampedViewZoom(double zoom) {
-    return std::clamp(zoom, kMinimumViewZoom, kMaximumViewZoom);
+    return std::clamp(zoom, minimumViewZoom, maximumViewZoom);
 }
 
 QPoint wheelDegrees(QPoint angleDelta) {
-    return viewRounded(angleDelta, kDegreesPerAngleUnit);
+    return viewRounded(angleDelta, degreesPerAngleUnit);
 }
 
 double wheelZoomChange(QPoint angleDelta, QPoint pixelDelta, bool fineStep) {
-    const double step = fineStep ? kFineZoomStep : kZoomStep;
+    const double step = fineStep ? fineZoomStep : zoomStep;
     if (!pixelDelta.isNull())
         return pixelDelta.y() < 1 ? -step : step;
+    // Anything but a turn up by at least half a notch zooms out.
     const QPoint degrees = wheelDegrees(angleDelta);
     if (degrees.isNull())
         return 0.0;
-    return std::round(degrees.y() / kDegreesPerNotch) > 0 ? step : -step;
+    return std::round(degrees.y() / degreesPerNotch) > 0 ? step : -step;
 }
 
 double fittingZoom(QSize view, QSize image) {
@@ -47,6 +48,7 @@ QPoint centredOffset(QSize view, QSize image, double zoom) {
 }
 
 QTransform withScale(const QTransform& transform, double zoom) {
+    // QTransform has no setter for a single element.
     QTransform scaled = transform;
     scaled.setMatrix(zoom, transform.m12(), transform.m13(), transform.m21(), zoom, transform.m23(),
                      transform.m31(), transform.m32(), transform.m33());

@@ -4,18 +4,18 @@
 #include <QSize>
 #include <QTransform>
 
-// Zoom and place of an image in a view. The transforms map image to view coordinates.
+// Zoom and position of an image in a view. The transforms map image to view coordinates.
 
-// Bounds of what the wheel can reach; fitting an image to its view may go beyond.
-inline constexpr double kMinimumViewZoom = 0.1;
-inline constexpr double kMaximumViewZoom = 5.0;
+// Bounds of the zoom by wheel; fitting an image to its view may exceed them.
+inline constexpr double minimumViewZoom = 0.1;
+inline constexpr double maximumViewZoom = 5.0;
 
 [[nodiscard]] double clampedViewZoom(double zoom);
 
 // A wheel turn in degrees, from eighths of a degree.
 [[nodiscard]] QPoint wheelDegrees(QPoint angleDelta);
 
-// What a wheel event adds to the zoom; a pixel delta comes before an angle delta.
+// What a wheel event adds to the zoom; a pixel delta takes precedence over an angle delta.
 [[nodiscard]] double wheelZoomChange(QPoint angleDelta, QPoint pixelDelta, bool fineStep);
 
 // The largest zoom at which the whole image is in view. The image must not be empty.
