@@ -9,30 +9,30 @@
 
 namespace {
 
-// Fast, but no faster than most clips are decoded: a back end whose renderer waits for frames drops some of a
-// variable rate.
-constexpr double kRunRate = 10.0;
-constexpr qint64 kStretchBytes = 64 * 1024 * 1024;
-constexpr qint64 kBytesPerPixel = 2;
-// Stretches that are kept beside each other.
-constexpr qsizetype kStretches = 3;
-constexpr qsizetype kLongestStretch = 24;
-// A run that meets too little begins again at this many times the distance before.
-constexpr qint64 kMarginGrowth = 4;
-// Behind a seek some containers give no times yet, and what is told of the first pictures is a guess.
-constexpr int kGuessedFrames = 20;
+// Faster than playback, but within what a decoder manages for most clips: once decoding lags behind, the back
+// end drops frames of a clip with a variable frame rate.
+constexpr double runPlaybackRate = 10.0;
+constexpr qint64 stretchBytes = 64 * 1024 * 1024;
+constexpr qint64 stretchBytesPerPixel = 2;
+// How many stretches of frames stay in memory.
+constexpr qsizetype keptStretches = 3;
+constexpr qsizetype longestStretch = 24;
+// A run whose first frame lies behind its target is repeated with this many times the margin before it.
+constexpr qint64 marginGrowth = 4;
+// After a seek in some containers the decoder guesses the times of the first frames; a run ignores that many.
+constexpr int guessedFrames = 20;
 
-// How many pictures of this size a run collects.
+// How many frames of this size a run collects.
 qsizetype stretchLength(const QSize& size) {
-    const qint64 bytes = std::max<qint64>(1, qint64(size.width()) * size.height() * kBytesPerPixel);
-    return std::clamp<qsizetype>(kStretchBytes / bytes, 4, kLongestStretch);
+    const qint64 bytes = std::max<qint64>(1, qint64(size.width()) * size.height() * stretchBytesPerPixel);
+    return std::clamp<qsizetype>(stretchBytes / bytes, 4, longestStretch);
 }
 
-// From picture to picture, in milliseconds.
+// From frame to frame, in milliseconds.
 qint64 meanDistance(const QList<QVideoFrame>& frames) {
-    constexpr qint64 kUsual = 40;
+    constexpr qint64 usualMs = 40;
     if (frames.size() < 2)
-        return kUsual;
+        return usualMs;
     return (frames.last().startTime() - frames.first().startTime()) / 1000 / (frames.size() - 1) + 1;
 }
 
@@ -73,7 +73,7 @@ void FrameStepper::step(qint64 startTime, bool forward) {
     _steps += forward ? 1 : -1;
     if (!isUnderWay)
         walk();
-    else if (_steps == 0)
+    else if (_steps == 0) // forward and backward steps have cancelled each other out
         cancel();
 }
 
@@ -89,6 +89,7 @@ void FrameStepper::walk() {
         _time = reached.startTime();
         _steps -= forward ? 1 : -1;
     }
+    // Whatever is left of the steps needs frames that are not kept, unless the clip ends here.
     const bool isAtEnd = _steps != 0 && isEdge(forward);
     if (isAtEnd)
         _steps = 0;
@@ -96,14 +97,14 @@ void FrameStepper::walk() {
         startRun(forward);
     else if (_steps == 0 && !_player && reached.isValid())
         lookAhead();
-    // Last, as the receivers may step again.
+    // Emitted last, as a receiver may call step().
     if (reached.isValid())
         emit stepped(reached);
     if (isAtEnd)
         emit endReached(forward);
 }
 
-// Whether the clip holds nothing beyond the current picture.
+// Whether the clip has no frame beyond the current one.
 bool FrameStepper::isEdge(bool forward) const {
     if (forward)
         return _holdsLast && (_frames.isEmpty() || _time >= _frames.last().startTime());
@@ -113,14 +114,16 @@ bool FrameStepper::isEdge(bool forward) const {
 void FrameStepper::lookAhead() {
     const auto here = std::ranges::lower_bound(_frames, _time, {}, &QVideoFrame::startTime);
     const auto left = _goesForward ? _frames.end() - here : here - _frames.begin();
+    // Half a stretch is left: the next run starts before a step needs it.
     if (!(_goesForward ? _holdsLast : _holdsFirst) && left < stretchLength(_frames.first().size()) / 2)
         startRun(_goesForward);
 }
 
-// The place of the picture after or before a time, -1 if it is not among those that are kept.
+// The index of the kept frame after or before a time; -1 if that frame is not kept.
 qsizetype FrameStepper::neighbourOf(qint64 time, bool forward) const {
     if (_frames.isEmpty() || time < _frames.first().startTime())
         return -1;
+    // The time lies beyond the end of the clip: a step back leads to its last frame.
     if (time > _frames.last().startTime())
         return !forward && _holdsLast ? _frames.size() - 1 : -1;
     if (!forward)
@@ -129,8 +132,8 @@ qsizetype FrameStepper::neighbourOf(qint64 time, bool forward) const {
     return after == _frames.end() ? -1 : after - _frames.begin();
 }
 
-// Runs over what lies beyond the kept pictures, from one that is among them, so that none is missing between.
-// Each run has a player of its own: one that is used again may deliver frames of the run before.
+// Plays the part of the clip beyond the kept frames, from one of them on, so that no frame between is
+// missing. Each run has a player of its own, as a reused one may deliver frames of the previous run.
 void FrameStepper::startRun(bool forward, qint64 marginMs) {
     endRun();
     const bool isKept =
@@ -138,7 +141,8 @@ void FrameStepper::startRun(bool forward, qint64 marginMs) {
     qint64 target = _time;
     if (isKept)
         target = (forward ? _frames.last() : _frames.first()).startTime();
-    const qsizetype leading = kGuessedFrames + 5 + (forward ? 0 : kLongestStretch);
+    // Backward, the frames before the target are the ones that are wanted.
+    const qsizetype leading = guessedFrames + 5 + (forward ? 0 : longestStretch);
     _marginMs = marginMs > 0 ? marginMs : leading * meanDistance(_frames);
     _positionMs = std::max<qint64>(0, target / 1000 - _marginMs);
     ++_runNumber;
@@ -146,12 +150,12 @@ void FrameStepper::startRun(bool forward, qint64 marginMs) {
             .target = target,
             .forward = forward,
             .isComplete = false,
-            .guessed = _positionMs > 0 ? kGuessedFrames : 0};
+            .guessed = _positionMs > 0 ? guessedFrames : 0};
     _player = std::make_unique<QMediaPlayer>();
     _sink = std::make_unique<QVideoSink>();
     _player->setVideoSink(_sink.get());
-    _player->setPlaybackRate(kRunRate);
-    // On the thread that delivers, as a queue to this one would grow without bounds.
+    _player->setPlaybackRate(runPlaybackRate);
+    // Called on the thread of the back end: queued to this one, decoded frames would pile up without bounds.
     connect(_sink.get(), &QVideoSink::videoFrameChanged, this, &FrameStepper::collect, Qt::DirectConnection);
     // Queued, as the end of a run deletes the player.
     connect(_player.get(), &QMediaPlayer::mediaStatusChanged, this, &FrameStepper::onMediaStatusChanged,
@@ -160,6 +164,7 @@ void FrameStepper::startRun(bool forward, qint64 marginMs) {
 }
 
 void FrameStepper::onMediaStatusChanged() {
+    // A queued signal may come from the player of an earlier run.
     if (!_player || sender() != _player.get())
         return;
     const QMediaPlayer::MediaStatus status = _player->mediaStatus();
@@ -178,6 +183,7 @@ void FrameStepper::collect(const QVideoFrame& frame) {
     if (!frame.isValid() || _run.isComplete || _run.guessed-- > 0)
         return;
     const qsizetype length = stretchLength(frame.size());
+    // A forward run keeps the target and what follows, a backward one the last frames up to its target.
     if (_run.forward && time <= _run.target)
         _run.frames.clear();
     else if (!_run.forward && _run.frames.size() > length)
@@ -186,6 +192,7 @@ void FrameStepper::collect(const QVideoFrame& frame) {
     _run.isComplete = _run.forward ? _run.frames.size() > length : time >= _run.target;
     if (!_run.isComplete)
         return;
+    // The number rejects a call that is delivered after a later run has started.
     const auto finish = [this, number = _runNumber] {
         if (_player && number == _runNumber)
             finishRun(false);
@@ -197,30 +204,32 @@ void FrameStepper::finishRun(bool isEndOfMedia) {
     endRun();
     const QList<QVideoFrame> frames = std::exchange(_run.frames, {});
     const bool forward = _run.forward;
-    // A seek may lead behind the place that was asked for.
+    // A seek may land behind the requested position.
     const bool isMissed = frames.isEmpty() || (forward ? frames.first().startTime() > _run.target
                                                        : frames.first().startTime() >= _run.target);
     if (isMissed && _positionMs > 0) {
-        startRun(forward, kMarginGrowth * _marginMs);
+        startRun(forward, marginGrowth * _marginMs);
         return;
     }
+    // Played from its start, the clip has no frame up to the target.
     if (isMissed && forward) {
         if (std::exchange(_steps, 0) != 0)
             emit endReached(true);
         return;
     }
-    takeOver(frames);
+    mergeFrames(frames);
     _holdsFirst |= isMissed;
     _holdsLast |= isEndOfMedia && !_run.isComplete;
     walk();
 }
 
-// Joins the pictures of a run to those that are there, if no picture lies between.
-void FrameStepper::takeOver(const QList<QVideoFrame>& frames) {
-    const bool meets = !frames.isEmpty() && !_frames.isEmpty() &&
-                       frames.first().startTime() <= _frames.last().startTime() &&
-                       frames.last().startTime() >= _frames.first().startTime();
-    if (!meets) {
+// Adds the frames of a run to the kept ones where both overlap. Otherwise a frame between them could be
+// missing, and only those of the run are kept.
+void FrameStepper::mergeFrames(const QList<QVideoFrame>& frames) {
+    const bool overlaps = !frames.isEmpty() && !_frames.isEmpty() &&
+                          frames.first().startTime() <= _frames.last().startTime() &&
+                          frames.last().startTime() >= _frames.first().startTime();
+    if (!overlaps) {
         _frames.clear();
         _holdsFirst = _holdsLast = false;
     }
@@ -229,7 +238,8 @@ void FrameStepper::takeOver(const QList<QVideoFrame>& frames) {
     const auto repeated = std::ranges::unique(_frames, {}, &QVideoFrame::startTime);
     _frames.erase(repeated.begin(), repeated.end());
 
-    const qsizetype most = _frames.isEmpty() ? 0 : kStretches * stretchLength(_frames.first().size());
+    // Beyond the budget, the frames on the far side of the direction of the run are dropped.
+    const qsizetype most = _frames.isEmpty() ? 0 : keptStretches * stretchLength(_frames.first().size());
     while (_frames.size() > most) {
         const bool dropsFirst = _run.forward;
         (dropsFirst ? _holdsFirst : _holdsLast) = false;

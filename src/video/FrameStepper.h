@@ -12,10 +12,10 @@
 class QMediaPlayer;
 class QVideoSink;
 
-// Finds the pictures before and after a picture of a clip. Frame times are not known beforehand and a seek is
-// only as exact as the container, so a player without output runs over a short stretch of the clip, as fast
-// as it decodes, and the pictures of the stretch are kept. Steps inside it cost nothing in either direction.
-// Times are microseconds, as frames carry them.
+// Finds the frames before and after a frame of a clip. Their times are not known beforehand and a seek is
+// only as exact as the container, so a player without output plays a short stretch of the clip, as fast as it
+// decodes, and the frames of the stretch are kept. Steps inside it need no decoding in either direction.
+// Times are microseconds, as in QVideoFrame.
 class FrameStepper : public QObject {
     Q_OBJECT
 
@@ -23,17 +23,17 @@ public:
     explicit FrameStepper(QObject* parent = nullptr);
     ~FrameStepper() override;
 
-    // Drops the pictures of the clip before.
+    // Drops the frames of the previous clip.
     void setSource(const QUrl& url);
-    // One step from the frame that starts at the given time. While an earlier step is under way, the new one
-    // starts where that leads.
+    // One step from the frame that starts at the given time. While an earlier step is running, the new one
+    // starts from its result.
     void step(qint64 startTime, bool forward);
-    // Drops steps that are under way.
+    // Drops the steps that are not finished.
     void cancel();
 
 signals:
     void stepped(QVideoFrame frame);
-    // There is no picture in that direction.
+    // The clip has no frame in that direction.
     void endReached(bool forward);
 
 private:
@@ -41,21 +41,21 @@ private:
     [[nodiscard]] qsizetype neighbourOf(qint64 time, bool forward) const;
     [[nodiscard]] bool isEdge(bool forward) const;
     void lookAhead();
-    // Without a margin, with the usual one.
+    // How far before its target the run starts; 0 for the usual margin.
     void startRun(bool forward, qint64 marginMs = 0);
     void onMediaStatusChanged();
     void collect(const QVideoFrame& frame);
     void finishRun(bool isEndOfMedia);
-    void takeOver(const QList<QVideoFrame>& frames);
+    void mergeFrames(const QList<QVideoFrame>& frames);
     void endRun();
 
     QUrl _source;
-    // Pictures in order of time, with none missing between the first and the last.
+    // In order of time, with no frame missing between the first and the last.
     QList<QVideoFrame> _frames;
     bool _holdsFirst = false;
     bool _holdsLast = false;
     qint64 _time = 0;
-    // Steps still to go; negative ones go back.
+    // Steps left to make; negative ones are backward.
     int _steps = 0;
     bool _goesForward = true;
 
@@ -65,13 +65,13 @@ private:
     qint64 _positionMs = 0;
     qint64 _marginMs = 0;
 
-    // What the run under way has collected, on a thread of the media back end.
+    // What the current run has collected, on a thread of the media back end.
     struct Run {
         QList<QVideoFrame> frames;
         qint64 target = 0;
         bool forward = true;
         bool isComplete = false;
-        // Pictures still to be passed over.
+        // Frames left to ignore.
         int guessed = 0;
     };
     QMutex _mutex;

@@ -41,6 +41,7 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
         if (window)
             window->showStatus(text);
     };
+    // Each outcome is reported in the window that grabbed, too, which may cover the main window.
     const QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
         qDebug() << "Path is empty...";

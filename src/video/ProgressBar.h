@@ -2,7 +2,7 @@
 
 #include <QProgressBar>
 
-// A progress bar that takes its value from where it is clicked or dragged; its range starts at 0.
+// A progress bar whose value follows clicks and drags; its range starts at 0.
 class ProgressBar : public QProgressBar {
     Q_OBJECT
 
@@ -10,6 +10,7 @@ public:
     using QProgressBar::QProgressBar;
 
 signals:
+    // Never emitted; valueChanged() reports clicks and drags.
     void clicked(int value);
 
 protected:

@@ -11,20 +11,20 @@
 
 namespace {
 
-constexpr std::chrono::seconds kFramePatience{2};
+constexpr std::chrono::seconds firstFrameTimeout{2};
 
 } // namespace
 
 VideoPreviewWidget::VideoPreviewWidget(QWidget* parent)
     : QWidget(parent), _ui(std::make_unique<Ui::VideoPreviewWidget>()) {
     _ui->setupUi(this);
-    _framePatience.setSingleShot(true);
-    _framePatience.setInterval(kFramePatience);
-    connect(&_framePatience, &QTimer::timeout, this, [this] { _mediaPlayer->stop(); });
+    _firstFrameTimer.setSingleShot(true);
+    _firstFrameTimer.setInterval(firstFrameTimeout);
+    connect(&_firstFrameTimer, &QTimer::timeout, this, [this] { _mediaPlayer->stop(); });
 }
 
 VideoPreviewWidget::~VideoPreviewWidget() {
-    // The player outlives the form, and its last signals would reach widgets that are gone.
+    // The form is destroyed before the player, whose last signals would reach deleted widgets.
     if (_mediaPlayer)
         _mediaPlayer->disconnect(this);
 }
@@ -36,6 +36,7 @@ void VideoPreviewWidget::initPlayer() {
     _mediaPlayer->setVideoOutput(_ui->videoWidget);
     auto* audioOutput = new QAudioOutput(this);
     _mediaPlayer->setAudioOutput(audioOutput);
+    // Set twice, before and after the audio output; kept on purpose, though it is the same output.
     _mediaPlayer->setVideoOutput(_ui->videoWidget);
     audioOutput->setVolume(0.0F);
     connect(_mediaPlayer, &QMediaPlayer::sourceChanged, this, &VideoPreviewWidget::sourceChanged);
@@ -50,22 +51,22 @@ void VideoPreviewWidget::initPlayer() {
     connect(_ui->videoWidget->videoSink(), &QVideoSink::videoFrameChanged, this, [this] {
         if (_ui->videoWidget->videoSink()->videoFrame().isValid()) {
             _hasFrame = true;
-            _framePatience.stop();
+            _firstFrameTimer.stop();
         }
     });
 }
 
-// A clip that gives errors and no frame would be read from its start again and again.
+// The endless loop would read a clip that yields errors and no frame from its start again and again.
 void VideoPreviewWidget::onError() {
-    if (!_hasFrame && !_framePatience.isActive())
-        _framePatience.start();
+    if (!_hasFrame && !_firstFrameTimer.isActive())
+        _firstFrameTimer.start();
 }
 
 void VideoPreviewWidget::start(const QString& path) {
     _videoPath = path;
     initPlayer();
     _mediaPlayer->setSource(mediaUrl(path));
-    _framePatience.stop();
+    _firstFrameTimer.stop();
     _hasFrame = false;
     _mediaPlayer->setLoops(QMediaPlayer::Infinite);
     _mediaPlayer->play();
@@ -75,6 +76,7 @@ void VideoPreviewWidget::stop(const QString& path) {
     if (!_mediaPlayer || QString::compare(path, _videoPath, Qt::CaseInsensitive) != 0)
         return;
     _mediaPlayer->stop();
+    // A stopped player keeps its file open.
     _mediaPlayer->setSource(QUrl());
 }
 
@@ -86,6 +88,7 @@ void VideoPreviewWidget::positionChanged(qlonglong position) {
     _ui->progressBar->setValue(static_cast<int>(position));
 }
 
+// The preview has no use for these signals; the slots are part of its interface.
 void VideoPreviewWidget::sourceChanged(QUrl) {}
 void VideoPreviewWidget::seekableChanged(bool) {}
 void VideoPreviewWidget::playbackRateChanged(double) {}

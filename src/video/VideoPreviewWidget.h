@@ -22,7 +22,7 @@ public:
 
     // An empty path ends what plays.
     void start(const QString& path);
-    // Lets go of the file, if it is the one that was started last.
+    // Closes the file if it is the one that was started last; paths are compared in any case.
     void stop(const QString& path);
 
 public slots:
@@ -43,6 +43,6 @@ private:
     QMediaPlayer* _mediaPlayer = nullptr;
     QString _videoPath;
     bool _hasFrame = false;
-    // Runs from the first error until a frame comes.
-    QTimer _framePatience;
+    // Started by an error before the first frame; stops the player if no frame arrives in time.
+    QTimer _firstFrameTimer;
 };

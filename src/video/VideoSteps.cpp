@@ -57,6 +57,7 @@ QString neighbourFile(const QStringList& files, const QString& current, bool bac
     const auto found = std::ranges::find_if(files, isCurrent);
     if (found == files.end())
         return {};
+    // Adding count - 1 instead of -1 keeps the remainder from becoming negative.
     const qsizetype count = files.size();
     return files.at((found - files.begin() + (backward ? count - 1 : 1)) % count);
 }
@@ -65,8 +66,10 @@ SeriesStep nextSeriesStep(qint64 duration, qint64 start, qint64 count, qint64 fr
     if (duration <= 0)
         return {SeriesStep::Wait, start};
     const qint64 interval = (duration - start) / count;
+    // The start shortens the interval but does not shift the positions, which count from the start of the
+    // file.
     const qint64 next = interval * frameCounter;
-    // Without a step forward the series would seek for ever.
+    // A series that does not advance would seek forever.
     if (interval <= 0 || next > duration)
         return {SeriesStep::EndOfFile};
     return {SeriesStep::Seek, next};

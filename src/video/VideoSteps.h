@@ -12,7 +12,7 @@
 // A frame rate cut to a whole number; none for a value that is no number.
 [[nodiscard]] std::optional<double> wholeFrameRate(const QVariant& value);
 
-// One frame step: as many milliseconds as the frame rate has frames, times the modifier; 0 stands for a
+// One frame step: as many milliseconds as the frame rate has frames, times the modifier; 0 means a
 // single millisecond.
 [[nodiscard]] double frameStep(double fps, int speedModifier, bool shiftHeld);
 
@@ -27,8 +27,8 @@
 
 [[nodiscard]] int wheelSpeedFactor(Qt::KeyboardModifiers modifiers);
 
-// The entry before or after the current one, around the ends, ignoring case; empty if the current one is not
-// there.
+// The entry before or after the current one, wrapping around, compared in any case; empty if the current one
+// is not in the list.
 [[nodiscard]] QString neighbourFile(const QStringList& files, const QString& current, bool backward);
 
 // What follows a frame of an even series.

@@ -26,6 +26,7 @@ QString grabbedFrameBaseName(const QString& source, const std::optional<QString>
     if (!source.isEmpty())
         name = QFileInfo(source).completeBaseName();
     else if (openedDirectory)
+        // With the one below two underscores: the fixed form of a name taken from a directory.
         name = QFileInfo(*openedDirectory).completeBaseName() + u'_';
     return name + u'_' + time.toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s);
 }

@@ -9,8 +9,8 @@ class QDateTime;
 // The format of a position bar that shows two times and leaves the percentage to the bar.
 [[nodiscard]] QString positionFormat(qint64 position, qint64 duration);
 
-// Name without suffix of a grabbed frame's file. The source is a path or URL; without one the
-// directory of the video window lends its name, if a window is known.
+// Name without suffix of a grabbed frame's file. The source is a path or URL; if it is empty, the name of the
+// directory last opened in the video window is used, where there is one.
 [[nodiscard]] QString grabbedFrameBaseName(const QString& source,
                                            const std::optional<QString>& openedDirectory,
                                            const QDateTime& time);

@@ -34,8 +34,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Below it the frame rate is still the playback rate.
-constexpr double kLowestFrameRate = 2.0;
+// Below this value _fps is still the playback rate.
+constexpr double lowestFrameRate = 2.0;
 
 QStringList videosBeside(const QString& filePath) {
     QStringList files;
@@ -45,7 +45,7 @@ QStringList videosBeside(const QString& filePath) {
     return files;
 }
 
-// A place inside the frame, in milliseconds, as the frame before may end where it starts.
+// A position inside the frame, in milliseconds: its start time may still belong to the frame before.
 qint64 positionOfFrame(qint64 startTime) {
     return startTime / 1000 + 1;
 }
@@ -69,7 +69,7 @@ VideoWidget::VideoWidget(QWidget* parent) : QMainWindow(parent), _ui(std::make_u
 }
 
 VideoWidget::~VideoWidget() {
-    // The player outlives the form, and its last signals would reach widgets that are gone.
+    // The form is destroyed before the player, whose last signals would reach deleted widgets.
     _mediaPlayer->disconnect(this);
 }
 
@@ -91,7 +91,7 @@ void VideoWidget::initActions() {
         add(tr("&Grab frame"), tr("Grab frame"), QKeySequence(u"Ctrl+G"_s), &VideoWidget::onGrabFrame);
     _ui->tBGrabFrame->setToolTip(
         tr("Grab current frame [%1]").arg(grab->shortcut().toString(QKeySequence::PortableText)));
-    // Shortcuts, so that a button with the focus does not take the blank for itself.
+    // Shortcuts come before the focused button, which would treat the space key as a click.
     auto* toggle = new QShortcut(Qt::Key_Space, this, this, &VideoWidget::onPlayPause);
     toggle->setAutoRepeat(false);
     new QShortcut(Qt::Key_Comma, this, this, [this] { stepPicture(false); });
@@ -103,6 +103,7 @@ void VideoWidget::initPlayer() {
     auto* audioOutput = new QAudioOutput(this);
     _mediaPlayer->setAudioOutput(audioOutput);
     _mediaPlayer->setVideoOutput(_ui->videoWidget);
+    // The window is always silent.
     audioOutput->setVolume(0.0F);
     connect(_mediaPlayer, &QMediaPlayer::sourceChanged, this, &VideoWidget::sourceChanged);
     connect(_mediaPlayer, &QMediaPlayer::durationChanged, this, &VideoWidget::durationChanged);
@@ -114,6 +115,7 @@ void VideoWidget::initPlayer() {
     connect(_ui->videoWidget->videoSink(), &QVideoSink::videoFrameChanged, this, &VideoWidget::onFrameShown);
     _stepper = new FrameStepper(this);
     connect(_stepper, &FrameStepper::stepped, this, [this](const QVideoFrame& frame) {
+        // Playing then continues from the step instead of starting over.
         _endings = 0;
         showPicture(frame);
     });
@@ -164,10 +166,12 @@ void VideoWidget::openFile(const QString& path) {
     _waitingSteps = 0;
     _stepper->setSource(mediaUrl(path));
     _mediaPlayer->stop();
+    // The empty source in between makes the player load a file again that is already open.
     _mediaPlayer->setSource(QUrl());
     _mediaPlayer->setSource(mediaUrl(path));
     _mediaPlayer->pause();
     playbackStateChanged(_mediaPlayer->playbackState());
+    // Until readFrameRate() finds a frame rate.
     _fps = _mediaPlayer->playbackRate();
 }
 
@@ -198,6 +202,7 @@ void VideoWidget::onFileNextPrev() {
         qDebug() << "Open file name is empty";
         return;
     }
+    // An empty neighbour, for a file that is no longer there, closes the current one.
     const bool backward = sender() == _ui->tBFilePrev;
     openFile(neighbourFile(videosBeside(_openFileName), _openFileName, backward));
 }
@@ -209,6 +214,7 @@ void VideoWidget::onPlayPause() {
         _mediaPlayer->pause();
         return;
     }
+    // The player waits at the end, or at another position than the picture of a single step.
     if (_endings > 0)
         seek(0);
     else if (_isStepped)
@@ -225,14 +231,15 @@ void VideoWidget::durationChanged(qlonglong duration) {
     showPosition();
 }
 
+// The position of the picture is shown, which differs from the player's after a single step.
 void VideoWidget::positionChanged(qlonglong) {
     showPosition();
 }
 
 void VideoWidget::showPosition() {
     const QSignalBlocker blocker(_ui->pBMediaPosition);
-    // Some containers tell less than the length of their pictures, and the bar takes no value beyond its
-    // range.
+    // Some containers report a duration that ends before their last frame, and the bar ignores a value beyond
+    // its range.
     _ui->pBMediaPosition->setValue(qMin(static_cast<int>(position()), _ui->pBMediaPosition->maximum()));
     _ui->pBMediaPosition->setFormat(positionFormat(position(), _mediaPlayer->duration()));
 }
@@ -248,21 +255,22 @@ void VideoWidget::playbackRateChanged(double rate) {
 void VideoWidget::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
     readFrameRate();
     showStatus(tr("Status: %1").arg(mediaStatusToString(status)));
-    // The end is handled queued, as frames are on their way and the player is still ending.
+    // Queued, as last frames are still to be delivered and the player has not finished stopping.
     if (status == QMediaPlayer::InvalidMedia)
         _isSeeking = false;
     else if (status == QMediaPlayer::EndOfMedia)
         QMetaObject::invokeMethod(this, &VideoWidget::stayAtEnd, Qt::QueuedConnection);
 }
 
-// A stopped player shows nothing of what it is sent to, so it waits at the last picture, or at the start
-// where the container leads behind that again.
+// A stopped player shows no frame after a seek, so it is paused at the last frame. Where the seek to that
+// frame reaches the end once more, it is paused at the start instead, under the same picture.
 void VideoWidget::stayAtEnd() {
     if (_mediaPlayer->mediaStatus() != QMediaPlayer::EndOfMedia || !_frame.isValid() || _endings > 1)
         return;
     const int endings = _endings + 1;
     seek(endings == 1 ? positionOfFrame(_frame.startTime()) : 0);
     _mediaPlayer->pause();
+    // The picture is on the screen already, and the seek has reset the count.
     _isSeeking = false;
     _endings = endings;
     showPicture(_frame);
@@ -274,7 +282,7 @@ void VideoWidget::readFrameRate() {
         qDebug() << "VideoFrameRate not available";
         return;
     }
-    if (_fps >= kLowestFrameRate)
+    if (_fps >= lowestFrameRate)
         return;
     if (const auto fps = wholeFrameRate(metaData.value(QMediaMetaData::VideoFrameRate)))
         _fps = *fps;
@@ -318,7 +326,7 @@ void VideoWidget::showStatus(const QString& text) {
 
 // --- seeking -------------------------------------------------------------------------------------
 
-// The place that the window shows.
+// The position of the picture on the screen.
 qint64 VideoWidget::position() const {
     return _isStepped ? positionOfFrame(_frame.startTime()) : _mediaPlayer->position();
 }
@@ -371,6 +379,7 @@ void VideoWidget::wheelEvent(QWheelEvent* event) {
 
 void VideoWidget::stepPicture(bool forward) {
     _mediaPlayer->pause();
+    // The frame to step from has not arrived yet; onFrameShown() makes the step.
     if (_isSeeking)
         _waitingSteps += forward ? 1 : -1;
     else if (_frame.isValid())
@@ -383,7 +392,7 @@ void VideoWidget::onFrameShown() {
     QVideoSink* sink = _ui->videoWidget->videoSink();
     const QVideoFrame frame = sink->videoFrame();
     if (_isStepped || !frame.isValid()) {
-        // The player delivers what it was asked for before, or nothing from behind the last picture.
+        // A frame of an earlier seek, or none from beyond the last frame: the picture must stay.
         if (_frame.isValid() && frame != _frame)
             sink->setVideoFrame(_frame);
         return;

@@ -17,8 +17,7 @@ namespace Ui {
 class VideoWidget;
 }
 
-// A window for stepping through a video and taking frames from it. What becomes of a frame is its owner's
-// matter.
+// A window for stepping through a video and grabbing frames from it, which it emits for its owner to save.
 class VideoWidget : public QMainWindow {
     Q_OBJECT
 
@@ -37,7 +36,8 @@ public slots:
     void onFrameNext();
     void onFramePrev();
     void onGrabFrame();
-    // Opens the video beside the current one; which one is told by the sender, tBFilePrev or any other.
+    // Opens the previous video of the directory if the sender is tBFilePrev, the next one for any other
+    // sender.
     void onFileNextPrev();
     void onOpenVideoFile();
     void onOpenVideoUrl();
@@ -86,16 +86,16 @@ private:
     std::unique_ptr<Ui::VideoWidget> _ui;
     QMediaPlayer* _mediaPlayer = nullptr;
     FrameStepper* _stepper = nullptr;
-    // The last picture that was shown.
+    // The picture on the screen.
     QVideoFrame _frame;
-    // The picture was not put there by the player, which is at another place.
+    // The picture was set by this window; the player may be at another position.
     bool _isStepped = false;
-    // A seek has not brought its picture yet, and steps wait for it; negative ones go back.
+    // The frame of a seek has not arrived yet, and single steps wait for it; negative ones are backward.
     bool _isSeeking = false;
     int _waitingSteps = 0;
-    // How often the end was reached since the last seek or step; playing starts over then.
+    // How often the end was reached since the last seek or step; if it was, playing starts over.
     int _endings = 0;
-    // The playback rate until the media tells its frame rate.
+    // The playback rate until the media reports its frame rate.
     double _fps = -1.0;
     // Multiplies a frame step; 0 makes it a single millisecond.
     int _seekSpeedModifier = 1;

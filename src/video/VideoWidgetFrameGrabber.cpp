@@ -17,11 +17,11 @@
 
 namespace {
 
-constexpr int kFullFrameRole = Qt::UserRole;
-constexpr int kFrameSourceRole = Qt::UserRole + 1;
-constexpr QMargins kThumbnailMargins(11, 11, 11, 11);
-// The first of several files starts here, whatever the form says.
-constexpr qint64 kFirstFileStartMs = 1000;
+constexpr int fullFrameRole = Qt::UserRole;
+constexpr int frameSourceRole = Qt::UserRole + 1;
+constexpr QMargins thumbnailMargins(11, 11, 11, 11);
+// The first of several files starts here, whatever the spin box for the start shows.
+constexpr qint64 firstFileStartMs = 1000;
 
 } // namespace
 
@@ -40,7 +40,7 @@ VideoWidgetFrameGrabber::VideoWidgetFrameGrabber(QWidget* parent)
 }
 
 VideoWidgetFrameGrabber::~VideoWidgetFrameGrabber() {
-    // The player outlives the form.
+    // The form is destroyed before the player, whose last signals would reach deleted widgets.
     if (_mediaPlayer)
         _mediaPlayer->disconnect(this);
 }
@@ -48,7 +48,7 @@ VideoWidgetFrameGrabber::~VideoWidgetFrameGrabber() {
 void VideoWidgetFrameGrabber::initList() {
     QListWidget* list = _ui->listWidget;
     list->setSortingEnabled(false);
-    // First, as it sets others of these to its own taste.
+    // First, as setViewMode() overwrites several of the properties below.
     list->setViewMode(QListView::IconMode);
     list->setGridSize(QSize(240, 240));
     list->setResizeMode(QListView::Adjust);
@@ -80,7 +80,7 @@ void VideoWidgetFrameGrabber::initPlayer() {
     connect(_mediaPlayer, &QMediaPlayer::mediaStatusChanged, this,
             &VideoWidgetFrameGrabber::onMediaStatusChanged);
     connect(_mediaPlayer, &QMediaPlayer::durationChanged, this,
-            &VideoWidgetFrameGrabber::askForStartWhenLoaded);
+            &VideoWidgetFrameGrabber::seekToStartWhenLoaded);
 }
 
 void VideoWidgetFrameGrabber::onGrabFrames() {
@@ -97,19 +97,20 @@ void VideoWidgetFrameGrabber::grabFramesFromFiles(const QString& directory) {
     _videoFiles = files;
     initPlayer();
     grabFramesFromFile(_videoFiles.takeFirst());
-    startAt(kFirstFileStartMs);
+    startAt(firstFileStartMs);
 }
 
 void VideoWidgetFrameGrabber::grabFramesFromFile(QString fileName) {
     initPlayer();
     _frameCounter = 1;
     _runIsOn = false;
-    // Nothing of the run before is decoded any more, also when this is the same file.
+    // The empty source ends the decoding of the previous run, also if the same file follows.
     _mediaPlayer->setSource(QUrl());
     _mediaPlayer->setSource(mediaUrl(fileName));
     ++_run;
     _runIsOn = true;
     followFramesOfThisRun();
+    // Paused, a player decodes one frame after each seek.
     _mediaPlayer->pause();
     startAt(_ui->sBFrameStart->value());
 }
@@ -123,7 +124,8 @@ void VideoWidgetFrameGrabber::followFramesOfThisRun() {
                       });
 }
 
-// Media that is still loading forgets where it was sent.
+// The player drops a position that it gets while its media is loading, so the seek is repeated once it is
+// loaded.
 void VideoWidgetFrameGrabber::startAt(qint64 position) {
     _startPosition = position;
     _startIsPending = _mediaPlayer->duration() <= 0;
@@ -136,7 +138,7 @@ bool VideoWidgetFrameGrabber::isLoaded() const {
            status == QMediaPlayer::BufferedMedia;
 }
 
-void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
+void VideoWidgetFrameGrabber::seekToStartWhenLoaded() {
     if (!_startIsPending || !isLoaded() || _mediaPlayer->duration() <= 0)
         return;
     _startIsPending = false;
@@ -144,9 +146,9 @@ void VideoWidgetFrameGrabber::askForStartWhenLoaded() {
 }
 
 void VideoWidgetFrameGrabber::onMediaStatusChanged(QMediaPlayer::MediaStatus status) {
-    askForStartWhenLoaded();
-    // The picture ends before the duration does, or there is only sound. A last frame may have been queued
-    // before this.
+    seekToStartWhenLoaded();
+    // No frame follows: the video track ends before the duration, or the file has only sound. Queued, so that
+    // a last frame that is queued already is handled first.
     const bool isWithoutPicture = isLoaded() && !_mediaPlayer->hasVideo();
     if (!_runIsOn || (status != QMediaPlayer::EndOfMedia && !isWithoutPicture))
         return;
@@ -158,12 +160,12 @@ void VideoWidgetFrameGrabber::onMediaStatusChanged(QMediaPlayer::MediaStatus sta
 }
 
 void VideoWidgetFrameGrabber::videoFrameChanged(QVideoFrame frame) {
-    // Invalid frames come around a stop and from behind the last picture.
+    // The sink also reports invalid frames, around a stop and from beyond the last frame.
     if (!_runIsOn || !frame.isValid())
         return;
     const SeriesStep step = nextSeriesStep(_mediaPlayer->duration(), _ui->sBFrameStart->value(),
                                            _ui->sBFrameNum->value(), _frameCounter + 1);
-    // Media that is loaded and still without a duration has none: its first frame is all.
+    // Loaded media without a duration does not get one later: its first frame is the only one.
     const bool isOnlyFrame = step.kind == SeriesStep::Wait && isLoaded();
     if (step.kind == SeriesStep::Wait && !isOnlyFrame)
         return;
@@ -184,27 +186,29 @@ void VideoWidgetFrameGrabber::endOfFile() {
 // --- list ----------------------------------------------------------------------------------------
 
 void VideoWidgetFrameGrabber::addImageItem(QImage image) {
+    // The slot may be called before any run.
     initPlayer();
     QListWidget* list = _ui->listWidget;
     auto* item = new QListWidgetItem;
-    const QSize size = list->gridSize().shrunkBy(kThumbnailMargins);
+    const QSize size = list->gridSize().shrunkBy(thumbnailMargins);
     item->setData(Qt::DecorationRole,
                   centredOnCanvas(image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation), size));
-    item->setData(kFullFrameRole, image);
-    item->setData(kFrameSourceRole, _mediaPlayer->source());
+    item->setData(fullFrameRole, image);
+    item->setData(frameSourceRole, _mediaPlayer->source());
     item->setTextAlignment(Qt::AlignCenter);
     item->setText(tr("%1").arg(_mediaPlayer->position()));
     list->insertItem(list->count(), item);
 }
 
 void VideoWidgetFrameGrabber::onAddAll() {
-    // No item is without a text.
+    // Finds every item, as each has a text.
     const QString anyText(u'.');
     getItemsImage(_ui->listWidget->findItems(anyText, Qt::MatchRegularExpression));
 }
 
 void VideoWidgetFrameGrabber::onAddSelected() {
     QModelIndexList selected = _ui->listWidget->selectionModel()->selectedIndexes();
+    // In the order of the list, not of the selection.
     std::ranges::sort(selected);
     QList<QListWidgetItem*> items;
     for (const QModelIndex& index : std::as_const(selected))
@@ -214,12 +218,12 @@ void VideoWidgetFrameGrabber::onAddSelected() {
 
 void VideoWidgetFrameGrabber::getItemsImage(QList<QListWidgetItem*> items) {
     for (const QListWidgetItem* item : std::as_const(items)) {
-        const auto image = item->data(kFullFrameRole).value<QImage>();
+        const auto image = item->data(fullFrameRole).value<QImage>();
         if (image.isNull()) {
             qDebug() << "Null image:" << item->text();
             continue;
         }
-        emit addFrames({image}, mediaPath(item->data(kFrameSourceRole).toUrl()));
+        emit addFrames({image}, mediaPath(item->data(frameSourceRole).toUrl()));
     }
 }
 

@@ -19,7 +19,7 @@ class VideoWidgetFrameGrabber;
 }
 
 // Takes evenly spaced frames from one video or from many, with a player of its own, and lets the user choose
-// among them. Each frame that arrives asks for the next by a seek, so one is under way at a time.
+// among them. Each frame that arrives requests the next by a seek, so only one is pending at a time.
 class VideoWidgetFrameGrabber : public QDialog {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ public:
 
     // The video that "Grab frames" works on.
     void setSourceUrl(const QUrl& url);
-    // Asks for files, starting in a directory, and takes frames from each.
+    // Takes frames from each file that the user chooses in a dialog, which starts in the directory.
     void grabFramesFromFiles(const QString& directory);
 
 public slots:
@@ -54,7 +54,7 @@ private:
     void followFramesOfThisRun();
     void startAt(qint64 position);
     [[nodiscard]] bool isLoaded() const;
-    void askForStartWhenLoaded();
+    void seekToStartWhenLoaded();
     void onMediaStatusChanged(QMediaPlayer::MediaStatus status);
     void endOfFile();
 
@@ -66,10 +66,10 @@ private:
     QVideoSink* _videoSink = nullptr;
     QUrl _sourceUrl;
     qint64 _frameCounter = 1;
-    // A run is the work on one file. Its number tells a frame that was queued in an earlier one.
+    // A run is the work on one file. Its number identifies frames that were queued in an earlier one.
     quint64 _run = 0;
     bool _runIsOn = false;
-    // Where the run starts, as long as the media could not be asked for it.
+    // Where the run starts, and whether the player still has to seek there.
     qint64 _startPosition = 0;
     bool _startIsPending = false;
     QMetaObject::Connection _frames;

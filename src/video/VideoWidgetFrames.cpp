@@ -10,6 +10,7 @@ void VideoWidget::onGrabFrame() {
     const QImage image = _ui->videoWidget->videoSink()->videoFrame().toImage();
     if (image.isNull())
         showStatus(tr("No frame to grab."));
+    // Emitted without an image, too; the receiver logs that.
     emit imagePic(image, mediaPath(_mediaPlayer->source()));
 }
 
