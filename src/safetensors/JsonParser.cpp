@@ -16,7 +16,7 @@
 
 namespace {
 
-// Holds the usual shape at once.
+// Most arrays are shapes of tensors, with up to four dimensions.
 constexpr std::size_t firstArrayCapacity = 4;
 
 constexpr std::size_t exactIntegerDigits = 18;
@@ -33,6 +33,7 @@ constexpr auto characterClasses = [] {
     for (std::size_t byte = 0x20; byte < 0x80; ++byte)
         classes[byte] = byte == '"' || byte == '\\' ? 0 : PlainText;
     mark("\r\n \t", Space);
+    // A tab is space but does not end a value, on purpose.
     mark(std::string_view(":,}]\r\n \0", 8), Terminator);
     mark("0123456789", Digit | HexDigit);
     mark("abcdefABCDEF", HexDigit);
@@ -54,7 +55,8 @@ const char* skipDigits(const char* cursor) {
     return isOfClass(*cursor, Digit) ? skipClass(cursor, Digit) : nullptr;
 }
 
-// The end of the number at `cursor`; null where a point or an exponent has no digits.
+// The end of the number at `cursor`; null where a point or an exponent has no digits. Not quite JSON, on
+// purpose: hexadecimal numbers and leading zeros pass, a capital E and a signed exponent do not.
 const char* endOfNumber(const char* cursor) {
     if (*cursor == '-')
         ++cursor;
@@ -68,8 +70,7 @@ const char* endOfNumber(const char* cursor) {
     return cursor;
 }
 
-// The closing quote of a string, or the NUL byte that came first. `isPlain` tells that nothing needs
-// decoding.
+// The closing quote of a string, or the NUL byte before it. `isPlain` is set if nothing needs decoding.
 const char* closingQuote(const char* cursor, bool& isPlain) {
     cursor = skipClass(cursor, PlainText);
     isPlain = *cursor == '"';
@@ -85,11 +86,11 @@ const char* closingQuote(const char* cursor, bool& isPlain) {
 
 struct DecimalText {
     std::string_view mantissa;
-    std::string_view whole; // cut behind the last exponent digit that counts
+    std::string_view whole; // up to the last exponent digit that is used
     std::int64_t exponent = 0;
 };
 
-// Exponent digits count only until the exponent reaches the limit; the rest is passed over.
+// Exponent digits are used until the exponent reaches the limit; the others are ignored.
 DecimalText splitDecimalText(std::string_view text) {
     const std::size_t mark = std::min(text.find('e'), text.size());
     DecimalText decimal{text.substr(0, mark), text};
@@ -103,7 +104,7 @@ DecimalText splitDecimalText(std::string_view text) {
     return decimal;
 }
 
-// For values far from one on either side: whether they are above it.
+// Whether a value that is out of the range of doubles is too large; otherwise it is too small.
 bool isAboveOne(const DecimalText& decimal) {
     const auto position = [](std::size_t index) { return static_cast<std::int64_t>(index); };
     const std::size_t point = std::min(decimal.mantissa.find('.'), decimal.mantissa.size());
@@ -112,6 +113,7 @@ bool isAboveOne(const DecimalText& decimal) {
 }
 
 double magnitudeFromText(std::string_view text) {
+    // The fast way for short integers, as in shapes and offsets.
     std::uint64_t integer = 0;
     std::size_t length = 0;
     while (length < std::min(text.size(), exactIntegerDigits) && isOfClass(text[length], Digit))
@@ -123,14 +125,14 @@ double magnitudeFromText(std::string_view text) {
     const char* const begin = decimal.whole.data();
     double value = 0;
     const auto result = std::from_chars(begin, begin + decimal.whole.size(), value);
-    // from_chars leaves the value alone here, and does not tell the two ends of the range apart.
+    // from_chars does not set the value here, and reports overflow and underflow alike.
     if (result.ec == std::errc::result_out_of_range)
         return isAboveOne(decimal) ? std::numeric_limits<double>::infinity() : 0.0;
     return result.ec == std::errc() ? value : 0.0;
 }
 
-// The double nearest to a number that the grammar has accepted: an optional minus, digits, point and
-// exponent, any of them missing. Reading stops at the first character that belongs to no decimal number, so a
+// The double nearest to a number that endOfNumber() has accepted: minus, digits, point and exponent, any of
+// which may be missing. Reading stops at the first character that belongs to no decimal number, so a
 // hexadecimal one is zero. Infinite or zero out of range.
 double jsonNumberFromText(std::string_view text) {
     const bool isNegative = text.starts_with('-');
@@ -203,6 +205,7 @@ JsonError JsonParser::parseLiteral(std::string_view word, JsonValue value, JsonV
 }
 
 JsonError JsonParser::parseNested(JsonError (JsonParser::*parse)(JsonValue&), JsonValue& out) {
+    // Parsing is recursive; without a limit a text of brackets would exhaust the stack.
     if (_depth == jsonDepthLimit)
         return JsonError::Corrupted;
     ++_depth;
@@ -225,6 +228,7 @@ JsonError JsonParser::parseArray(JsonValue& out) {
     JsonArray items;
     ++_cursor;
     JsonError error = skipSpace();
+    // Only here may the array be empty: behind a comma a value must follow.
     bool isDone = *_cursor == ']';
     if (isDone)
         ++_cursor;
@@ -287,6 +291,7 @@ JsonError JsonParser::parseString(std::string& out) {
     const char* const opening = _cursor++;
     bool isPlain = false;
     const char* const closing = closingQuote(_cursor, isPlain);
+    // A string that is followed by anything else is rejected here, not where the next token is read.
     if (*closing == '\0' || !isOfClass(closing[1], Terminator))
         return JsonError::InvalidToken;
     if (isPlain)

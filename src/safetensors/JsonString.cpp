@@ -51,7 +51,7 @@ int hexDigitValue(unsigned char byte) {
     return letter >= 0 && letter < 6 ? letter + 10 : -1;
 }
 
-// The byte that a one-letter escape stands for; 0 for a letter that is none.
+// The byte of a one-letter escape; 0 for any other letter.
 char escapedByte(unsigned char letter) {
     constexpr std::string_view letters = "\"\\/bfnrt";
     constexpr std::string_view bytes = "\"\\/\b\f\n\r\t";

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-// Decodes one quoted JSON string to UTF-8 and says what is wrong with it if it cannot.
+// Decodes one quoted JSON string to UTF-8, and reports why it cannot be decoded.
 class JsonStringDecoder {
 public:
-    // The text starts at the opening quote; what follows the closing one is not looked at. Bytes are appended
-    // to `out`, which is not to be used after a failure.
+    // The text starts at the opening quote; what follows the closing one is ignored. Bytes are appended to
+    // `out`, whose content is unspecified after a failure.
     [[nodiscard]] bool decode(std::string_view quoted, std::string& out);
 
     // Set by a failure.

@@ -22,7 +22,7 @@ void storeSafetensorsPlace(const SafetensorsDialog* dialog) {
 
 void restoreSafetensorsPlace(SafetensorsDialog* dialog) {
     restoreWindow(dialog, keys::safetensorDialogGeometry);
-    // Nothing stored restores nothing.
+    // An empty state, before the first one is stored, changes nothing.
     dialog->restoreSplitterState(Settings::instance()->get(keys::safetensorDialogSplitterState));
 }
 
@@ -37,6 +37,7 @@ void MainWindow::onInspectSafetensor() {
         _lastOpenPathSafetensors = QCoreApplication::applicationDirPath();
     const QStringList files = QFileDialog::getOpenFileNames(
         this, tr("Open safetensors file"), _lastOpenPathSafetensors, tr("Safetensors (*.safetensors)"));
+    // The user has cancelled; the word "Error" is part of the fixed text.
     if (files.isEmpty()) {
         qDebug() << "Error, safetensor filename is empty.";
         return;

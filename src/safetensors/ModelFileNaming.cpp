@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 QString previewImagePath(const QString& modelFile, const QStringList& suffixes) {
     const QFileInfo info(modelFile);
     QString candidate = u"%1/%2"_s.arg(info.path(), info.completeBaseName());
-    // The walk goes on from what it found, so name.png.jpg goes before name.png.
+    // Each match is the base of the next try, so name.png.jpg is preferred to name.png.
     for (const QString& suffix : suffixes) {
         const QString longer = u"%1.%2"_s.arg(candidate, suffix);
         if (QFile::exists(longer))
@@ -29,6 +29,7 @@ QStringList modelFilesBeside(const QString& filePath) {
 QString steppedModelFile(const QStringList& files, const QString& current, bool isForward) {
     if (files.isEmpty())
         return {};
+    // -1 for a file that is not listed, which leads to the first or the last one.
     const qsizetype index = files.indexOf(current);
     if (isForward)
         return files.at(index + 1 < files.size() ? index + 1 : 0);

@@ -9,37 +9,39 @@
 #include <utility>
 #include <vector>
 
-// Values by key, with the keys in order of first insertion. Lookup is by byte-wise order of the keys: small
-// dictionaries are searched through, keys that came in order are halved, and only the others pay for a map.
+// Values by key, with the keys in order of first insertion. Keys are compared by their bytes. A small
+// dictionary is searched linearly, one whose keys were inserted in ascending order by bisection; any other
+// one uses a map.
 template <typename T>
 class OrderedDict {
 public:
     [[nodiscard]] std::size_t size() const { return _values.size(); }
     [[nodiscard]] const std::vector<std::string>& keys() const { return _keys; }
-    [[nodiscard]] bool count(std::string_view key) const { return placeOf(key) != size(); }
+    [[nodiscard]] bool count(std::string_view key) const { return indexOf(key) != size(); }
 
     // Null for an index that is not below the number of keys.
     [[nodiscard]] const T* at(std::size_t index) const {
         return index < _values.size() ? &_values[index] : nullptr;
     }
-    // Copies the value; false, with `out` as it was, where the other form gives null.
+    // Copies the value to `out`. Returns false and leaves `out` unchanged where the other overload returns
+    // null.
     [[nodiscard]] bool at(std::size_t index, T& out) const {
         const T* const value = at(index);
         if (value)
             out = *value;
         return value != nullptr;
     }
-    // Null for an unknown key.
-    [[nodiscard]] const T* find(std::string_view key) const { return at(placeOf(key)); }
+    // Null for a key that does not exist.
+    [[nodiscard]] const T* find(std::string_view key) const { return at(indexOf(key)); }
 
-    // A known key keeps its place and takes the new value.
+    // A key that exists keeps its index and gets the new value.
     void insert(std::string key, T value) {
-        if (const std::size_t place = placeOf(key); place != size())
-            _values[place] = std::move(value);
+        if (const std::size_t index = indexOf(key); index != size())
+            _values[index] = std::move(value);
         else
             append(std::move(key), std::move(value));
     }
-    // False, with the dictionary as it was, for a known key.
+    // Returns false and changes nothing if the key exists.
     [[nodiscard]] bool insertNew(std::string key, T value) {
         if (count(key))
             return false;
@@ -52,19 +54,19 @@ public:
     }
 
 private:
-    static constexpr std::size_t searchedThrough = 8;
+    static constexpr std::size_t linearSearchLimit = 8;
     static constexpr std::size_t firstCapacity = 4;
 
-    // The size for an unknown key.
-    [[nodiscard]] std::size_t placeOf(std::string_view key) const {
-        if (!_places.empty()) {
-            const auto found = _places.find(key);
-            return found == _places.end() ? size() : found->second;
+    // size() for a key that does not exist.
+    [[nodiscard]] std::size_t indexOf(std::string_view key) const {
+        if (!_indexByKey.empty()) {
+            const auto found = _indexByKey.find(key);
+            return found == _indexByKey.end() ? size() : found->second;
         }
         auto found = _keys.end();
-        if (size() <= searchedThrough)
+        if (size() <= linearSearchLimit)
             found = std::find(_keys.begin(), _keys.end(), key);
-        else if (key <= _keys.back())
+        else if (key <= _keys.back()) // a key inserted in order is behind the last one and needs no search
             found = std::lower_bound(_keys.begin(), _keys.end(), key);
         return found != _keys.end() && *found == key ? static_cast<std::size_t>(found - _keys.begin())
                                                      : size();
@@ -76,22 +78,23 @@ private:
             _values.reserve(firstCapacity);
         }
         _isSorted = _isSorted && (_keys.empty() || _keys.back() < key);
-        if (!_isSorted && size() >= searchedThrough)
-            enterPlaces(key);
+        // Sorted keys can be found by bisection, so the map is built at the first one out of order.
+        if (!_isSorted && size() >= linearSearchLimit)
+            addToMap(key);
         _keys.push_back(std::move(key));
         _values.push_back(std::move(value));
     }
 
-    void enterPlaces(const std::string& key) {
-        if (_places.empty()) {
-            for (std::size_t place = 0; place < size(); ++place)
-                _places.emplace(_keys[place], place);
+    void addToMap(const std::string& key) {
+        if (_indexByKey.empty()) {
+            for (std::size_t index = 0; index < size(); ++index)
+                _indexByKey.emplace(_keys[index], index);
         }
-        _places.emplace(key, size());
+        _indexByKey.emplace(key, size());
     }
 
     std::vector<std::string> _keys;
     std::vector<T> _values;
-    std::map<std::string, std::size_t, std::less<>> _places; // of unsorted keys
+    std::map<std::string, std::size_t, std::less<>> _indexByKey; // empty while the keys are sorted or few
     bool _isSorted = true;
 };

@@ -41,6 +41,7 @@ ModelHeader readModelHeader(const QString& fileName) {
 QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fileName, bool includeTensorInfo,
                                                               bool includeMetaInfo) {
     const ModelHeader header = readModelHeader(fileName);
+    // Warnings are printed as well as shown.
     if (!header.warning.empty())
         std::cout << "WARN: " << header.warning << '\n' << std::flush;
     _messages += header.messages;
@@ -54,6 +55,7 @@ QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fil
             lines.insert(QString::fromStdString(data.tensors.keys()[i]),
                          QString::fromStdString(tensorSummary(*tensor)));
     }
+    // Last, so that a metadata key replaces a tensor of the same name.
     for (std::size_t i = 0; includeMetaInfo && i < data.metadata.size(); ++i) {
         if (const std::string* const value = data.metadata.at(i))
             lines.insert(QString::fromStdString(data.metadata.keys()[i]), QString::fromStdString(*value));

@@ -9,19 +9,20 @@
 
 #include <string>
 
-// The header of one model file and what is to be said about it.
+// The header of one model file, and the messages about it.
 struct ModelHeader {
-    std::optional<SafetensorsData> data; // none for a file that cannot be read or whose offsets are wrong
+    std::optional<SafetensorsData> data; // none for a file that cannot be read or has wrong offsets
     std::string warning;
     QString messages; // warning and failure, a line each
 };
 [[nodiscard]] ModelHeader readModelHeader(const QString& fileName);
 
-// Turns one model file into the lines to show. Made for one call and dropped.
+// Converts one model file to the lines to show. An object is used for one call.
 class SafetensorInspector {
 public:
-    // Metadata by key and, for tensors, dtype and shape by name; a metadata key goes before a tensor of its
-    // name. Empty for a file that cannot be read, of which messages() then tells why.
+    // Metadata by key and, for tensors, dtype and shape by name; a metadata key replaces a tensor of the same
+    // name. Empty for a file that cannot be read; messages() then contains the reason. The spelling of the
+    // name is kept on purpose.
     [[nodiscard]] QMap<QString, QString> insepctSafetensor(const QString& fileName, bool includeTensorInfo,
                                                            bool includeMetaInfo);
 

@@ -73,6 +73,7 @@ void SafetensorsDialog::setSafetensorFile(const QString& fileName, bool includeT
     _ui->pTEOutput->appendPlainText(inspectionText(entries));
     if (!inspector.messages().isEmpty())
         _ui->pTEOutput->appendPlainText(inspector.messages());
+    // The view has followed the appended text to its end.
     _ui->pTEOutput->moveCursor(QTextCursor::Start);
     _currentFile = fileName;
     setWindowTitle(tr("File: %1").arg(QFileInfo(fileName).fileName()));
@@ -84,6 +85,7 @@ void SafetensorsDialog::showPreview(const QString& fileName) {
     if (!view)
         return;
     view->setImageFilePath(previewImagePath(fileName, _imageFormats));
+    // Each setter also centres or fits the new picture.
     view->setAutoCenter(true);
     view->setAutoFit(true);
     view->update();
@@ -113,6 +115,7 @@ void SafetensorsDialog::onOpenSafetensorFile() {
         qDebug() << "Error, safetensor filename is empty.";
         return;
     }
+    // Replaced by the file right below; kept on purpose.
     _currentFile = QFileInfo(fileName).path();
     setSafetensorFile(fileName, _ui->cBTensor->isChecked(), _ui->cBMetainfo->isChecked());
 }
@@ -122,10 +125,12 @@ void SafetensorsDialog::onShowInFileBrowser() {
 }
 
 void SafetensorsDialog::onSafetensorNext() {
+    // Both buttons use this slot.
     const bool isForward = sender() == _ui->tBSafetensorNext;
     const QStringList files = modelFilesBeside(_currentFile);
     if (files.isEmpty())
         qDebug() << "No files found";
+    // Without a file the path is empty, and the failure to open it is shown.
     setSafetensorFile(steppedModelFile(files, _currentFile, isForward), _includeTensorInfo, _includeMetaInfo);
 }
 

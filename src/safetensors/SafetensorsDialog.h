@@ -10,7 +10,8 @@ namespace Ui {
 class SafetensorsDialog;
 }
 
-// Shows what a model file declares, beside the picture of the same name, and walks its directory.
+// Shows the header of a model file beside the picture of the same name, and steps through the model files of
+// its directory.
 class SafetensorsDialog : public QDialog {
     Q_OBJECT
 
@@ -20,7 +21,7 @@ public:
 
     // Suffixes to try for the preview image, the preferred first.
     void setImageFormats(const QStringList& formats);
-    // The dialog's layout takes the widget over; only an EditImageWidget gets images.
+    // The dialog becomes the owner of the widget. Only an EditImageWidget shows images.
     void setImageWidget(QWidget* widget);
     void setSafetensorFile(const QString& fileName, bool includeTensorInfo, bool includeMetaInfo);
 
@@ -34,7 +35,7 @@ public slots:
     void onSafetensorUpdate();
 
 signals:
-    // The form still exists.
+    // Emitted while the form still exists.
     void aboutToBeDestroyed();
 
 private:

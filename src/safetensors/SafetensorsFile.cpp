@@ -73,6 +73,7 @@ bool failModelRead(const std::string& path, std::string& err) {
 
 // Leaves the stream at its start.
 bool measureStream(std::istream& stream, const std::string& path, std::uint64_t& size, std::string& err) {
+    // An empty file or a directory can be opened, and fails at the first read.
     stream.peek();
     if (!stream)
         return failModelRead(path, err);
@@ -80,6 +81,7 @@ bool measureStream(std::istream& stream, const std::string& path, std::uint64_t&
     const std::streamoff end = stream.tellg();
     stream.clear();
     stream.seekg(0, std::ios::beg);
+    // The first text has no line end, on purpose.
     if (end < 0)
         err += "Invalid file size : " + path + " (does the path point to a directory?)";
     else if (end == 0)
@@ -97,7 +99,7 @@ bool readModelBytes(std::istream& stream, void* out, std::uint64_t count) {
 
 // --- data area -------------------------------------------------------------------------------------
 
-// A wrapped product could pass for a small one.
+// A product that wraps around could match the size of a small data area.
 std::uint64_t saturatedProduct(std::uint64_t left, std::uint64_t right) {
     constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
     return right != 0 && left > largest / right ? largest : left * right;
@@ -122,6 +124,7 @@ std::string dataFaults(const std::string& key, const TensorInfo& tensor, std::ui
         faults += "Tensor `" + key + "`.data_offset.BEGIN " + std::to_string(begin) + area;
     if (end > dataSize)
         faults += "Tensor `" + key + "`.data_offset.END " + std::to_string(end) + area;
+    // An end before the begin wraps around; the caller reports that itself.
     if (size != end - begin)
         faults += "Data size mismatch. The size in Tensor `" + key + "` is " + std::to_string(size) +
                   ", but the size from data_offsets is " + std::to_string(end - begin) + "\n";
@@ -160,7 +163,7 @@ bool readSafetensorsHeader(std::istream& stream, const std::string& path, Safete
     std::uint64_t fileSize = 0;
     if (!measureStream(stream, path, fileSize, err))
         return false;
-    // The header parser says itself what it thinks of too small a file.
+    // parseSafetensorsHeader() reports a file that is too small.
     std::array<std::uint8_t, safetensorsSmallestFile> start{};
     if (fileSize < start.size())
         return parseSafetensorsHeader(start.data(), fileSize, out, warn, err);
@@ -218,6 +221,7 @@ bool validateDataOffsets(const SafetensorsData& data, std::uint64_t dataSize, st
             continue;
         faults += dataFaults(key, *tensor, size, dataSize);
         ++tensorsWithData;
+        // Only if every tensor has data, the last one must end where the data area ends.
         if (tensorsWithData == data.tensors.size() && end != dataSize)
             faults += "The last tensor's data_offset.END(" + std::to_string(end) +
                       ") must be equal to databufer size " + std::to_string(dataSize) + ".\n";

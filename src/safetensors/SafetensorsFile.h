@@ -58,7 +58,8 @@ inline constexpr std::uint64_t safetensorsSmallestHeader = 4;
 inline constexpr std::uint64_t safetensorsLargestHeader = 104857600;
 inline constexpr std::size_t safetensorsDimensionLimit = 8;
 
-// All operations append what is wrong to `err`, as a line in UTF-8, and return false. Paths are in UTF-8.
+// An operation that fails appends a line about it to `err` and returns false. Messages and paths are in
+// UTF-8.
 
 [[nodiscard]] bool readWholeFile(const std::string& path, std::vector<std::uint8_t>& out, std::string& err);
 [[nodiscard]] bool readWholeStream(std::istream& stream, const std::string& path,
@@ -68,14 +69,14 @@ inline constexpr std::size_t safetensorsDimensionLimit = 8;
 [[nodiscard]] bool parseSafetensorsHeader(const std::uint8_t* bytes, std::size_t count, SafetensorsData& out,
                                           std::string& warn, std::string& err);
 
-// Reads no more than the header and tells the size of the data area from the file's size: the answers and
-// messages of reading everything, at the price of the header.
+// Reads only the header, and computes the size of the data area from the file's size. Results and messages
+// are the same as if the whole file were read.
 [[nodiscard]] bool readSafetensorsHeader(const std::string& path, SafetensorsData& out,
                                          std::uint64_t& dataSize, std::string& warn, std::string& err);
 [[nodiscard]] bool readSafetensorsHeader(std::istream& stream, const std::string& path, SafetensorsData& out,
                                          std::uint64_t& dataSize, std::string& warn, std::string& err);
 
-// Goes through all tensors; the lines of all faults replace `err`.
+// Checks all tensors. If there are faults, `err` is replaced by a line for each of them.
 [[nodiscard]] bool validateDataOffsets(const SafetensorsData& data, std::uint64_t dataSize, std::string& err);
 [[nodiscard]] bool validateDataOffsets(const SafetensorsData& data, std::string& err);
 

@@ -19,7 +19,7 @@ bool failHeader(std::string& err, std::initializer_list<std::string_view> parts)
     return false;
 }
 
-// Truncates towards zero and saturates. A negative number becomes a huge one, which no size check lets pass.
+// Truncates toward zero and saturates. A negative number becomes a huge one, which every size check rejects.
 std::uint64_t unsignedFromNumber(double number) {
     constexpr double signedEnd = 9223372036854775808.0;
     constexpr double unsignedEnd = 18446744073709551616.0;
@@ -70,7 +70,7 @@ bool parseOffsets(const JsonValue& value, TensorInfo::Offsets& out, std::string&
             return failHeader(
                 err, {"Array item in `data_offsets` must be number type, but got ", jsonTypeName(item), "."});
         offsets.push_back(unsignedFromNumber(*item.number()));
-        if (offsets.size() > offsetCount)
+        if (offsets.size() > offsetCount) // the length is wrong, however many follow
             break;
     }
     if (offsets.size() != offsetCount)
@@ -91,6 +91,7 @@ bool parseTensorMember(const std::string& name, const JsonValue* value, TensorIn
     const bool isDType = name == "dtype";
     const bool isShape = name == "shape";
     const bool isOffsets = name == "data_offsets";
+    // Unknown members are no fault.
     if (!isDType && !isShape && !isOffsets)
         return true;
     if (!value)
@@ -174,7 +175,7 @@ bool readHeaderSize(const std::uint8_t* prefix, std::uint64_t fileSize, std::uin
         size = (size << 8) | prefix[i];
     if (size < safetensorsSmallestHeader)
         return failHeader(err, {"Header size is too short."});
-    // A size close to 2^64 wraps here and is left to the limit.
+    // A size close to 2^64 wraps around here and is rejected by the limit below.
     if (size + safetensorsPrefixSize > fileSize)
         return failHeader(err, {"Header size ", std::to_string(size), " + 8 exceeds input size ",
                                 std::to_string(fileSize), " ."});
@@ -194,6 +195,7 @@ bool parseHeaderText(const std::string& text, SafetensorsData& out, std::string&
     if (!object)
         return failHeader(err, {"JSON root elements must be object(dict)"});
 
+    // Collected apart, so that a failure leaves `out` unchanged.
     SafetensorsData collected;
     for (std::size_t i = 0; i < object->size(); ++i) {
         if (!parseRootMember(object->keys()[i], object->at(i), collected, err))
