@@ -11,8 +11,8 @@ using Signals = QList<QVariantList>;
 
 namespace {
 
-// Every pixel tells its place.
-QImage placeImage(int width, int height) {
+// The colour of each pixel encodes its position.
+QImage positionImage(int width, int height) {
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
@@ -32,7 +32,7 @@ private slots:
         _view->resize(400, 300);
         _view->show();
         QVERIFY(QTest::qWaitForWindowExposed(_view.get()));
-        _view->setImage(placeImage(400, 300), {});
+        _view->setImage(positionImage(400, 300), {});
     }
     void cleanup() { _view.reset(); }
 
@@ -91,11 +91,11 @@ private slots:
         QCOMPARE(_view->cutRect(), QRectF(0, 0, 300, 300));
         QTest::mouseDClick(_view.get(), Qt::LeftButton, {}, {300, 200});
         QCOMPARE(_view->imageSize(), QSize(292, 261));
-        // The user may let Ctrl go first.
+        // The user may release Ctrl first.
         QTest::keyPress(_view.get(), Qt::Key_Z, Qt::ControlModifier);
         QTest::keyRelease(_view.get(), Qt::Key_Z);
         _view->setTool(EditImageWidget::ToolPan);
-        QCOMPARE(imagePositionAt({150, 100}), QPoint(150, 100)); // stands where it stood before the cut
+        QCOMPARE(imagePositionAt({150, 100}), QPoint(150, 100)); // the same position as before the cut
 
         _view->undoLastAction();
         QCOMPARE(_view->imageSize(), QSize(400, 300));
@@ -128,7 +128,7 @@ private slots:
         QCOMPARE(sizes, (Signals{{QRectF(10, 5, 400, 300)}}));
         key(Qt::Key_B);
         QCOMPARE(sizes.count(), 2);
-        // A double click is a press as well: it cuts, and a drag from it starts there.
+        // A double click cuts, and as a press it may start a drag.
         _view->onCutRectSet({0, 0, 100, 100});
         const auto mouse = [this](QEvent::Type type, QPointF at, Qt::MouseButton button) {
             QMouseEvent event(type, at, _view->mapToGlobal(at), button, Qt::LeftButton, {});
@@ -138,7 +138,7 @@ private slots:
         mouse(QEvent::MouseMove, {55, 57}, Qt::NoButton);
         QCOMPARE(_view->imageSize(), QSize(100, 100));
         QCOMPARE(_view->cutRect(), QRectF(5, 7, 100, 100));
-        _view->setImage(placeImage(400, 300), {});
+        _view->setImage(positionImage(400, 300), {});
         // A press outside the regions pans.
         _view->onCutRectSet({0, 0, 100, 100});
         drag({300, 250}, {290, 240});
@@ -167,7 +167,7 @@ private slots:
     }
 
 private:
-    // What the view shows, as far as it can be seen: the image position under a widget position.
+    // The image position that the view shows under a widget position.
     QPoint imagePositionAt(QPoint position) {
         const QRgb pixel = _view->grab().toImage().pixel(position);
         return {qRed(pixel) + (qBlue(pixel) / 16) * 256, qGreen(pixel) + (qBlue(pixel) % 16) * 256};

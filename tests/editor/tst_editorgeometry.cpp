@@ -2,14 +2,14 @@
 #include "editor/ViewGeometry.h"
 #include "support/Rows.h"
 
-// Drags of the cut rectangle and turns of the wheel; the rest is tested through the view.
+// Drags of the cut rectangle; the rest of the geometry is tested through the view.
 class TestEditorGeometry : public QObject {
     Q_OBJECT
 
 private slots:
     void drag_data() {
         const QPointF d(3, 5);
-        // The last cell tells the moves of left, top, right and bottom.
+        // The last cell has the moves of the left, top, right and bottom edges.
         addRows<int, bool, QPointF, QMargins>({
             {"centre", 1, false, d, {3, 5, 3, 5}},
             {"top left", 2, false, d, {3, 5, 0, 0}},

@@ -12,8 +12,8 @@
 
 namespace {
 
-// Chooses in file dialogs and says yes to everything else, until its end. A dialog that comes back is sent
-// away.
+// While it exists, chooses a file in file dialogs and accepts all others. A dialog that keeps reappearing is
+// rejected.
 class EverYes : public QObject {
 public:
     explicit EverYes(const QString& path) : _path(path) { startTimer(2); }

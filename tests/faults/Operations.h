@@ -10,8 +10,8 @@
 // What is wrong with the disk while an operation runs.
 enum DiskFault { FilesGone, DirectoryGone, ThingsInPlace, ReadOnly, DiskFull };
 
-// One thing that a user does with the selected files, and what the log then says under each fault. An empty
-// text stands for an operation that the fault does not touch.
+// One operation on the selected files, and what the log contains after it under each fault. An empty text
+// means that the fault does not affect the operation.
 struct Operation {
     const char* name;
     std::function<void(WindowDriver&, const QString& target)> run;

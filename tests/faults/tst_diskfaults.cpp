@@ -18,7 +18,7 @@ namespace {
 
 constexpr uid_t nobody = 65534;
 
-// A mount namespace of our own, where a test may make a file system as small as it likes.
+// A mount namespace of our own, in which the test can mount small file systems.
 bool canMount = false;
 
 // The disk under the window: a working directory and one that files are copied to, on a file system of 1 MB.
@@ -80,7 +80,7 @@ public:
         QFile::remove(_folder.filePath("filler"));
     }
 
-    // A picture is never lost: it lies where it was, or was moved, as it was.
+    // No picture is lost: it is in its directory or was moved, with its bytes unchanged.
     [[nodiscard]] bool holdsAllMedia() const {
         for (const QString& name : media()) {
             const QByteArray moved = name == "a.png" ? QByteArray() : _folder.content("target/" + name);
@@ -97,7 +97,7 @@ public:
     bool isSmall = false;
 
 private:
-    // Mode bits do not stop root, so a test of root's goes on as somebody else.
+    // Mode bits do not restrict root, so a test that runs as root continues as another user.
     void allow(bool isAllowed) const {
         if (isAllowed && geteuid() == nobody && seteuid(0) != 0)
             qFatal("no way back to root");
@@ -186,7 +186,7 @@ private slots:
 };
 
 int main(int argc, char** argv) {
-    // Before any thread starts: the namespace belongs to the thread that asks for it.
+    // Before any thread starts, as a namespace belongs to the thread that creates it.
     canMount = unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
     QApplication application(argc, argv);
     TestDiskFaults test;

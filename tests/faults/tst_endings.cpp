@@ -19,13 +19,14 @@ namespace {
 
 using Begin = std::function<void(MainWindow&)>;
 
-// What is under way in a window that ends, in a process of its own.
+// What the window is doing when it is closed, in a process of its own.
 struct Scene {
     const char* name;
     Begin begin;
-    // At once, if it is not told.
+    // Without a condition, right after begin().
     std::function<bool(const MainWindow&)> isUnderWay = nullptr;
-    // A modal window keeps the user from closing the main window; only the system ends the program then.
+    // Under a modal window the user cannot close the main window, so the program is ended by
+    // QCoreApplication::quit().
     bool isModal = false;
 };
 
@@ -93,7 +94,7 @@ int play(const QString& name, const QString& directory, const QString& server) {
         if (!hasBegun && rows->rowCount() > 0) {
             hasBegun = true;
             window.findChild<QListView*>("listView")->selectAll();
-            // In a timer of its own: this one does not fire again before its slot ends.
+            // From another timer: this one does not fire again while its slot is running.
             QTimer::singleShot(0, &window, [&] {
                 isInside = true;
                 scene->begin(window);

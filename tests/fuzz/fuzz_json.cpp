@@ -7,7 +7,7 @@
 
 namespace {
 
-// Equal trees, and trees that hold what the reader promises: kinds that exist, and keys that are found.
+// Requires equal trees that keep what the reader promises: known kinds, and keys that can be looked up.
 void requireEqual(const JsonValue& left, const JsonValue& right, int depth) {
     require(left.kind() == right.kind() && left.kind() != JsonKind::Unknown && depth <= jsonDepthLimit);
     if (const auto* text = left.string())
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     const JsonValue copy = value;
     requireEqual(copy, value, 0);
 
-    // What was read is a value by itself, and the same one.
+    // The part that was read gives the same value when it is read alone.
     const std::string alone(text.c_str(), cursor);
     const char* aloneCursor = alone.c_str();
     JsonValue again;

@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     const ProfileStreamContents contents = readProfileStream(input);
     if (contents.status != QDataStream::Ok)
         return 0;
-    // What was read can be stored, and comes back. Only the order within a hash is free.
+    // What was read can be stored and read back. Only the order within a hash may differ.
     const QByteArray written = writeProfileStream(contents.profiles, contents.current);
     const ProfileStreamContents again = readProfileStream(written);
     require(again.status == QDataStream::Ok && again.current == contents.current &&

@@ -42,7 +42,7 @@ Reading readHeaderOnly(const std::string& file) {
     return reading;
 }
 
-// Both roads lead to the same answer, and a failure always says something.
+// Both functions give the same result, and a failure always has a message.
 void compareReadings(const std::string& file) {
     const Reading whole = readAll(file);
     const Reading header = readHeaderOnly(file);
@@ -63,7 +63,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     compareReadings(input);
     if (count == 0)
         return 0;
-    // Most inputs fail at the header size. Here it fits; the first byte is the size of the data area.
+    // Most inputs fail at the header size, so it is made to fit here; the first byte is the size of the data
+    // area.
     std::string file{static_cast<char>(count - 1), static_cast<char>((count - 1) >> 8), 0, 0, 0, 0, 0, 0};
     file += input.substr(1);
     file.append(bytes[0], '\0');

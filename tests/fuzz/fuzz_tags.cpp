@@ -9,7 +9,8 @@
 
 namespace {
 
-// A save replaces the bytes of a sidecar just where they are not valid; a leading mark goes in any case.
+// Saving replaces the bytes of a sidecar only where they are not valid UTF-8; a byte order mark is always
+// removed.
 QString decoded(const QByteArray& bytes) {
     const QString text = QString::fromUtf8(bytes);
     const QByteArray back = text.toUtf8();
@@ -23,7 +24,7 @@ void requireTagsOfText(const QStringList& tags) {
         require(tag == tag.trimmed() && !tag.contains(u',') && !tag.contains(u'\n'));
 }
 
-// All but empty tags come back from the written form, and a second save changes nothing.
+// All but empty tags can be read back from the written form, and a second save changes nothing.
 void requireRoundTrip(QStringList tags) {
     const QString saved = savedTagText(tags, false);
     tags.removeAll(QString());

@@ -1,4 +1,4 @@
-// Stands in for the fuzzer where the tests are built: runs a target over the files of a directory, once each.
+// Replaces the fuzzer in the build of the tests: runs a target once on each file of a directory.
 
 #include <cstdint>
 #include <cstdio>

@@ -13,7 +13,8 @@ namespace {
 using Kernel = QList<double>;
 using Routine = std::function<QImage(const QImage&)>;
 
-// What a routine makes of images of all shapes. Words, not colours: those would pass over the alpha of RGB32.
+// The results of a routine for images of all shapes. Compared as words, as colours would ignore the alpha of
+// RGB32.
 QByteArray digest(const Routine& routine) {
     QRandomGenerator random(1);
     QCryptographicHash words(QCryptographicHash::Md5);
@@ -21,7 +22,7 @@ QByteArray digest(const Routine& routine) {
                              QSize(7, 16), QSize(17, 9), QSize(64, 8), QSize(33, 35), QSize(129, 67)}) {
         for (const auto format :
              {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
-            // Its rows are longer than they show.
+            // Its rows are longer than its width.
             QImage wide(size.width() + 3, size.height(), format);
             random.generate(reinterpret_cast<quint32*>(wide.bits()),
                             reinterpret_cast<quint32*>(wide.bits() + wide.sizeInBytes()));
@@ -43,7 +44,7 @@ Routine blur(int radius, bool alphaOnly) {
     return [=](const QImage& image) { return ImageDSP::blurred(image, image.rect(), radius, alphaOnly); };
 }
 
-// One after the other, so that each radius leaves its trace.
+// One after the other, so that every radius affects the result.
 QImage blurredByAll(const QImage& image) {
     QImage result = image;
     for (int radius = 20; radius >= -1; --radius)
@@ -62,7 +63,7 @@ Routine convolution(const Kernel& kernel, int width, int height,
 
 } // namespace
 
-// The pixels of each routine, which neither a faster way nor more threads may change.
+// The pixels of each routine, which neither a faster implementation nor more threads may change.
 class TestImageDSP : public QObject {
     Q_OBJECT
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-// No format packs it.
+// No format can compress it.
 QImage noise() {
     QImage image(64, 48, QImage::Format_RGB32);
     quint32 word = 1;
@@ -72,7 +72,7 @@ private slots:
         }
         if (!isWritable)
             return;
-        // The bytes of a plain writer, through a link, with the permissions of before.
+        // The same bytes as from QImageWriter, written through a link, with unchanged permissions.
         QImageWriter plain(_folder.filePath("plain." + format));
         plain.setQuality(50);
         plain.setCompression(1);

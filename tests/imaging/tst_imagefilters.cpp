@@ -43,7 +43,7 @@ private slots:
         _row->setOptions({{"value", value}});
         QCOMPARE(apply(colourful()), result);
         QCOMPARE(_applied, result != colourful());
-        // What has not 32 bits is converted first.
+        // Images of other than 32 bits are converted first.
         QCOMPARE(apply(colourful(QImage::Format_RGBX64)).convertToFormat(QImage::Format_RGB32),
                  apply(colourful(QImage::Format_RGB32)).convertToFormat(QImage::Format_RGB32));
         _row->setFilterEnabled(false, true);

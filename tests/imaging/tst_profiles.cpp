@@ -40,7 +40,7 @@ private slots:
         QCOMPARE(names(), "B A");
         edit->findChild<QPushButton*>("pBApply")->click();
         QCOMPARE(names(), "Bee A");
-        // A profile that is lost closes its window, which then renames no other.
+        // The removal of a profile closes its window, which then renames no other profile.
         const QByteArray data = profiles->save();
         for (const bool isRestored : {false, true}) {
             edit = openEdit("lost");

@@ -3,13 +3,13 @@
 
 #include <QTest>
 
-// The form in which profiles are stored; broken ones are left to the fuzz target.
+// The stored form of profiles. Broken streams are covered by the fuzz target.
 class TestProfileStream : public QObject {
     Q_OBJECT
 
 private slots:
     void chainsAreLaidOutAsQtWritesThem() {
-        // By hand: to store such a value through a variant would register its type.
+        // Bytes written out, as storing such a value through a variant would register its type.
         QByteArray stored;
         QDataStream stream(&stored, QIODevice::WriteOnly);
         stream << quint32(1) << QString("Größe") << quint32(1) << QString("effectList") << quint32(65536)

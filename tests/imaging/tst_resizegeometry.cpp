@@ -2,7 +2,7 @@
 #include "imaging/ResizeGeometry.h"
 #include "support/Rows.h"
 
-// What the batches count with: sizes, crops, and where their files go.
+// What the batches compute: sizes, crops, and the paths of their files.
 class TestResizeGeometry : public QObject {
     Q_OBJECT
 

@@ -27,7 +27,7 @@ private slots:
             return driver.statusText() == "Save image: " + folder.filePath(name);
         };
         const QString refusal = "Preview of effects is not saved, use Apply.";
-        // Reduced; then filtered; then the file itself, cut.
+        // The reduced picture; the filtered one; the file itself, cut.
         driver.select({"large.png"});
         QVERIFY(view->imageSize().width() < 1500 && !saved("large.png"));
         QCOMPARE(driver.statusText(), refusal);

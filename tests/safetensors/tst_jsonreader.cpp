@@ -10,7 +10,7 @@ using namespace std::string_literals;
 
 namespace {
 
-// What a value is, in a compact form that keeps key order and the difference between kinds.
+// A value in a compact form that keeps the order of keys and distinguishes the kinds.
 std::string described(const JsonValue& value) {
     const auto list = [](const auto& items, char open, char close, const auto& describe) {
         std::string text(1, open);
@@ -133,7 +133,7 @@ private slots:
         QCOMPARE(std::bit_cast<quint64>(*value.number()), std::bit_cast<quint64>(expected));
     }
 
-    // Every first and second byte, with none to two plain ones after them.
+    // Every first and second byte, followed by zero to two plain bytes.
     void sequencesAreChecked() {
         for (int bytes = 0x8000; bytes <= 0xFFFF; ++bytes) {
             std::string text{static_cast<char>(bytes >> 8), static_cast<char>(bytes)};

@@ -78,7 +78,7 @@ private slots:
 
     void reading_data() {
         const std::string huge = "18446744073709551615";
-        const std::string wholeRange = "9223372036854775808"; // 2^63, as far as doubles tell
+        const std::string wholeRange = "9223372036854775808"; // 2^63, which a double holds exactly
         addRows<std::string, std::string>({
             // The file.
             {"smallest header", sizeField(4) + "{}  data", ""},

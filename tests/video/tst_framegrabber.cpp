@@ -12,7 +12,7 @@
 // Position in milliseconds and frame number.
 using Frames = QList<std::pair<int, int>>;
 
-// The list of frames; its window is tested with the catalogue that takes them.
+// The list of frames. Its window is tested with the catalogue, to which the frames are added.
 class TestFrameGrabber : public QObject {
     Q_OBJECT
 
@@ -26,13 +26,13 @@ private slots:
         grab("h264.mp4");
         QTRY_COMPARE(items(), run);
         QCOMPARE(list()->item(1)->data(Qt::DecorationRole).value<QImage>().size(), QSize(218, 218));
-        // The second is begun anew while it is under way.
+        // The second run is restarted while it is running.
         grab("h264.mp4");
         QTRY_VERIFY(items().size() > 3);
         _grabber->onRemoveAll();
         grab("h264.mp4");
         QTRY_COMPARE(items(), run);
-        set(9990, 100); // no room for so many
+        set(9990, 100); // less than a millisecond for each
         grab("h264.mp4");
         QTRY_COMPARE(items(), run + Frames({{9990, 249}}));
     }
@@ -40,10 +40,10 @@ private slots:
     void runsOverManyFiles() {
         set(1, 2);
         chooseClips({"h264.mp4", "truncated.mp4", "sound-only.ogg", "no-duration.mkv", "theora.ogv"});
-        // The first file starts at one second; the second has no picture behind a quarter of its length.
+        // The first file starts at one second; the second has no frame after a quarter of its length.
         const Frames expected{{1000, 25}, {9998, 249}, {1, 0}, {0, 0}, {1, 0}, {1998, 49}};
         QTRY_COMPARE(items(), expected);
-        // A file that is no media ends the list.
+        // A file that is not media ends the list.
         chooseClips({"text.mp4", "h264.mp4"});
         const auto* player = _grabber->findChild<QMediaPlayer*>();
         QTRY_COMPARE(player->mediaStatus(), QMediaPlayer::InvalidMedia);

@@ -6,7 +6,7 @@
 #include <QTcpServer>
 #include <QTest>
 
-// The kinds of clips and what they tell are tested in the catalogue.
+// The kinds of clips and their metadata are tested in the catalogue.
 class TestVideoImageLoader : public QObject {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private slots:
             names.append(name);
             numbers.insert(frameNumber(frame));
         });
-        // Each job is dropped in favour of the next at another moment of its life.
+        // The next job replaces each one at a different stage of its work.
         for (int delay = 0; delay < 20; ++delay) {
             loader.grabFrame(clipPath("h264.mp4"), 0);
             QTest::qWait(delay);

@@ -19,7 +19,7 @@ private slots:
         QTRY_COMPARE(bar->maximum(), 10000);
         const auto* player = preview.findChild<QMediaPlayer*>();
         QCOMPARE(player->audioOutput()->volume(), 0.0F);
-        // Half of its pictures are missing, and with each loop it gives an error.
+        // Half of its frames are missing, and each loop reports an error.
         const QString path = clipPath("truncated.mp4");
         preview.start(path);
         const QSignalSpy errors(player, &QMediaPlayer::errorOccurred);

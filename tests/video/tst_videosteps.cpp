@@ -87,7 +87,7 @@ private slots:
             const QUrl url = mediaUrl(path);
             QCOMPARE(url == QUrl(path), goesAsItIs);
             QCOMPARE(mediaPath(url), path);
-            QCOMPARE(mediaUrl(url.toString()), url); // the way through a text
+            QCOMPARE(mediaUrl(url.toString()), url); // converted to text and back
         }
         QCOMPARE(mediaUrl("https://host/a%20b.mp4?x=1#2"), QUrl("https://host/a%20b.mp4?x=1#2"));
     }

@@ -91,14 +91,14 @@ private slots:
                 [&](const QImage& image) { saved << QString::number(frameNumber(image)); });
         for (int round = 0; round < 2; ++round) {
             _player->setPlaybackRate(2);
-            // The button with the focus does not take the key.
+            // The focused button does not consume the key.
             QTest::keyClick(button("tBGrabFrame"), Qt::Key_Space);
             QTRY_COMPARE(button("tBPlayPause")->text(), "||");
             QTRY_COMPARE(button("tBPlayPause")->text(), ">");
             QTRY_COMPARE(_player->playbackState(), QMediaPlayer::PausedState);
-            // A busy machine shows not each picture, and keeps the last one that it showed.
+            // A busy machine skips frames; the last one that was shown stays.
             QTRY_VERIFY(frameNumber(picture()) >= last / 2);
-            // Where the way back to the last picture ends once more, the player waits at the start.
+            // Where the seek to the last frame reaches the end once more, the player waits at the start.
             QTRY_COMPARE(_player->position() == 0, name == "mpeg2.mpg");
         }
         QVERIFY(bar()->value() > bar()->maximum() / 2);
@@ -123,7 +123,7 @@ private slots:
         }));
         _window->findChild<QAction*>("action_Open_URL")->trigger();
         QTRY_COMPARE(status(), "Status: invalid media");
-        open("theora.ogv"); // tells a frame rate that is no number
+        open("theora.ogv"); // reports a frame rate that is not a number
         button("tBFrameNext")->click();
         QCOMPARE(_player->position(), 1);
     }

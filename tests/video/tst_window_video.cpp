@@ -12,11 +12,11 @@ namespace {
 // The part of a row's canvas that shows the frame.
 QImage shownFrame(const WindowDriver& driver, const QString& name, bool isRotated) {
     const auto canvas = driver.cellData(name, ColName, Qt::DecorationRole).value<QImage>();
-    QRect place(QPoint(), QSize(160, 64).scaled(canvas.size(), Qt::KeepAspectRatio));
+    QRect frameArea(QPoint(), QSize(160, 64).scaled(canvas.size(), Qt::KeepAspectRatio));
     if (isRotated)
-        place.setSize(place.size().transposed());
-    place.moveCenter(canvas.rect().center());
-    return canvas.copy(place).transformed(QTransform().rotate(isRotated ? 90 : 0));
+        frameArea.setSize(frameArea.size().transposed());
+    frameArea.moveCenter(canvas.rect().center());
+    return canvas.copy(frameArea).transformed(QTransform().rotate(isRotated ? 90 : 0));
 }
 
 } // namespace
@@ -75,7 +75,7 @@ private slots:
         WindowDriver driver(images.path());
         auto* loader = driver.window().findChild<ImageLoaderThreaded*>();
         QStringList after;
-        // In the midst of the load: while a result is handed over.
+        // In the middle of the load: while a result is delivered.
         for (const int leaveAt : {1, 3}) {
             int delivered = 0;
             QObject scope;
