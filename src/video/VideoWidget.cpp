@@ -265,7 +265,11 @@ void VideoWidget::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
 // A stopped player shows no frame after a seek, so it is paused at the last frame. Where the seek to that
 // frame reaches the end once more, it is paused at the start instead, under the same picture.
 void VideoWidget::stayAtEnd() {
-    if (_mediaPlayer->mediaStatus() != QMediaPlayer::EndOfMedia || !_frame.isValid() || _endings > 1)
+    const bool isStillAtEnd = _mediaPlayer->mediaStatus() == QMediaPlayer::EndOfMedia;
+    // A seek came between the end and this call: paused, the player shows its frame.
+    if (!isStillAtEnd && _isSeeking && _mediaPlayer->playbackState() == QMediaPlayer::StoppedState)
+        _mediaPlayer->pause();
+    if (!isStillAtEnd || !_frame.isValid() || _endings > 1)
         return;
     const int endings = _endings + 1;
     seek(endings == 1 ? positionOfFrame(_frame.startTime()) : 0);
