@@ -27,7 +27,7 @@ QListWidgetItem* makeCountedTagItem(const TagCount& counted) {
     QListWidgetItem* item = makeTagItem(counted.tag);
     item->setToolTip(MainWindow::tr("Count: %1").arg(counted.count));
     item->setTextAlignment(Qt::AlignCenter);
-    item->setData(RoleTagCount, counted.count);
+    item->setData(tagCountRole, counted.count);
     return item;
 }
 

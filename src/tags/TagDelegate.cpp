@@ -22,7 +22,7 @@ void TagDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), frameRadius, frameRadius);
 
     const auto* list = qobject_cast<const QListView*>(option.widget);
-    if (const QVariant count = index.data(RoleTagCount); list && list->spacing() > 0 && count.isValid()) {
+    if (const QVariant count = index.data(tagCountRole); list && list->spacing() > 0 && count.isValid()) {
         // Drawn into the spacing below the item: taller items would change the layout of the whole list.
         const QRect gap(option.rect.left(), option.rect.bottom() + 1, option.rect.width(), list->spacing());
         QFont small = option.font;

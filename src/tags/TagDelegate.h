@@ -3,7 +3,7 @@
 #include "catalogue/SizeRememberingDelegate.h"
 
 // How often a tag is used; absent where no count is shown.
-constexpr int RoleTagCount = Qt::UserRole;
+constexpr int tagCountRole = Qt::UserRole;
 
 // Draws a faint frame around each tag, and its count into the spacing below it. Sizes and texts are those of
 // the base class.
