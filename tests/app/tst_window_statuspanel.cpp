@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -50,10 +51,12 @@ private slots:
         const auto* button = driver.widget<QToolButton>("tBUnsavedCount");
         QVERIFY(button->isVisible());
         QCOMPARE(button->text(), QString("0 unsaved"));
-        for (QAction* entry : button->menu()->actions()) {
-            if (entry->text().startsWith(QString("Restore %1 files of ").arg(manyFiles)))
-                entry->trigger();
-        }
+        const QList<QAction*> entries = button->menu()->actions();
+        const auto offer = std::ranges::find_if(entries, [](const QAction* entry) {
+            return entry->text().startsWith(QString("Restore %1 files of ").arg(manyFiles));
+        });
+        QVERIFY(offer != entries.end());
+        (*offer)->trigger(); // which fills the menu anew
         QCOMPARE(driver.statusText(),
                  QString("Restored the tags of %1 files, 0 sidecars have changed since.").arg(manyFiles));
         for (const QString& file : driver.window().allFilePaths())
