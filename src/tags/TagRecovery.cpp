@@ -97,9 +97,11 @@ std::optional<RecoveredTags> recoveryFromText(const QByteArray& text) {
     RecoveredTags recovered;
     recovered.directory = root["directory"_L1].toString();
     recovered.time = QDateTime::fromString(root["time"_L1].toString(), Qt::ISODateWithMs);
-    for (const QJsonValue& value : root["files"_L1].toArray()) {
+    const QJsonArray files = root["files"_L1].toArray();
+    for (const QJsonValueConstRef value : files) {
         RecoveredFile file;
-        for (const QJsonValue& tag : value["tags"_L1].toArray())
+        const QJsonArray tags = value["tags"_L1].toArray();
+        for (const QJsonValueConstRef tag : tags)
             file.tags.append(tag.toString());
         file.sidecarSize = value["sidecarSize"_L1].toInteger(-1);
         file.sidecarTime = value["sidecarTime"_L1].toInteger();

@@ -12,7 +12,7 @@ namespace {
 // Faster than playback, but within what a decoder manages for most clips: once decoding lags behind, the back
 // end drops frames of a clip with a variable frame rate.
 constexpr double runPlaybackRate = 10.0;
-constexpr qint64 stretchBytes = 64 * 1024 * 1024;
+constexpr qint64 stretchBytes = qint64(64) * 1024 * 1024;
 constexpr qint64 stretchBytesPerPixel = 2;
 // How many stretches of frames stay in memory.
 constexpr qsizetype keptStretches = 3;
