@@ -1,6 +1,7 @@
 #include "catalogue/ImageLoaderThread.h"
 
 #include "catalogue/MediaFormats.h"
+#include "catalogue/MediaModel.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -19,6 +20,7 @@ PreviewResult decodePreview(const QString& filePath, const QSize& size) {
     // Opening a named pipe would block until a process writes to it. Missing files and directories are left
     // to the reader, whose error is reported.
     if (const QFileInfo info(filePath); info.isFile() || info.isDir() || !info.exists()) {
+        bufferHead(reader);
         result.resolution = reader.size();
         result.image = reader.read();
     }

@@ -5,6 +5,7 @@
 
 #include <QDebug>
 #include <QFileInfo>
+#include <QIODevice>
 #include <QImageReader>
 #include <QPainter>
 
@@ -51,13 +52,19 @@ QString embeddedComment(const QImageReader& reader) {
     return {};
 }
 
+void bufferHead(QImageReader& reader) {
+    if (QIODevice* file = reader.device(); file->open(QIODevice::ReadOnly))
+        file->peek(1);
+}
+
 MediaRecord readMediaRecord(const QString& filePath) {
     const QFileInfo info(filePath);
     MediaRecord record;
     record.filePath = filePath;
     // Opening a named pipe would block until a process writes to it.
     if (info.isFile()) {
-        const QImageReader reader(filePath);
+        QImageReader reader(filePath);
+        bufferHead(reader);
         record.resolution = reader.size();
         record.comment = embeddedComment(reader);
     }
@@ -72,8 +79,8 @@ MediaRecord readMediaRecord(const QString& filePath) {
 
 bool hasFilledTxtFile(const QString& filePath) {
     const QString sidecar = imgFilePathToTxtFilePath(filePath);
-    const QFileInfo info(sidecar);
-    return !sidecar.isEmpty() && info.exists() && info.size() != 0;
+    // A file that does not exist has the size 0.
+    return !sidecar.isEmpty() && QFileInfo(sidecar).size() != 0;
 }
 
 QString resolutionText(const QSize& resolution) {

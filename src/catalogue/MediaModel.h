@@ -55,6 +55,10 @@ struct MediaRecord {
 // A file that cannot be read still gives a record, with an invalid resolution.
 [[nodiscard]] MediaRecord readMediaRecord(const QString& filePath);
 
+// Opens the reader's file and buffers its first bytes. QImageReader recognises a format under a lock of the
+// whole process; afterwards no thread reads the disk while it holds that lock.
+void bufferHead(QImageReader& reader);
+
 // The first of the texts "Comment", "parameters" and "Description" that is not empty.
 [[nodiscard]] QString embeddedComment(const QImageReader& reader);
 

@@ -76,24 +76,20 @@ void TagRecord::read(const QStringList& keys) {
         SidecarRead read;
         QStringList tags;
     };
-    // Equal tags of different files share one string.
-    QSet<QString> knownTags;
     readInOrder(
         wanted.size(),
-        [&wanted](qsizetype index) {
+        [&wanted, pool = TagPool()](qsizetype index) mutable {
             Sidecar sidecar;
             sidecar.txtFileName = imgFilePathToTxtFilePath(wanted.at(index));
             sidecar.read = readSidecarFile(sidecar.txtFileName);
-            sidecar.tags = tagsFromText(sidecar.read.text.value_or(QString()));
+            sidecar.tags = tagsFromText(sidecar.read.text.value_or(QString()), pool);
             // Only the tags are used, and the text may be long.
             sidecar.read.text.reset();
             return sidecar;
         },
         [&](qsizetype index, Sidecar&& sidecar) {
             logSidecarRead(sidecar.txtFileName, sidecar.read);
-            for (QString& tag : sidecar.tags)
-                tag = *knownTags.insert(tag);
-            _tags.insert(wanted.at(index), sidecar.tags);
+            _tags.insert(wanted.at(index), std::move(sidecar.tags));
         });
 }
 

@@ -11,15 +11,31 @@ namespace {
 // Up to so many wanted tags, comparing them all is faster than a look-up.
 constexpr qsizetype fewTags = 8;
 
-} // namespace
-
-QStringList tagsFromText(const QString& text) {
+template <typename MakeTag>
+QStringList tagsOf(const QString& text, const MakeTag& makeTag) {
     QStringList tags;
     for (const QStringView line : qTokenize(text, u'\n', Qt::SkipEmptyParts)) {
         for (const QStringView piece : qTokenize(line, u',', Qt::SkipEmptyParts))
-            tags.append(piece.trimmed().toString());
+            tags.append(makeTag(piece.trimmed()));
     }
     return tags;
+}
+
+} // namespace
+
+const QString& TagPool::shared(QStringView tag) {
+    QString& slot = _slots[qHash(tag) % slotCount];
+    if (slot != tag)
+        slot = tag.toString();
+    return slot;
+}
+
+QStringList tagsFromText(const QString& text) {
+    return tagsOf(text, [](QStringView tag) { return tag.toString(); });
+}
+
+QStringList tagsFromText(const QString& text, TagPool& pool) {
+    return tagsOf(text, [&pool](QStringView tag) -> const QString& { return pool.shared(tag); });
 }
 
 QString tagListToString(const QStringList& tags) {

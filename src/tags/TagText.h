@@ -5,6 +5,9 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
+
+#include <vector>
 
 // The rules of tag text. A tag is case-sensitive text; a list keeps the order in which its tags were read or
 // added.
@@ -12,6 +15,21 @@
 // Reads sidecar text: commas and line ends separate alike, empty parts are skipped, pieces are trimmed. A
 // piece of white space alone becomes an empty tag.
 [[nodiscard]] QStringList tagsFromText(const QString& text);
+
+// Gives equal tags of many files the same string, as far as the latest tag of each slot reaches: the strings
+// of a directory of thousands of files shrink to a few, at a fixed cost of memory.
+class TagPool {
+public:
+    [[nodiscard]] const QString& shared(QStringView tag);
+
+private:
+    static constexpr size_t slotCount = size_t{1} << 15; // above the different tags of a usual directory
+
+    std::vector<QString> _slots = std::vector<QString>(slotCount);
+};
+
+// As above, with the tags shared by the pool.
+[[nodiscard]] QStringList tagsFromText(const QString& text, TagPool& pool);
 
 // Writes sidecar text: each tag trimmed, joined by one comma, no line end.
 [[nodiscard]] QString tagListToString(const QStringList& tags);

@@ -142,6 +142,22 @@ void LogService::writeHeader(const QStringList& arguments) {
     _stream.flush();
 }
 
+// The time of the message pattern. Local time is the slowest part of a line and a directory of thousands of
+// files logs a line for each, so it is computed once a second.
+const QString& LogService::wallClock() {
+    constexpr int perSecond = 1000;
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (now / perSecond != _second) {
+        _second = now / perSecond;
+        _secondText = QDateTime::fromMSecsSinceEpoch(now).toString(u"h:mm:ss."_s);
+    }
+    _wallClock = _secondText;
+    const auto milliseconds = static_cast<int>(now % perSecond);
+    for (const int digit : {milliseconds / 100, milliseconds / 10 % 10, milliseconds % 10})
+        _wallClock += QChar(u'0' + digit);
+    return _wallClock;
+}
+
 void LogService::messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     const int requiredLevel = type == QtInfoMsg ? Verbose : Default;
     const QMutexLocker locker(&_mutex);
@@ -150,7 +166,12 @@ void LogService::messageHandler(QtMsgType type, const QMessageLogContext& contex
     if (!service)
         return;
     if (requiredLevel <= service->_logLevel && service->_stream.device()) {
-        service->_stream << qFormatLogMessage(type, context, message) << '\n';
+        // The same text as qFormatLogMessage makes of the pattern.
+        service->_stream << '[' << service->wallClock() << "] ";
+        if (const QLatin1StringView category(context.category);
+            !category.isEmpty() && category != "default"_L1)
+            service->_stream << category << ": ";
+        service->_stream << message << '\n';
         service->_stream.flush();
     }
     if (service->_previousHandler)

@@ -35,6 +35,7 @@ private:
     void rotateFiles();
     void writeHeader(const QStringList& arguments);
     void report(const char* text, const QString& detail = {}) const;
+    [[nodiscard]] const QString& wallClock();
 
     static std::atomic<LogService*> _instance;
     // Guards the instance, its stream and its file; not recursive, so nothing may log while it is held.
@@ -52,6 +53,9 @@ private:
     QString _buildTime;
     QString _settingsPath;
     QtMessageHandler _previousHandler = nullptr;
+    qint64 _second = 0; // since the epoch; that of _secondText
+    QString _secondText;
+    QString _wallClock;
 };
 
 // The level that an argument list requests.
