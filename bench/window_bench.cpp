@@ -158,6 +158,20 @@ private:
             });
         if (found != _files / 10)
             qFatal("the filter found %d", found);
+        Ratio::report(
+            label("query keystroke"),
+            [&] {
+                filter->setText(":tag \"needle in hay\" :tags>3 | :w>4000");
+                QCoreApplication::processEvents();
+                found = shown->rowCount();
+            },
+            [&] { (void)reference::searchRows(strings, "needle in hay"); },
+            [&] {
+                filter->clear();
+                QCoreApplication::processEvents();
+            });
+        if (found != _files / 10)
+            qFatal("the query found %d", found);
         filter->clear();
         auto* table = _bench.find<QTableView>("tableView");
         table->sortByColumn(ColLastModified, Qt::AscendingOrder);

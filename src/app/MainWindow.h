@@ -183,7 +183,7 @@ private:
     // shown with their number, "%1".
     void hideFiles(const QString& reason,
                    const std::function<bool(int row, const QString& filePath)>& isHidden);
-    [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath) const;
+    [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath, int asked) const;
     void showMediaPreview(const QString& filePath);
 
     SortFilterProxyModel* _proxyModel = nullptr;

@@ -288,19 +288,29 @@ void MainWindow::hideFiles(const QString& reason,
     _proxyModel->refilter();
 }
 
-MediaFacts MainWindow::mediaFacts(int row, const QString& filePath) const {
-    return {resolutionFromText(_itemModel->item(row, ColResolution)->text()), isVideoFile(filePath),
-            _imageTags->isUnsaved(filePath), _imageTags->tags(filePath)};
+MediaFacts MainWindow::mediaFacts(int row, const QString& filePath, int asked) const {
+    MediaFacts facts;
+    if (asked & MediaFacts::Resolution)
+        facts.resolution = resolutionFromText(_itemModel->item(row, ColResolution)->text());
+    facts.isVideo = (asked & MediaFacts::Kind) && isVideoFile(filePath);
+    facts.isUnsaved = (asked & MediaFacts::Unsaved) && _imageTags->isUnsaved(filePath);
+    if (asked & MediaFacts::Tags)
+        facts.tags = _imageTags->tags(filePath);
+    return facts;
 }
 
 void MainWindow::onFilterImages(const QString& txt) {
     const QString reason = tr("%1 hidden by the filter line");
+    QStringList differentTags;
+    for (const TagCount& counted : _imageTags->counted())
+        differentTags.append(counted.tag);
     if (MediaQuery::isQuery(txt) && !beginsMissingTxtFilter(txt)) {
-        MediaQuery query(txt);
+        const MediaQuery query(txt, differentTags);
         if (query.isValid()) {
+            const int asked = query.asked();
             int found = 0;
             hideFiles(reason, [&](int row, const QString& filePath) {
-                const bool matches = query.matches(mediaFacts(row, filePath));
+                const bool matches = query.matches(mediaFacts(row, filePath, asked));
                 found += matches ? 1 : 0;
                 return !matches;
             });
@@ -311,7 +321,7 @@ void MainWindow::onFilterImages(const QString& txt) {
                           .arg(query.wrongWord().first(qMin(query.wrongWord().size(), shownWordCharacters))));
     }
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
-    const MediaFilter filter(txt);
+    const MediaFilter filter(txt, differentTags);
     hideFiles(reason, [&](int row, const QString& filePath) {
         if (txt.isEmpty())
             return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QStringMatcher>
@@ -14,7 +15,8 @@ class MediaItemModel;
 // The file filter's search through one row of the catalogue and the tags of its file, regardless of case.
 class MediaFilter {
 public:
-    explicit MediaFilter(const QString& txt);
+    // All different tags of the files that will be searched: each is searched once, however many have it.
+    MediaFilter(const QString& txt, const QStringList& differentTags);
 
     [[nodiscard]] bool matches(const MediaItemModel& model, int row, const QStringList& tags) const;
 
@@ -22,4 +24,5 @@ private:
     [[nodiscard]] bool isIn(const QString& text) const { return _matcher.indexIn(text) >= 0; }
 
     QStringMatcher _matcher;
+    QSet<QString> _foundTags;
 };

@@ -146,8 +146,12 @@ MediaQuery::Typed MediaQuery::typedAtEnd(const QString& text) {
     return last.text.startsWith(u':') ? Typed{Typed::Word, last.start, last.text} : Typed{};
 }
 
-MediaQuery::MediaQuery(const QString& text) {
+MediaQuery::MediaQuery(const QString& text, const QStringList& differentTags) {
     parse(split(text));
+    for (const QString& tag : _wanted.isEmpty() ? QStringList() : differentTags) {
+        if (const auto number = _wanted.constFind(foldedCase(tag.trimmed())); number != _wanted.cend())
+            _wantedTags.insert(tag, *number);
+    }
 }
 
 void MediaQuery::parse(const QList<Word>& words) {
@@ -219,21 +223,46 @@ bool MediaQuery::parseSimple(const QString& word, Condition& condition) const {
     return true;
 }
 
-QList<int> MediaQuery::wantedTags(const QStringList& tags) {
+int MediaQuery::asked() const {
+    int asked = 0;
+    for (const Conditions& conditions : _alternatives) {
+        for (const Condition& condition : conditions)
+            asked |= factOf(condition.subject);
+    }
+    return asked;
+}
+
+MediaFacts::Fact MediaQuery::factOf(Subject subject) {
+    switch (subject) {
+    case Subject::Width:
+    case Subject::Height:
+    case Subject::Ratio:
+        return MediaFacts::Resolution;
+    case Subject::Video:
+    case Subject::Image:
+        return MediaFacts::Kind;
+    case Subject::Unsaved:
+        return MediaFacts::Unsaved;
+    case Subject::Tag:
+    case Subject::TagCount:
+    case Subject::Duplicate:
+        break;
+    }
+    return MediaFacts::Tags;
+}
+
+QList<int> MediaQuery::wantedTags(const QStringList& tags) const {
     QList<int> wanted;
-    if (_wanted.isEmpty())
+    if (_wantedTags.isEmpty())
         return wanted;
     for (const QString& tag : tags) {
-        auto known = _knownTags.constFind(tag);
-        if (known == _knownTags.cend())
-            known = _knownTags.insert(tag, _wanted.value(foldedCase(tag.trimmed()), -1));
-        if (*known >= 0)
-            wanted.append(*known);
+        if (const auto number = _wantedTags.constFind(tag); number != _wantedTags.cend())
+            wanted.append(*number);
     }
     return wanted;
 }
 
-bool MediaQuery::matches(const MediaFacts& facts) {
+bool MediaQuery::matches(const MediaFacts& facts) const {
     const QList<int> wanted = wantedTags(facts.tags);
     return std::ranges::any_of(_alternatives, [&](const Conditions& conditions) {
         return std::ranges::all_of(conditions, [&](const Condition& condition) {

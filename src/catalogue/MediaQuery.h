@@ -7,8 +7,10 @@
 #include <QString>
 #include <QStringList>
 
-// What a query looks at in one file.
+// What a query looks at in one file; see MediaQuery::asked().
 struct MediaFacts {
+    enum Fact { Resolution = 1, Kind = 2, Unsaved = 4, Tags = 8 };
+
     QSize resolution; // invalid where it is unknown
     bool isVideo = false;
     bool isUnsaved = false;
@@ -27,7 +29,8 @@ class MediaQuery {
     Q_DECLARE_TR_FUNCTIONS(MediaQuery)
 
 public:
-    explicit MediaQuery(const QString& text);
+    // All different tags of the files that will be matched: each is compared once, however many have it.
+    MediaQuery(const QString& text, const QStringList& differentTags);
 
     // Whether a filter text is a query, valid or not.
     [[nodiscard]] static bool isQuery(const QString& text);
@@ -47,8 +50,11 @@ public:
     [[nodiscard]] bool isValid() const { return _wrongWord.isNull(); }
     // The first word that is not part of the language; null in a valid query.
     [[nodiscard]] const QString& wrongWord() const { return _wrongWord; }
+    // The facts that the conditions depend on, as a mask of MediaFacts::Fact; only these are worth finding
+    // out for each of thousands of files.
+    [[nodiscard]] int asked() const;
     // Tags are compared regardless of case and of outer blanks. Only for a valid query.
-    [[nodiscard]] bool matches(const MediaFacts& facts);
+    [[nodiscard]] bool matches(const MediaFacts& facts) const;
 
 private:
     enum class Subject { Tag, TagCount, Width, Height, Ratio, Video, Image, Unsaved, Duplicate };
@@ -63,15 +69,16 @@ private:
     using Conditions = QList<Condition>; // all of which must hold
     struct Word;
 
+    [[nodiscard]] static MediaFacts::Fact factOf(Subject subject);
     [[nodiscard]] static QList<Word> split(const QString& text);
     void parse(const QList<Word>& words);
     [[nodiscard]] bool parseSimple(const QString& word, Condition& condition) const;
     [[nodiscard]] bool holds(const Condition& condition, const MediaFacts& facts,
                              const QList<int>& wantedTags) const;
-    [[nodiscard]] QList<int> wantedTags(const QStringList& tags);
+    [[nodiscard]] QList<int> wantedTags(const QStringList& tags) const;
 
     QList<Conditions> _alternatives;
     QString _wrongWord;
-    QHash<QString, int> _wanted;    // numbers of the tags that conditions name, case folded
-    QHash<QString, int> _knownTags; // tags of files that were looked up; -1 where none is wanted
+    QHash<QString, int> _wanted;     // numbers of the tags that conditions name, case folded
+    QHash<QString, int> _wantedTags; // the same numbers by the tags of files
 };
