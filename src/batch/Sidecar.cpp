@@ -2,9 +2,9 @@
 
 #include "batch/Console.h"
 #include "catalogue/FileNaming.h"
+#include "tags/SidecarFile.h"
 #include "tags/TagText.h"
 
-#include <QFile>
 #include <QJsonArray>
 
 using namespace Qt::StringLiterals;
@@ -16,19 +16,12 @@ QStringList Sidecar::tags() const {
 Sidecar readSidecar(const QString& mediaPath) {
     Sidecar sidecar;
     sidecar.path = imgFilePathToTxtFilePath(mediaPath);
-    QFile file(sidecar.path);
-    sidecar.exists = file.exists();
-    if (!sidecar.exists)
-        return sidecar;
-    QByteArray bytes;
-    const bool isOpen = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    if (isOpen)
-        bytes = file.readAll();
-    if (!isOpen || file.error() != QFileDevice::NoError)
-        sidecar.error = file.errorString();
-    else if (!QUtf8StringView(bytes).isValidUtf8())
+    const SidecarRead read = readSidecarFile(sidecar.path);
+    sidecar.exists = read.text || !read.error.isEmpty();
+    sidecar.error = read.error;
+    if (read.error.isEmpty() && !read.isValid)
         sidecar.error = Batch::tr("the sidecar is not valid UTF-8");
-    sidecar.text = QString::fromUtf8(bytes);
+    sidecar.text = read.text.value_or(QString());
     return sidecar;
 }
 

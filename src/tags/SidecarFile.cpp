@@ -16,6 +16,8 @@ SidecarRead readSidecarFile(const QString& txtFileName) {
     const QByteArray bytes = file.readAll();
     read.isValid = QUtf8StringView(bytes).isValidUtf8();
     read.text = QString::fromUtf8(bytes);
+    if (file.error() != QFileDevice::NoError)
+        read.error = file.errorString();
     return read;
 }
 

@@ -6,8 +6,8 @@
 
 // The result of reading a sidecar.
 struct SidecarRead {
-    std::optional<QString> text; // decoded; nothing when the file is missing or cannot be read
-    QString error;               // of an existing file that cannot be opened
+    std::optional<QString> text; // decoded; nothing when the file is missing or cannot be opened
+    QString error;               // of an existing file that cannot be opened or read to its end
     bool isValid = true;         // false where bytes could not be decoded
 };
 
