@@ -117,7 +117,9 @@ void MainWindow::initUi() {
     initStatusPanel();
     ui->toolBar->addActions(actions());
     _imageFilters = new ImageFilters(this);
-    ui->cBDspEffectsList->addItems(_imageFilters->filterNames());
+    const QStringList filterNames = _imageFilters->filterNames();
+    for (const QString& name : filterNames)
+        ui->cBDspEffectsList->addItem(ImageFilters::filterCaption(ImageFilters::filterType(name)), name);
     readSettings();
     initThemes();
 }

@@ -24,7 +24,7 @@ ImageFilterWidgetBase::~ImageFilterWidgetBase() = default;
 
 void ImageFilterWidgetBase::setFilterType(ImageFilters::FilterType type) {
     _filterType = type;
-    _ui->labelFiltername->setText(ImageFilters::filterName(type));
+    _ui->labelFiltername->setText(ImageFilters::filterCaption(type));
 }
 
 void ImageFilterWidgetBase::setOptionWidget(QWidget* widget) {

@@ -32,7 +32,8 @@ public:
     // filterInput(), or that of the image if the row was not applied.
     [[nodiscard]] QImage applyFilter(const QImage& image, QWidget* row, bool* applied) const;
 
-    // "Invalid" outside the table.
+    // "Invalid" outside the table. Profiles and the command line hold the name, the user sees the caption.
     [[nodiscard]] static QString filterName(FilterType type);
+    [[nodiscard]] static QString filterCaption(FilterType type);
     [[nodiscard]] static FilterType filterType(const QString& name);
 };

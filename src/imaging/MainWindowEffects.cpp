@@ -76,7 +76,7 @@ void MainWindow::connectEffectRow(const ImageFilterWidgetBase* row) {
 }
 
 void MainWindow::onAddDspEffect() {
-    onAddDspEffectItem(ui->cBDspEffectsList->currentText());
+    onAddDspEffectItem(ui->cBDspEffectsList->currentData().toString());
     onFilterApply();
 }
 
