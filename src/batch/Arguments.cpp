@@ -2,6 +2,8 @@
 
 #include "batch/Console.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -28,8 +30,9 @@ std::optional<int> Arguments::parse(const QStringList& arguments) {
         return std::nullopt;
     // The parser's text begins with the path of the program and leaves the command out.
     const QString help = _parser.helpText();
+    const QString program = QCoreApplication::arguments().constFirst();
     console::print(Batch::tr("Usage: tessarine-batch %1 ").arg(_command) +
-                   help.sliced(help.indexOf("[options]"_L1)));
+                   help.sliced(help.indexOf(program) + program.size() + 1));
     return console::flush() ? AllDone : SomeFailed;
 }
 
