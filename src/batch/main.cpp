@@ -1,9 +1,11 @@
+#include "app/services/Translations.h"
 #include "batch/Arguments.h"
 #include "batch/Commands.h"
 #include "batch/Console.h"
 #include "batch/Run.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -83,6 +85,10 @@ int main(int argc, char* argv[]) {
     const auto application = makeApplication(argc, argv, command && command->needsGui);
     QCoreApplication::setApplicationName(u"Tessarine"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSARINE_VERSION));
+    Translations translations;
+    // Scripts that read messages set the C locale, whatever LANGUAGE lists.
+    if (QLocale::system().language() != QLocale::C)
+        translations.install(QLocale::system().uiLanguages());
     catchInterrupts();
     return runCommand(command, QCoreApplication::arguments().sliced(1));
 }

@@ -1,11 +1,14 @@
 #include "app/OptionsDialog.h"
 #include "app/SettingsWidgetDebugDialog.h"
+#include "app/services/Translations.h"
 #include "editor/EditImageDialog.h"
 #include "imaging/ImageFilterWidgetBase.h"
 #include "imaging/ImageFilters.h"
 #include "imaging/ProfilesEditWidget.h"
 #include "imaging/ProfilesWidget.h"
 #include "safetensors/SafetensorsDialog.h"
+#include "support/MediaFolder.h"
+#include "support/ModalAnswer.h"
 #include "support/WindowDriver.h"
 #include "tags/AddTagsDialog.h"
 #include "tags/ReplaceTextDialog.h"
@@ -14,14 +17,20 @@
 #include "video/VideoWidgetFrameGrabber.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QToolBar>
 
 #include <functional>
 #include <optional>
@@ -32,12 +41,34 @@ constexpr QSize smallScreen(1366, 768);
 // Title bar, window frame and the desktop's panel.
 constexpr QSize desktopRoom(10, 70);
 
+using Texts = QMap<QString, QString>;
 using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
 
 template <typename T>
-MakeWindow plain() {
-    return [] { return std::make_unique<T>(); };
+std::unique_ptr<QWidget> plain() {
+    return std::make_unique<T>();
 }
+
+// All windows; the main window is made by the driver.
+const QList<std::pair<QString, MakeWindow>> windows{
+    {"main window", {}},
+    {"options", plain<OptionsDialog>},
+    {"settings", plain<SettingsWidgetDebugDialog>},
+    {"add tags", plain<AddTagsDialog>},
+    {"replace text", plain<ReplaceTextDialog>},
+    {"export", plain<TagsExportDialog>},
+    {"profile name", plain<ProfilesEditWidget>},
+    {"profiles", [] { return std::make_unique<ProfilesWidget>(nullptr, false); }},
+    {"filter row", [] { return std::unique_ptr<QWidget>(ImageFilters().createFilterWidget("Blur")); }},
+    {"image editor", plain<EditImageDialog>},
+    {"video", plain<VideoWidget>},
+    {"frame grabber", plain<VideoWidgetFrameGrabber>},
+    {"model file", plain<SafetensorsDialog>},
+};
+
+// Proper names, words that a language has taken over, and the name that the first profile is given.
+const QSet<QString> sameWords{"Tags",   "Prompt:", "Tags:", "Name", "Name:", "&Name",     "Dialog",
+                              "Ollama", "x",       "X:",    "Y:",   "H:",    "Plastique", "Default"};
 
 // Widgets of our forms; the inner parts of Qt's own widgets have names of another kind, or none.
 QList<QWidget*> namedWidgets(const QWidget* window) {
@@ -85,38 +116,43 @@ public:
 
 private slots:
     void initTestCase() {
-        WindowDriver::forgetSettings();
-        _driver.emplace();
+        _media.addImage("a.png");
+        _media.addTags("a.png", "sky");
+        speak("en");
+        for (int number = 0; number < windows.size(); ++number) {
+            const std::unique_ptr<QWidget> made = windowOf(number);
+            _english.append(textsOf(made ? made.get() : &_driver->window()));
+        }
     }
 
     void windowsKeepTheRules_data() {
-        QTest::addColumn<MakeWindow>("makeWindow");
-        QTest::newRow("main window") << MakeWindow();
-        QTest::newRow("options") << plain<OptionsDialog>();
-        QTest::newRow("settings") << plain<SettingsWidgetDebugDialog>();
-        QTest::newRow("add tags") << plain<AddTagsDialog>();
-        QTest::newRow("replace text") << plain<ReplaceTextDialog>();
-        QTest::newRow("export") << plain<TagsExportDialog>();
-        QTest::newRow("profile name") << plain<ProfilesEditWidget>();
-        QTest::newRow("profiles") << MakeWindow(
-            [] { return std::make_unique<ProfilesWidget>(nullptr, false); });
-        QTest::newRow("filter row") << MakeWindow(
-            [] { return std::unique_ptr<QWidget>(ImageFilters().createFilterWidget("Blur")); });
-        QTest::newRow("image editor") << plain<EditImageDialog>();
-        QTest::newRow("video") << plain<VideoWidget>();
-        QTest::newRow("frame grabber") << plain<VideoWidgetFrameGrabber>();
-        QTest::newRow("model file") << plain<SafetensorsDialog>();
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("number");
+        for (const char* language : {"en", "de", "ja", "zh-CN"}) {
+            for (int number = 0; number < windows.size(); ++number)
+                QTest::addRow("%s: %s", language, qPrintable(windows[number].first)) << language << number;
+        }
     }
 
     void windowsKeepTheRules() {
-        QFETCH(MakeWindow, makeWindow);
-        const std::unique_ptr<QWidget> made = makeWindow ? makeWindow() : nullptr;
+        QFETCH(QString, language);
+        QFETCH(int, number);
+        speak(language);
+        const std::unique_ptr<QWidget> made = windowOf(number);
         QWidget* window = made ? made.get() : &_driver->window();
         window->show();
         everyControlHasAName(window);
         mnemonicsAreUnique(window);
         fitsASmallScreen(window);
         eachTab(window, [window] { tabGoesRightAndDown(window); });
+        eachTab(window, [window] {
+            textsAreWhole(window);
+            nothingIsScrolledAway(window);
+        });
+        if (language != "en") {
+            isTranslated(textsOf(window), _english.at(number));
+            QCOMPARE(_menuClashes.join(" | "), QString());
+        }
         const QFont font = QApplication::font();
         QFont large = font;
         large.setPointSizeF(font.pointSizeF() * 2);
@@ -128,6 +164,91 @@ private slots:
     }
 
 private:
+    [[nodiscard]] static std::unique_ptr<QWidget> windowOf(int number) {
+        const MakeWindow& make = windows.at(number).second;
+        return make ? make() : nullptr;
+    }
+
+    // Starts the main window in a language.
+    void speak(const QString& language) {
+        if (_language == language)
+            return;
+        _language = language;
+        _driver.reset();
+        WindowDriver::forgetSettings();
+        _translations.emplace().install({language});
+        _driver.emplace(_media.path());
+        _driver->select({"a.png"});
+    }
+
+    // What a window shows, or a screen reader says, by where it does so: the order of children changes with
+    // the tabs.
+    Texts textsOf(QWidget* window) {
+        _menuClashes.clear();
+        Texts texts{{"title", window->windowTitle()}};
+        for (QWidget* widget : namedWidgets(window)) {
+            const QString place = widget->parent()->objectName() + "/" + widget->objectName() + "/";
+            for (const char* name :
+                 {"text", "title", "windowTitle", "placeholderText", "toolTip", "accessibleName"}) {
+                if (!qobject_cast<QLineEdit*>(widget) || name != QByteArray("text"))
+                    texts[place + name] = widget->property(name).toString();
+            }
+            const auto* combo = qobject_cast<QComboBox*>(widget);
+            for (int row = 0; combo && row < combo->count(); ++row)
+                texts[place + QString::number(row)] = combo->itemText(row);
+            const auto* tabs = qobject_cast<QTabWidget*>(widget);
+            for (int page = 0; tabs && page < tabs->count(); ++page)
+                texts[place + QString::number(page)] = tabs->tabText(page);
+            const auto* view = qobject_cast<QAbstractItemView*>(widget);
+            for (int column = 0; view && view->model() && column < view->model()->columnCount(); ++column)
+                texts[place + QString::number(column)] =
+                    view->model()->headerData(column, Qt::Horizontal).toString();
+            if (const auto* menu = qobject_cast<QMenu*>(widget))
+                readMenu(menu, place, texts);
+            if (qobject_cast<QToolBar*>(widget)) {
+                for (int number = 0; number < widget->actions().size(); ++number)
+                    texts[place + QString::number(number)] = widget->actions().at(number)->iconText();
+            }
+            if (widget->contextMenuPolicy() != Qt::CustomContextMenu)
+                continue;
+            const ModalAnswer answer([&](QMenu* menu) {
+                readMenu(menu, place + "menu/", texts);
+                menu->close();
+            });
+            emit widget->customContextMenuRequested({});
+            if (!QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }))
+                qFatal("the menu of %s stays open", qPrintable(place));
+        }
+        return texts;
+    }
+
+    void readMenu(const QMenu* menu, const QString& place, Texts& texts) {
+        QSet<QKeySequence> keys;
+        const QList<QAction*> actions = menu->actions();
+        for (const QAction* action : actions) {
+            const QString entry = place + QString::number(actions.indexOf(action));
+            texts[entry] = action->text();
+            const QKeySequence key = QKeySequence::mnemonic(action->text());
+            if (!key.isEmpty() && keys.contains(key))
+                _menuClashes.append(action->text());
+            keys.insert(key);
+            if (action->menu())
+                readMenu(action->menu(), entry + "/", texts);
+        }
+    }
+
+    static void isTranslated(const Texts& texts, const Texts& english) {
+        QCOMPARE(texts.keys(), english.keys());
+        QStringList same;
+        for (const auto& [place, text] : texts.asKeyValueRange()) {
+            const bool isName =
+                text.startsWith(QCoreApplication::applicationName()) || sameWords.contains(text);
+            if (hasLetter(text) && text == english.value(place) && !isName)
+                same.append(place + ": " + text);
+        }
+        QCOMPARE(same.join(" | "), QString());
+    }
+
     static void everyControlHasAName(const QWidget* window) {
         QStringList nameless;
         for (QWidget* widget : namedWidgets(window)) {
@@ -137,7 +258,8 @@ private:
         QCOMPARE(nameless.join(" "), QString());
     }
 
-    // The texts of menus' entries are fixed; among the controls and the menu titles no letter is used twice.
+    // Among the controls and the menu titles no letter is used twice, nor among the entries of a menu, where
+    // those of the English ones are fixed.
     static void mnemonicsAreUnique(const QWidget* window) {
         QHash<QKeySequence, QString> owners;
         const auto claim = [&owners](const QString& text) {
@@ -177,6 +299,14 @@ private:
                  qPrintable(QString("%1x%2").arg(least.width()).arg(least.height())));
     }
 
+    // The first layout shows all tabs, and the page below them in its whole width.
+    static void nothingIsScrolledAway(const QWidget* window) {
+        const auto* tabs = window->findChild<QTabWidget*>("tWTools");
+        const auto* page = tabs ? tabs->currentWidget()->findChild<QScrollArea*>() : nullptr;
+        QVERIFY(!tabs || tabs->tabBar()->width() >= tabs->tabBar()->sizeHint().width());
+        QVERIFY(!page || page->widget()->width() <= page->viewport()->width());
+    }
+
     static void textsAreWhole(const QWidget* window) {
         for (const QWidget* widget : namedWidgets(window)) {
             const auto* label = qobject_cast<const QLabel*>(widget);
@@ -195,6 +325,11 @@ private:
         }
     }
 
+    MediaFolder _media;
+    QString _language;
+    QList<Texts> _english;
+    QStringList _menuClashes;
+    std::optional<Translations> _translations;
     std::optional<WindowDriver> _driver;
 };
 

@@ -275,6 +275,27 @@ private slots:
         QCOMPARE(image.width(), words.contains("--size") ? 5 : 8);
     }
 
+    void languages_data() {
+        addRows<QString, QString>({
+            {"a country of the language", "de_AT:en_US",
+             "Aufruf: tessarine-batch resize [Optionen] ...Multipliziert ..."},
+            {"English before another language", "en_AU:de_DE", "Usage: ..."},
+            {"the first that there is", "xh_ZA:ja_JP:de_DE", "使い方: ..."},
+            {"none that there is", "xh_ZA", "Usage: ..."},
+            {"the C locale", "C:de_DE", "Usage: ..."},
+        });
+    }
+    void languages() {
+        const auto& [languages, out] = row<QString, QString>();
+        qputenv("LC_ALL", languages.section(':', 0, 0).toUtf8() + ".UTF-8");
+        qputenv("LANGUAGE", languages.toUtf8());
+        const BatchRun run = runBatch(".", "resize --help");
+        qputenv("LC_ALL", "C.UTF-8");
+        qunsetenv("LANGUAGE");
+        comparePattern(run.out, out);
+        QCOMPARE(run.exitCode, 0);
+    }
+
 private:
     using Run = std::tuple<const char*, QString, int, QString, QString, QString>;
 

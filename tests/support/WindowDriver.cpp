@@ -1,5 +1,6 @@
 #include "support/WindowDriver.h"
 
+#include "catalogue/ImageLoaderThreaded.h"
 #include "catalogue/MediaModel.h"
 #include "support/ModalAnswer.h"
 
@@ -62,10 +63,14 @@ bool WindowDriver::waitForLoad() {
     return QTest::qWaitFor(
         [this] {
             const QString text = log();
-            return text.count("\n") > 0 &&
-                   text.lastIndexOf("Found: ") > text.lastIndexOf("Checking directory: ") &&
-                   (catalogue()->rowCount() == 0 || text.lastIndexOf("Loaded all media previews in: ") >
-                                                        text.lastIndexOf("Checking directory: "));
+            // Messages are logged as they are shown, in the language of the window.
+            const auto lastOf = [&](const QString& message) {
+                return text.lastIndexOf(message.section("%1", 0, 0));
+            };
+            const qsizetype begin = lastOf(MainWindow::tr("Checking directory: %1"));
+            return text.count("\n") > 0 && lastOf(MainWindow::tr("Found: %1 files")) > begin &&
+                   (catalogue()->rowCount() == 0 ||
+                    lastOf(ImageLoaderThreaded::tr("Loaded all media previews in: %1 s")) > begin);
         },
         60000);
 }
