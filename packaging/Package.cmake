@@ -18,4 +18,6 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Plugins are loaded by name, which no scan of shared libraries sees. The media back end and the X11 and Wayland
 # platforms come with the libraries themselves.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins, qt6-svg-plugins")
+# The texts of Qt's own dialogs in the user's language.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 include(CPack)
