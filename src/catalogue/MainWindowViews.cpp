@@ -304,7 +304,7 @@ void MainWindow::onFilterImages(const QString& txt) {
     QStringList differentTags;
     for (const TagCount& counted : _imageTags->counted())
         differentTags.append(counted.tag);
-    if (MediaQuery::isQuery(txt) && !beginsMissingTxtFilter(txt)) {
+    if (MediaQuery::isQuery(txt)) {
         const MediaQuery query(txt, differentTags);
         if (query.isValid()) {
             const int asked = query.asked();

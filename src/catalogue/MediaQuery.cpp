@@ -83,7 +83,7 @@ QList<QueryWord> MediaQuery::words() {
 }
 
 bool MediaQuery::isQuery(const QString& text) {
-    return text.startsWith(u':') && !isMissingTxtFilter(text);
+    return text.startsWith(u':') && !beginsMissingTxtFilter(text);
 }
 
 QString MediaQuery::quoted(const QString& value) {

@@ -32,7 +32,8 @@ public:
     // All different tags of the files that will be matched: each is compared once, however many have it.
     MediaQuery(const QString& text, const QStringList& differentTags);
 
-    // Whether a filter text is a query, valid or not.
+    // Whether a filter text is a query, valid or not. The filter of missing sidecars is none, also while it
+    // is typed.
     [[nodiscard]] static bool isQuery(const QString& text);
     [[nodiscard]] static QList<QueryWord> words();
     // The value in the form in which it is typed after a word.
