@@ -173,11 +173,8 @@ private:
     // Selects the row `step` rows below the current one in the view that is shown; without a current row the
     // first or, upwards, the last one.
     void stepRow(int step);
-    // Selects one row of the view that is shown, at most the last.
+    // Selects one row of the view that is shown, at most the last; none for -1.
     void selectRow(int row);
-    // The first row after the selection's first that is not selected, else the last one before it; invalid
-    // without any.
-    [[nodiscard]] QModelIndex rowAfterSelection() const;
     [[nodiscard]] QList<QAbstractItemView*> mediaViews() const;
     // Hides the files for which the predicate of row and file key holds, and shows all others. The reason is
     // shown with their number, "%1".

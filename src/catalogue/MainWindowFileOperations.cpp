@@ -9,6 +9,7 @@
 #include "catalogue/FileNaming.h"
 #include "catalogue/SelectionWatcher.h"
 #include "catalogue/StrayTxtFiles.h"
+#include "catalogue/ViewSetup.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -136,12 +137,11 @@ void MainWindow::deleteFile() {
     }
     showBlockingProgress({});
     {
-        // Selects the row after the deleted ones, so that the user can continue from there.
+        // Selects the row that takes the place of the deleted ones, so that the user can continue from there.
         const SelectionWatcher::Hold hold(*_selection);
-        const QPersistentModelIndex next = rowAfterSelection();
+        const int row = firstRow(selectedIndexes());
         removeFileItems(files);
-        if (next.isValid())
-            selectRow(next.row());
+        selectRow(row);
     }
     // Shown last: removing rows changes the selection, whose own message would replace these.
     for (const QString& error : std::as_const(errors))

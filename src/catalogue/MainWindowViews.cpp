@@ -148,23 +148,6 @@ void MainWindow::selectRow(int row) {
     view->scrollTo(index);
 }
 
-QModelIndex MainWindow::rowAfterSelection() const {
-    const QAbstractItemView* view = _selection->currentView();
-    const QItemSelectionModel* selection = view->selectionModel();
-    QModelIndex before;
-    bool isPassed = false;
-    for (int row = 0; row < view->model()->rowCount(); ++row) {
-        const QModelIndex index = view->model()->index(row, ColName);
-        if (selection->isSelected(index))
-            isPassed = true;
-        else if (isPassed)
-            return index;
-        else
-            before = index;
-    }
-    return before;
-}
-
 void MainWindow::initViews() {
     setWindowTitle(QString::fromLatin1("%1 - %2").arg(QCoreApplication::applicationName(),
                                                       QCoreApplication::applicationVersion()));

@@ -5,6 +5,9 @@
 #include <QCursor>
 #include <QHeaderView>
 #include <QListView>
+#include <QModelIndexList>
+
+#include <algorithm>
 
 // Switches a list between icons and lines. Icon mode makes items movable and the list a drop target.
 // setMovement resets only a part of that, so the drag mode is set last.
@@ -35,4 +38,9 @@ inline void restoreMediaHeader(QHeaderView* header, const QByteArray& state) {
 // the current item, or at the mouse cursor for a null position.
 inline QPoint menuPosition(const QAbstractItemView* view, const QPoint& pos) {
     return pos.isNull() ? QCursor::pos() : view->viewport()->mapToGlobal(pos);
+}
+
+// The number of the topmost row; -1 without any. Where these rows are removed, the next row takes that place.
+inline int firstRow(const QModelIndexList& indexes) {
+    return indexes.isEmpty() ? -1 : std::ranges::min(indexes, {}, &QModelIndex::row).row();
 }
