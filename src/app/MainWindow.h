@@ -273,11 +273,12 @@ private:
     void initSidecarConnections();
     // Reads the sidecar of a media file, shows it in the raw text editor and binds the editor to it.
     QStringList readTagFile(const QString& filePath);
-    // Reads the sidecars into the tag record. The editor shows the last one unless it holds text that the
-    // user has typed.
+    // Reads the sidecars into the tag record.
     void readTagFiles(const QStringList& filePaths);
     // The same as a step of undo.
     void importTagFiles(const QStringList& filePaths);
+    // Shows the last sidecar in the editor unless that holds text that the user has typed.
+    void showLastTagFile(const QStringList& filePaths);
     void unbindTagFile();
     // Shows the sidecar of the first selected file. Typed text stays while that file stays the same.
     void followTagFile(const QString& filePath);

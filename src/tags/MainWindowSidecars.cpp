@@ -88,12 +88,15 @@ QStringList MainWindow::readTagFile(const QString& filePath) {
 
 void MainWindow::readTagFiles(const QStringList& filePaths) {
     _imageTags->load(filePaths);
-    if (!filePaths.isEmpty() && !isTagFileEdited())
-        readTagFile(filePaths.last());
+    showLastTagFile(filePaths);
 }
 
 void MainWindow::importTagFiles(const QStringList& filePaths) {
     _imageTags->importFiles(filePaths);
+    showLastTagFile(filePaths);
+}
+
+void MainWindow::showLastTagFile(const QStringList& filePaths) {
     if (!filePaths.isEmpty() && !isTagFileEdited())
         readTagFile(filePaths.last());
 }
