@@ -197,6 +197,8 @@ void MainWindow::initTableView() {
     ui->tableView->setShowGrid(true);
     ui->tableView->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui->tableView->setWordWrap(true);
+    // Tab leads to the next control, as in the other views.
+    ui->tableView->setTabKeyNavigation(false);
     QHeaderView* header = ui->tableView->horizontalHeader();
     setUpMediaHeader(header);
     ui->tableView->setSortingEnabled(true);
