@@ -36,6 +36,7 @@ CompletionPopup::CompletionPopup(QLineEdit* edit, Offer offer)
 
 CompletionPopup::CompletionPopup(QPlainTextEdit* edit, Offer offer)
     : CompletionPopup(static_cast<QWidget*>(edit), std::move(offer)) {
+    _takesChosen = true;
     _line = [edit] {
         const QTextCursor cursor = edit->textCursor();
         return Line{cursor.block().text(), cursor.positionInBlock()};
@@ -60,6 +61,7 @@ bool CompletionPopup::isOpen() const {
 }
 
 void CompletionPopup::update() {
+    _isAccepted = false;
     if (_isInserting || !_edit->isVisible())
         return;
     const Line line = _line();
@@ -153,7 +155,10 @@ bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
     modifiers &= ~Qt::KeypadModifier;
     if (isEnter && modifiers == Qt::ControlModifier) {
         const QString text = chosen ? chosen->data(0, Qt::UserRole).toString() : QString();
+        if (chosen && _takesChosen)
+            insertCompletion(chosen);
         hide();
+        _isAccepted = true;
         emit accepted(text);
         return true;
     }
@@ -191,6 +196,12 @@ bool CompletionPopup::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
         const auto* keys = static_cast<QKeyEvent*>(event);
         return watched == _edit && handleKey(keys->key(), keys->modifiers());
+    }
+    case QEvent::ShortcutOverride: {
+        // After an acceptance these keys reach the window, which undoes it, instead of undoing the typing.
+        const auto* keys = static_cast<QKeyEvent*>(event);
+        return watched == _edit && _isAccepted &&
+               (keys->matches(QKeySequence::Undo) || keys->matches(QKeySequence::Redo));
     }
     case QEvent::MouseButtonPress:
     case QEvent::FocusOut:

@@ -39,7 +39,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    // Ctrl+Enter, with the text of the chosen row; null without one.
+    // Ctrl+Enter, with the text of the chosen row; null without one. In a text of several lines that row is
+    // inserted before.
     void accepted(const QString& chosen);
 
 private:
@@ -63,6 +64,8 @@ private:
     QTreeWidget* _list = nullptr; // made at the first offer
     qsizetype _start = 0;
     bool _isInserting = false;
+    bool _isAccepted = false; // and nothing has been typed since
+    bool _takesChosen = false;
     std::function<Line()> _line;                                                       // at the cursor
     std::function<void(qsizetype start, qsizetype end, const QString& text)> _replace; // in that line
     std::function<QRect()> _cursorRect;                                                // on the screen
