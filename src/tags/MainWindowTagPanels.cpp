@@ -110,12 +110,21 @@ void MainWindow::initTagPanelKeys() {
         auto* shortcut = new QShortcut(keys, list);
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, action);
+        return shortcut;
     };
     addKey(QKeySequence::Copy, ui->lwImageTags, &MainWindow::onTagCopyToClipboard);
     addKey(QKeySequence::Copy, ui->lwAllImagesTags, &MainWindow::onAllTagCopy);
     for (QListWidget* list : {ui->lwImageTags, ui->lwAllImagesTags})
         addKey(QKeySequence::Paste, list, &MainWindow::onTagsPaste);
-    addKey(Qt::Key_Delete, ui->lwImageTags, &MainWindow::onTagDelete);
+    auto* deleteKey = addKey(Qt::Key_Delete, ui->lwImageTags, [this, list = ui->lwImageTags] {
+        const int row = firstRow(list->selectionModel()->selectedIndexes());
+        onTagDelete();
+        // The tag that takes the place is selected, so that the next key continues there.
+        if (row >= 0)
+            list->setCurrentRow(qMin(row, list->count() - 1));
+    });
+    // A key that is held would remove one tag after the other.
+    deleteKey->setAutoRepeat(false);
     addKey(Qt::ALT | Qt::Key_Up, ui->lwImageTags, [this] { moveImageTag(TagMove::Up); });
     addKey(Qt::ALT | Qt::Key_Down, ui->lwImageTags, [this] { moveImageTag(TagMove::Down); });
     addKey(Qt::ALT | Qt::Key_Home, ui->lwImageTags, [this] { moveImageTag(TagMove::First); });

@@ -139,6 +139,7 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("sea,old"));
         QTest::keyClick(list, Qt::Key_Delete);
         QCOMPARE(tags(), QString("sky"));
+        QCOMPARE(list->selectedItems().value(0), list->item(0));
         QGuiApplication::clipboard()->setText(" \"b\", c\r\n\r\nd,");
         QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(tags(), QString("sky|\"b\"|c|d"));
