@@ -60,10 +60,32 @@ QStringList localPaths(const QMimeData* data) {
     return paths;
 }
 
+// Leaves files that are dropped on a text field to the window. The field would insert their paths.
+class FileDropFilter : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() != QEvent::DragEnter ||
+            localPaths(static_cast<QDragEnterEvent*>(event)->mimeData()).isEmpty())
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 } // namespace
 
 void MainWindow::initFileOperationConnections() {
     setAcceptDrops(true);
+    auto* dropFilter = new FileDropFilter(this);
+    const auto lines = findChildren<QLineEdit*>();
+    for (QLineEdit* line : lines)
+        line->installEventFilter(dropFilter);
+    const auto texts = findChildren<QPlainTextEdit*>();
+    for (QPlainTextEdit* text : texts)
+        text->viewport()->installEventFilter(dropFilter);
     connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
 }
 

@@ -165,29 +165,30 @@ private slots:
         folder.addImage("other/b.png");
         folder.addTags("other/b.png", "sky");
         WindowDriver driver(folder.filePath("work"));
-        const auto drop = [&](const QStringList& names) {
+        const auto drop = [&](QWidget* target, const QStringList& names) {
             QMimeData data;
             QList<QUrl> urls;
             for (const QString& name : names)
                 urls.append(QUrl::fromLocalFile(folder.filePath(name)));
             data.setUrls(urls);
             QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&driver.window(), &enter);
+            QCoreApplication::sendEvent(target, &enter);
             QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&driver.window(), &event);
+            QCoreApplication::sendEvent(target, &event);
         };
         auto* result = driver.widget<QToolButton>("tBLastResult");
-        drop({"other/b.png", "other/b.txt", "gone.png", "other"});
+        auto* line = driver.widget<QLineEdit>("lEWorkingPath");
+        drop(driver.widget<QPlainTextEdit>("pTEResponse")->viewport(),
+             {"other/b.png", "other/b.txt", "gone.png", "other"});
         QTRY_COMPARE(result->text(), QString("imported 2 of 4, 2 failed"));
         QTRY_COMPARE(driver.catalogueNames(), QStringList({"a.png", "b.png"}));
         QCOMPARE(driver.window().imageTags(folder.filePath("work/b.png")), QStringList("sky"));
         const ModalAnswer answer(QMessageBox::Yes);
-        drop({"other/"});
+        drop(line, {"other/"});
         QTRY_VERIFY(answer.isUsed());
         QTRY_COMPARE(driver.catalogueNames(), QStringList({"b.png"}));
 
         // The path line completes what is typed at its end.
-        auto* line = driver.widget<QLineEdit>("lEWorkingPath");
         QCOMPARE(line->text(), folder.filePath("other"));
         line->setFocus();
         line->setText(folder.filePath("W"));
