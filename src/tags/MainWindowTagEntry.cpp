@@ -46,7 +46,12 @@ void MainWindow::initTagEntryConnections() {
 }
 
 void MainWindow::addTypedTags(const QString& chosen) {
-    addTagsToSelected(tagsToAdd(_imageTags->counted(), ui->leFilterAllTags->text(), chosen));
+    const QStringList tags = tagsToAdd(_imageTags->counted(), ui->leFilterAllTags->text(), chosen);
+    if (tags.isEmpty() || selectedFilePaths().isEmpty())
+        return;
+    // The line shows what is added, as the same key adds it to the next file, too.
+    ui->leFilterAllTags->setText(tags.join(", "_L1));
+    addTagsToSelected(tags);
     // Selected, so that typing the next tag replaces this one.
     ui->leFilterAllTags->selectAll();
 }

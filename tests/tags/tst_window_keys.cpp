@@ -40,6 +40,7 @@ private slots:
         QTest::keyClick(line, Qt::Key_Down);
         QTest::keyClick(line, Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(driver.statusText(), QString("Added \"sea\" to 1 files."));
+        QCOMPARE(line->text(), QString("sea"));
         QTest::keyClicks(line, "new, tag");
         QTest::keyClick(line, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
         QCOMPARE(tags(), QString("sky|sea|old|sea|new|tag"));
