@@ -277,6 +277,8 @@ private:
     // Within one parent; widgets of different parents share no rows.
     static void tabGoesRightAndDown(const QWidget* window) {
         const QList<QWidget*> named = namedWidgets(window);
+        for (const QWidget* widget : named)
+            QVERIFY2(!widget->property("tabKeyNavigation").toBool(), qPrintable(widget->objectName()));
         const QWidget* before = nullptr;
         for (QWidget* at = window->nextInFocusChain(); at != window; at = at->nextInFocusChain()) {
             if (!(at->focusPolicy() & Qt::TabFocus) || !at->isVisible() || !named.contains(at))
