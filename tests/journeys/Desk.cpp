@@ -103,6 +103,8 @@ QString shownBy(const QWidget* widget) {
     if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
         QStringList rows;
         for (int row = 0; row < list->count(); ++row) {
+            if (list->isRowHidden(row))
+                continue;
             QWidget* rowWidget = list->itemWidget(list->item(row));
             const auto* label = rowWidget ? rowWidget->findChild<QLabel*>("labelFiltername") : nullptr;
             const auto* bypass = rowWidget ? rowWidget->findChild<QAbstractButton*>("cBEnabled") : nullptr;
@@ -113,7 +115,8 @@ QString shownBy(const QWidget* widget) {
         }
         if (list->objectName() == "lwAllImagesTags")
             rows.sort();
-        return rows.join('|') + (list->viewMode() == QListView::ListMode ? " (list)" : "");
+        return rows.join('|') + (list->viewMode() == QListView::ListMode ? " (list)" : "") +
+               (list->updatesEnabled() ? "" : " (frozen)");
     }
     if (const auto* tree = qobject_cast<const QTreeWidget*>(widget)) {
         QStringList rows;
@@ -224,7 +227,7 @@ QString Desk::perform(const Step& step) {
             for (const QString& name : std::as_const(chosenByWindow))
                 now.contains(name) ? void(expected[name] = now[name]) : void(expected.remove(name));
             differs = difference(withWindows(expected, before, now), now);
-            return differs.isEmpty() && isLoadOver();
+            return differs.isEmpty() && WindowDriver::isLoadOver();
         },
         qEnvironmentVariableIsSet("TESSARINE_RECORD") ? 900 : 10'000);
     if (!isSame && qEnvironmentVariableIsSet("TESSARINE_RECORD")) {
@@ -269,13 +272,6 @@ Facts Desk::selectionFacts(QStringList names) const {
         facts["tWComments"] = names.join('|');
     }
     return facts;
-}
-
-// The last message of a load must not arrive in the middle of the next step.
-bool Desk::isLoadOver() const {
-    const QString log = _log.join('\n');
-    return log.lastIndexOf("ImageLoaderThreaded::processQueue") <=
-           log.lastIndexOf("Loaded all media previews in");
 }
 
 // The facts of a tool window appear and disappear with it, unless the step lists them.

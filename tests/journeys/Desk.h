@@ -64,7 +64,6 @@ public slots:
 private:
     [[nodiscard]] QString perform(const Step& step);
     [[nodiscard]] Facts selectionFacts(QStringList names) const;
-    [[nodiscard]] bool isLoadOver() const;
     [[nodiscard]] static Facts withWindows(Facts expected, const Facts& before, const Facts& now);
     void act(const QString& what);
     [[nodiscard]] Facts world();

@@ -184,7 +184,8 @@ public:
             [&] {
                 WindowDriver::settle();
                 differs = difference();
-                return differs.isEmpty();
+                // The previews of hidden rows, too.
+                return differs.isEmpty() && WindowDriver::isLoadOver();
             },
             10000);
         return isSame ? QString() : differs;

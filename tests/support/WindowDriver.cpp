@@ -153,6 +153,12 @@ QStringList WindowDriver::freshLog() {
     return lines;
 }
 
+bool WindowDriver::isLoadOver() {
+    const QString text = log();
+    return text.lastIndexOf("ImageLoaderThreaded::processQueue") <=
+           text.lastIndexOf("Loaded all media previews in");
+}
+
 QAbstractItemModel* WindowDriver::catalogue() const {
     auto* model = _window->findChild<QStandardItemModel*>(QString(), Qt::FindDirectChildrenOnly);
     if (!model)

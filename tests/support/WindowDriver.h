@@ -58,6 +58,8 @@ public:
     [[nodiscard]] static qsizetype logCount(const QString& text);
     // The log lines since the last call, without their times.
     [[nodiscard]] QStringList freshLog();
+    // The last message of a load must not arrive in the middle of the next step.
+    [[nodiscard]] static bool isLoadOver();
 
     [[nodiscard]] QAbstractItemModel* catalogue() const;
     // Texts of one column of the catalogue by file name.
