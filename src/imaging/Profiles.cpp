@@ -165,6 +165,7 @@ void Profiles::onProfileEdited() {
 
 // Changes of the list may have moved the profiles in memory since the window was opened.
 void Profiles::rebindEdit() {
+    emit profilesCurrentAboutToChange(); // the list is loaded again once the name has changed
     _editWidget->rebindProfile(isValidIndex(_edited) ? &_profiles[_edited] : nullptr);
 }
 
