@@ -162,7 +162,12 @@ private slots:
         QVERIFY(window.windowTitle().contains(" - "));
     }
 
+    // Settings that cannot be read make a first start, too.
     void aFirstStartSetsItsWidgets() {
+        QFile settings(QCoreApplication::applicationDirPath() + "/settings.data");
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[General]\nsettingsData=\"@Variant(\\0\\0\\0\\x1c\\xff\\xff\xfe garbage");
+        settings.close();
         WindowDriver driver;
         Facts state = windowState(driver);
         state.removeIf([](const Facts::iterator& fact) {

@@ -1,5 +1,4 @@
 #include "editor/EditImageWidget.h"
-#include "support/MediaFolder.h"
 #include "support/Rows.h"
 
 #include <QApplication>
@@ -27,7 +26,6 @@ class TestEditImageWidget : public QObject {
 
 private slots:
     void init() {
-        _folder = std::make_unique<MediaFolder>();
         _view = std::make_unique<EditImageWidget>();
         _view->resize(400, 300);
         _view->show();
@@ -195,7 +193,6 @@ private:
     }
 
     std::unique_ptr<EditImageWidget> _view;
-    std::unique_ptr<MediaFolder> _folder;
 };
 
 QTEST_MAIN(TestEditImageWidget)

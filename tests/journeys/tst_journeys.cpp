@@ -87,6 +87,7 @@ private slots:
             folder.addTags("sub/c.png", "inner");
             folder.addTags("c.png", "waiting");
             folder.addTags("gone.png", "stray");
+            folder.addFile("empty/notes.md");
             folder.addFile("a_backup_0.txt", "stray");
         });
         const QList<Step> steps{
@@ -167,6 +168,36 @@ private slots:
              "a.png=(nothing) ; row other/a.png=(nothing) ; row other/d.png=(nothing) ; "
              "statusbar=(background)"},
             {"action_SelectWorkingPath -> No", "asked=Change FOLDER/sub working directory?"},
+            {"write sub/d.png lime 20x10",
+             "disk sub/d.png=20x10 lime ; labelTagsFromFile=File tag, txt, missing for: FOLDER/sub/d.txt ; "
+             "listView=a.png|c.png|d.png ; pTETagsFromFile=(nothing) ; row sub/d.png=20x10 lime"},
+            {"select d.png",
+             "dockWidget_ImgPreview=Image 20x10 preview ; imgWidget=lime ; "
+             "labelTagsFromFile=File tag, txt, missing for: FOLDER/sub/d.txt ; tWComments=d.png"},
+            {"lEWorkingPath = FOLDER/none", "lEWorkingPath=FOLDER/none"},
+            {"press Return in lEWorkingPath -> No",
+             "asked=Change current working directory to FOLDER/none? ; lEWorkingPath=FOLDER/sub"},
+            {"lEWorkingPath = FOLDER/none", "lEWorkingPath=FOLDER/none"},
+            {"action_Import_files -> OK", "asked=Working directory don't exists at: FOLDER/none"},
+            {"listView > &Delete stray txt files", "statusbar=Working path dont exists."},
+            {"lEWorkingPath = ", "lEWorkingPath=(nothing)"},
+            {"action_Import_files -> OK", "asked=Set working directory. Path is empty."},
+            {"listView > &Delete stray txt files", "statusbar=Working path empty."},
+            {"lEWorkingPath = FOLDER/empty", "lEWorkingPath=FOLDER/empty"},
+            {"press Return in lEWorkingPath -> Yes",
+             "asked=Change current working directory to FOLDER/empty? ; labelCurrentSelectionTags=Current "
+             "selection [0] tags: ; labelTagsFromFile=File: ; listView=(nothing) ; lwAllImagesTags=(nothing) "
+             "; row sub/a.png=(nothing) ; row sub/c.png=(nothing) ; row sub/d.png=(nothing) ; "
+             "selected=(nothing) ; statusbar=(background)"},
+            {"tBSaveTagTxtFile",
+             "complaints=Error, file name is empty. ; statusbar=Error, file name is empty."},
+            {"action_SelectWorkingPath -> FOLDER/sub",
+             "asked=Select directory ; lEWorkingPath=FOLDER/sub ; labelTagsFromFile=* ; "
+             "listView=a.png|c.png|d.png ; lwAllImagesTags=inner ; pTETagsFromFile=* ; row sub/a.png=40x30 "
+             "red ; row sub/c.png=20x20 yellow ; row sub/d.png=20x10 lime ; statusbar=(background)"},
+            {"write sub/e.png lime 20x10",
+             "disk sub/e.png=20x10 lime ; labelTagsFromFile=File tag, txt, missing for: FOLDER/sub/e.txt ; "
+             "listView=a.png|c.png|d.png|e.png ; pTETagsFromFile=(nothing) ; row sub/e.png=20x10 lime"},
             {"restart", "dockWidget_ImgPreview=Media preview ; imgWidget=none ; "
                         "labelCurrentSelectionTags=Current selection tags: ; tBLastResult=(nothing) ; "
                         "tWComments=(nothing) ; labelTagsFromFile=* ; pTETagsFromFile=*"},
@@ -214,6 +245,8 @@ private slots:
              "tBLastResult=saved 2 of 3, 1 failed ; tBUnsavedCount=0 unsaved"},
             {"tBLastResult", "clipboard=FOLDER/c.txt: Is a directory"},
             {"lwImageTags > &Sort", "lwImageTags=ant|cat|dog|fox"},
+            {"leFilterTag = do", "leFilterTag=do ; lwImageTags=dog"},
+            {"leFilterTag = ", "leFilterTag=(nothing) ; lwImageTags=ant|cat|dog|fox"},
             {"lwImageTags > View &list", "lwImageTags=ant|cat|dog|fox (list)"},
             {"lwImageTags > View &icon", "lwImageTags=ant|cat|dog|fox"},
             {"select cat|fox in lwImageTags", ""},
@@ -246,6 +279,14 @@ private slots:
             {"lwAllImagesTags > &Delete",
              "listView=a.png|b.png|c.png ; lwAllImagesTags=cat|ho|nd ; row a.png=40x30 red ; row c.png=60x30 "
              "yellow ; statusbar=Found 0 images for tag:  ; tBShownCount=(nothing)"},
+            {"select c.png",
+             "complaints=Error: \"file to open is a directory\" unable to open file: \"FOLDER/c.txt\" ; "
+             "labelTagsFromFile=File tag, txt, missing for: FOLDER/c.txt"},
+            {"pTETagsFromFile = kept", "pTETagsFromFile=kept"},
+            {"tBSaveTagTxtFile",
+             "complaints=Failed to open txt file: \"Is a directory\"|Failed to open txt file, error: Is a "
+             "directory ; statusbar=Failed to open txt file, error: Is a directory ; tBLastResult=saved 0 of "
+             "1, 1 failed"},
             {"cBBackupTxt", "cBBackupTxt=backup on"},
             {"cBSaveTagsDuplicates", "cBSaveTagsDuplicates=dups on"},
             {"tBSaveTags", "disk a.txt=\"ho,nd\" v3 ; disk a_backup_0.txt=\"cat,dog,ant,fox\" ; disk "
@@ -263,8 +304,11 @@ private slots:
                                  "tBLastResult=saved 1"},
             {"listView > Edit &tag file", "AddTagsDialog=Edit tags, one per line or/and \",\" separated.."},
             {"AddTagsDialog.plainTextEdit = y\ny, y", "AddTagsDialog.plainTextEdit=y\\ny, y"},
+            {"select b.png", "lwImageTags=cat"},
             {"AddTagsDialog.pBAdd", "AddTagsDialog=(nothing) ; disk a.txt=\"y\\ny, y\" v6 ; "
-                                    "lwAllImagesTags=cat|y ; lwImageTags=y|y|y ; pTETagsFromFile=y\\ny, y"},
+                                    "labelTagsFromFile=File: FOLDER/a.txt ; lwAllImagesTags=cat|y ; "
+                                    "lwImageTags=* ; pTETagsFromFile=y\\ny, y"},
+            {"select a.png", "lwImageTags=y|y|y"},
             {"leFilterImages = b.png",
              "labelCurrentSelectionTags=Current selection [0] tags: ; leFilterImages=b.png ; listView=b.png "
              "; lwImageTags=(nothing) ; row a.png=(nothing) ; row c.png=(nothing) ; selected=(nothing) ; "
@@ -315,6 +359,7 @@ private slots:
             {"cBDspEffectsList = Brightness", ""},
             {"tBAddEffect", "dockWidget_ImgPreview=Image 280x224 preview ; imgWidget=red ; "
                             "lWDspEffects=Brightness 10 (list)"},
+            {"press Ctrl+S in imgWidget", "statusbar=Preview of effects is not saved, use Apply."},
             {"horizontalSlider = 255",
              "imgWidget=none ; lWDspEffects=Brightness 255 (list) ; statusbar=Filters applied to: 1 files"},
             {"pBDspApply", "disk processed/a.png=100x80 none ; disk processed/b.jpg=300x240 none ; "
@@ -334,8 +379,10 @@ private slots:
             {"lWDspEffects > &Toggle bypass", "imgWidget=none ; lWDspEffects=Sharpen|Brightness 255 (list) ; "
                                               "statusbar=Filters applied to: 1 files"},
             {"pBDspReset", "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue"},
+            {"press Ctrl+S in imgWidget", "statusbar=(background) ; tBLastResult=saved 1"},
             {"tbProfileNew_HL", "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 280x224 "
-                                "preview ; imgWidget=red ; lWDspEffects= (list)"},
+                                "preview ; imgWidget=red ; lWDspEffects= (list) ; statusbar=Filters applied "
+                                "to: 1 files"},
             {"ProfilesEditWidget.lEProfileName = Soft", "ProfilesEditWidget.lEProfileName=Soft"},
             {"ProfilesEditWidget.pBApply", "ProfilesEditWidget=(nothing)"},
             {"cBDspEffectsList = Blur",
@@ -343,7 +390,10 @@ private slots:
             {"tBAddEffect", "lWDspEffects=Blur 0 (list)"},
             {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
             {"ProfilesEditWidget.pBClose", "ProfilesEditWidget=(nothing)"},
+            {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
+            {"ProfilesEditWidget.lEProfileName = Softer", "ProfilesEditWidget.lEProfileName=Softer"},
             {"tbProfileMoveUp_HL", ""},
+            {"ProfilesEditWidget.pBApply", "ProfilesEditWidget=(nothing)"},
             {"tbProfileMoveDown_HL", ""},
             {"restart",
              "cBDspEffectsList=Brightness of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen ; "
@@ -357,9 +407,13 @@ private slots:
             {"select 0 in lWDspEffects", ""},
             {"lWDspEffects > &Remove selected", "lWDspEffects=Brightness 255 (list)"},
             {"tBDelete", "lWDspEffects= (list)"},
-            {"cBProfilesName_HL = Soft", "lWDspEffects=Blur 0 (list)"},
+            {"cBProfilesName_HL = Softer", "lWDspEffects=Blur 0 (list)"},
             {"lWDspEffects > &Clear", "lWDspEffects= (list)"},
-            {"tbProfileRemove_HL", ""},
+            {"select b.jpg",
+             "dockWidget_ImgPreview=Image 280x224 preview ; statusbar=Filters applied to: 1 files"},
+            {"press Ctrl+S in imgWidget", "statusbar=Preview of effects is not saved, use Apply."},
+            {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
+            {"tbProfileRemove_HL", "ProfilesEditWidget=(nothing) ; statusbar=Filters applied to: 1 files"},
         };
         live(desk, steps);
         resizingObeysItsForm(desk);
@@ -608,6 +662,7 @@ private slots:
             folder.addImage("a.png", {40, 30}, Qt::red);
             folder.addImage("b.png", {80, 60}, Qt::blue);
             folder.addImage("away/c.png", {44, 33}, Qt::cyan);
+            folder.addFile("away/readme.txt", "hands, off");
             folder.addTags("b.png", "fog");
             folder.addTags("c.png", "dune");
             QFile::copy(clipPath("h264.mp4"), folder.filePath("clip.mp4"));
@@ -661,11 +716,11 @@ private slots:
             {"sBSpecificH = -1", "sBSpecificH=-1"},
             {"pBProcessResize",
              "disk scaled/b.png=15x30 blue ; statusbar=(background) ; tBLastResult=resized 1"},
-            {"action_Import_files -> FOLDER/away/c.png",
-             "asked=Select files to import ; complaints=Error, unable to find model item for: "
-             "\"FOLDER/c.png\" ; disk c.png=44x33 cyan ; labelTagsFromFile=File: FOLDER/c.txt ; "
+            {"action_Import_files -> FOLDER/away/c.png|FOLDER/away/readme.txt",
+             "asked=Select files to import ; complaints=* ; disk c.png=44x33 cyan ; disk readme.txt=\"hands, "
+             "off\" ; labelTagsFromFile=File: FOLDER/c.txt ; "
              "listView=a.png|b.png|c.png|clip.mp4|clip_TIME.png ; pTETagsFromFile=dune ; row c.png=44x33 "
-             "cyan ; statusbar=(background) ; tBLastResult=imported 1"},
+             "cyan ; statusbar=(background) ; tBLastResult=imported 2"},
             {"select b.png|c.png", "lwImageTags=fog|dune"},
             {"listView > &Delete file -> OK",
              "asked=Delete files. ; disk b.png=(nothing) ; disk c.png=(nothing) ; dockWidget_ImgPreview=* ; "

@@ -33,6 +33,7 @@ private slots:
                 return;
             if (requests == 1) {
                 QCOMPARE(driver.widget<QToolButton>("tBBatchProgress")->text(), QString("captions 0/3"));
+                QCOMPARE(driver.statusText(), QString("Ollama processing: 0 total 3"));
                 // The button stays enabled although the server no longer answers, since it aborts the batch.
                 peer.setAnswers("/api/version", {{{}, OllamaPeer::Closing}});
                 driver.click("tBOllamaReconect");
