@@ -50,6 +50,11 @@ private slots:
                 }
             }
         }
+        const auto* tags = driver.widget<QListView>("lwAllImagesTags");
+        QSet<int> widths;
+        for (int row = 0; row < tags->model()->rowCount(); ++row)
+            widths.insert(tags->visualRect(tags->model()->index(row, 0)).width());
+        QVERIFY(widths.size() > 1);
     }
 
     void headersHideAllButOneColumn() {
@@ -69,6 +74,12 @@ private slots:
         QVERIFY(!header->isSectionHidden(0));
         choose("Show all", 0);
         QCOMPARE(header->hiddenSectionCount(), 0);
+        // A third click brings the order of the scan back.
+        for (const int sorted : {int(ColName), int(ColName), -1}) {
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              {header->sectionViewportPosition(ColName) + 20, 5});
+            QCOMPARE(header->sortIndicatorSection(), sorted);
+        }
         // A scan reads the layout of the last shutdown back.
         choose("Hide", ColSize);
         driver.rescan();
