@@ -287,8 +287,10 @@ MediaFacts MainWindow::mediaFacts(int row, const QString& filePath, int asked) c
 void MainWindow::onFilterImages(const QString& txt) {
     const QString reason = tr("%1 hidden by the filter line");
     QStringList differentTags;
-    for (const TagCount& counted : _imageTags->counted())
-        differentTags.append(counted.tag);
+    if (!txt.isEmpty()) {
+        for (const TagCount& counted : _imageTags->counted())
+            differentTags.append(counted.tag);
+    }
     if (MediaQuery::isQuery(txt)) {
         const MediaQuery query(txt, differentTags);
         if (query.isValid()) {

@@ -44,7 +44,8 @@ const QList<TagCount>& TagRecord::counted() const {
 }
 
 void TagRecord::announce(TagChange change) {
-    _counted.reset();
+    if (change != TagChange::Saved)
+        _counted.reset();
     emit changed(change);
 }
 
