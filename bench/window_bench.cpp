@@ -19,6 +19,7 @@
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
+#include <QTabWidget>
 #include <QTableView>
 
 #include <algorithm>
@@ -69,8 +70,9 @@ public:
         Ratio::header();
         opening();
         const std::pair<const char*, void (Bench::*)()> topics[] = {
-            {"filter", &Bench::filtering}, {"sort", &Bench::sorting},    {"select", &Bench::selecting},
-            {"tags", &Bench::tagPanel},    {"remove", &Bench::removing}, {"texts", &Bench::texts}};
+            {"filter", &Bench::filtering},  {"sort", &Bench::sorting},    {"select", &Bench::selecting},
+            {"tags", &Bench::tagPanel},     {"remove", &Bench::removing}, {"texts", &Bench::texts},
+            {"effects", &Bench::effectsTab}};
         for (const auto& [name, measure] : topics) {
             if (only.isEmpty() || only == name)
                 (this->*measure)();
@@ -369,6 +371,46 @@ private:
                         file.write(tags.join(',').toUtf8());
                 }
             });
+    }
+
+    // Stepping from one photograph to the next while the Effects tab shows its preview.
+    void effectsTab() {
+        QImage photo(4000, 3000, QImage::Format_RGB32);
+        photo.fill(Qt::darkCyan);
+        for (int line = 0; line < photo.height(); line += 3)
+            std::fill_n(reinterpret_cast<QRgb*>(photo.scanLine(line)), photo.width(), qRgb(line >> 4, 99, 7));
+        QStringList photos;
+        for (int number = 0; number < Ratio::runs; ++number) {
+            photos.append(QDir(_bench.path()).filePath(QString("photo_%1.jpg").arg(number)));
+            photo.save(photos.last(), "jpg", 90);
+            QFile::copy(QDir(_bench.path()).filePath(catalogue::pictureName(0)).chopped(4) + ".txt",
+                        photos.last().chopped(4) + ".txt");
+        }
+        _bench.open();
+        _bench.waitForPreviews();
+        _bench.find<QTabWidget>("tWTools")->setCurrentWidget(_bench.find<QWidget>("tabImgDSP"));
+        auto* view = _bench.find<QListView>("listView");
+        const auto* preview = _bench.find<QWidget>("imgWidget");
+        QModelIndexList rows;
+        for (const QString& path : std::as_const(photos))
+            rows.append(view->model()->match(view->model()->index(0, 0), RoleValue, path).value(0));
+        int calls = 0;
+        int number = 0;
+        Ratio::report(
+            label("step to a photograph in the Effects tab"),
+            [&] {
+                view->setCurrentIndex(rows[number]);
+                if (_bench.window().selectedFilePaths() != QStringList(photos[number]))
+                    qFatal("another file is selected");
+                QCoreApplication::processEvents();
+            },
+            [&] {
+                const QImage bound = QImage(photos[number]).scaled(preview->size(), Qt::KeepAspectRatio);
+                if (bound.isNull())
+                    qFatal("no photograph");
+            },
+            // Each side of a run gets the same file, which nothing has shown before.
+            [&] { number = calls++ / 2; });
     }
 
     mutable BenchWindow _bench;
