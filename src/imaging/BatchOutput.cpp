@@ -13,6 +13,7 @@ QString resolveOutputDirectory(const QString& workingPath, const QString& output
 }
 
 bool ensureOutputDirectory(const QString& directory) {
+    // A file of that name passes, too: each write into it then fails and is reported.
     return QFile::exists(directory) || QDir().mkpath(directory);
 }
 
@@ -25,6 +26,7 @@ QString outputFilePath(const QString& sourcePath, const QString& outputDirectory
 }
 
 ImageFileOptions batchImageOptions(int quality) {
+    // For TIFF a compression of 1 is LZW, without loss.
     return {.format = {}, .quality = quality, .compression = 1};
 }
 
@@ -36,6 +38,7 @@ bool BatchWriter::write(const QImage& image, const QString& filePath) {
         return false;
     }
     ++_writtenCount;
+    // Two sources of one name, from different directories, are written to the same path.
     _written.insert(filePath);
     return true;
 }

@@ -19,6 +19,7 @@ struct NumberedFilter {
 
 constexpr std::array numberedFilters{
     NumberedFilter{ImageFilters::Brightness, {-255, 255, 10, 0}},
+    // An initial value below the range, which the slider of a new row raises to 10.
     NumberedFilter{ImageFilters::Contrast, {10, 30, 0, std::nullopt}},
     NumberedFilter{ImageFilters::Blur, {0, 18, 0, 0}},
     NumberedFilter{ImageFilters::WhitePoint, {0, 255, 255, 255}},
@@ -35,6 +36,7 @@ constexpr int sharpenSide = 3;
 constexpr std::array sharpenKernel{-1.0, -1.0, -1.0, -1.0, 9.0, -1.0, -1.0, -1.0, -1.0};
 
 QImage sharpened(const QImage& image) {
+    // A shared copy: convolute() gives it new pixels and leaves those that it reads.
     QImage result = image;
     ImageDSP::convolute(result, QPointF(0, 0), image, QRectF(image.rect()), QPainter::CompositionMode_Source,
                         sharpenKernel, sharpenSide, sharpenSide);
@@ -88,6 +90,8 @@ QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied)
         qDebug() << "Error, invalid filter type";
         return image;
     }
+    // A neutral row does not count as applied, so that a batch writes no file for it. A filter without a
+    // neutral value never returns here.
     if (range->neutral == step.value)
         return image;
     *applied = true;
@@ -95,6 +99,7 @@ QImage filteredImage(const QImage& image, const FilterStep& step, bool* applied)
 }
 
 StoredFilterOptions storedFilterOptions(const QHash<QString, QVariant>& options) {
+    // Profiles come from a file: a value of another type is converted, or becomes false or 0.
     StoredFilterOptions stored{.isBypassed = options.value(bypassedOption, false).toBool(),
                                .numberType = options.value(numberTypeOption, 0).toInt(),
                                .value = {}};
@@ -114,6 +119,7 @@ void storeFilterNumber(QHash<QString, QVariant>& options, int numberType, int va
     if (numberType == 0)
         options.insert(valueOption, value);
     else if (numberType == 1)
+        // Nothing is lost on the way back: n / 10.0 * 10.0 equals n for every integer.
         options.insert(tenthsOption, value / tenthsPerUnit);
 }
 
@@ -123,7 +129,8 @@ QList<FilterStep> filterChain(const EffectList& effects) {
         const StoredFilterOptions stored = storedFilterOptions(options);
         FilterStep step{.type = ImageFilters::filterType(name), .isBypassed = stored.isBypassed};
         if (const std::optional<FilterRange> range = filterRange(step.type))
-            // The slider of a row limits a stored value in the same way.
+            // The slider of a row limits a stored value in the same way, and keeps its initial one where the
+            // type of number is unknown.
             step.value = std::clamp(stored.value.value_or(range->initial), range->minimum, range->maximum);
         chain.append(step);
     }

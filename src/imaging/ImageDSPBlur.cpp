@@ -73,6 +73,7 @@ void walkRows(const std::array<uchar*, bandRows>& rows, qsizetype pixels, qsizet
         return std::array{BlurLanes::fromPixels(rows[2 * I], rows[2 * I + 1])...};
     };
     auto lanes = walks(std::make_index_sequence<Pairs>());
+    // The first pixel is the initial state and keeps its value.
     for (qsizetype x = 1; x < pixels; ++x) {
         const qsizetype at = x * step;
         for (size_t i = 0; i < Pairs; ++i) {
@@ -110,6 +111,7 @@ void blurBothWays(const BlurArea& area, bool backward, quint16 alpha) {
     for (int done = 0; done < area.rows; done += bandRows) {
         const int count = std::min(bandRows, area.rows - done);
         std::array<uchar*, bandRows> starts{};
+        // Down the columns first: the walk along a row reads what they have written.
         for (int i = 0; i < count; ++i) {
             uchar* const row = area.firstRow + (done + i) * area.rowStep;
             if (done + i == 0)
@@ -134,6 +136,7 @@ void walkOneChannel(uchar* first, qsizetype step, qsizetype count, int alpha) {
 
 void blurAlpha(uchar* topLeft, qsizetype stride, qsizetype width, qsizetype height, int alpha) {
     uchar* const channel = topLeft + 3;
+    // The same four walks as in blurBothWays(), one after the other.
     for (qsizetype x = 0; x < width; ++x)
         walkOneChannel(channel + x * 4, stride, height, alpha);
     for (qsizetype y = 0; y < height; ++y)
@@ -162,6 +165,7 @@ QImage ImageDSP::blurred(const QImage& image, const QRect& rect, int radius, boo
         return result;
     }
     uchar* const bottomLeft = topLeft + (area.height() - 1) * stride;
+    // First down and to the right, then up and to the left over the result: the order is part of it.
     blurBothWays({topLeft, stride, area.height(), area.width()}, false, alpha);
     blurBothWays({bottomLeft, -stride, area.height(), area.width()}, true, alpha);
     return result;

@@ -74,6 +74,7 @@ std::vector<TapPair> tapPairs(const FixedKernel& kernel, qsizetype stride) {
             pairs.push_back({offset, offset, {}, {}});
         TapPair& pair = pairs.back();
         pair.second = offset;
+        // Even lanes belong to the first tap of a pair, odd ones to the second.
         for (size_t lane = open ? 1 : 0; lane < 8; lane += 2) {
             pair.high.weights[lane] = weightHigh(weight);
             pair.low.weights[lane] = weightLow(weight);
@@ -158,8 +159,10 @@ ConvolutionArea convolutionArea(const QRectF& region, const QPointF& position, c
                                 int kernelWidth, int kernelHeight) {
     const QMargins reach(kernelWidth / 2, kernelHeight / 2, (kernelWidth - 1) / 2, (kernelHeight - 1) / 2);
     const auto grown = [&reach](const QRectF& rect) { return rect.marginsAdded(reach).toAlignedRect(); };
+    // Grown by the reach of the kernel: pixels beside the region get colour from inside it.
     const QRect moved = grown(QRectF(position, region.size()));
     const QRect target = moved & destination;
+    // What the destination cuts off at the left and the top is skipped in the source as well.
     return {target, grown(region).topLeft() + (target.topLeft() - moved.topLeft())};
 }
 

@@ -24,11 +24,13 @@ QImage mapPixels(const QImage& image, const Step& step) {
     // The copy of an image over foreign memory has rows without padding.
     const QImage source = isFlat32Bit(image) ? image : image.copy();
     QImage result = blankLike(source);
+    // Short of memory: a batch then reports that the file cannot be written.
     if (result.isNull())
         return result;
     const auto* in = reinterpret_cast<const quint32*>(source.constBits());
     auto* out = reinterpret_cast<quint32*>(result.bits());
     const qsizetype pixels = qsizetype{source.width()} * source.height();
+    // All threads use the same step, which therefore only reads what it holds.
     parallelLoop(pixels, QThread::idealThreadCount(), [in, out, &step](qsizetype begin, qsizetype end) {
         step(in + begin, out + begin, end - begin);
     });
@@ -74,6 +76,7 @@ QImage ImageDSP::brightness(const QImage& image, double factor, int offset) {
     qDebug() << "ImageDSP::brightness";
     // Without a factor the sums stay whole numbers, which compilers vectorise.
     if (factor == 1.0) {
+        // A larger offset makes every channel 0 or 255 as well, and these sums fit 16 bits.
         const auto shift = static_cast<qint16>(std::clamp(offset, -255, 255));
         return mapPixels(image, [shift](const quint32* in, quint32* out, qsizetype pixels) {
             mapBytesOpaque(in, out, pixels, [shift](uchar c) {

@@ -19,6 +19,7 @@ ImageFilterWidgetBase* ImageFilters::createFilterWidget(const QString& filterNam
         return row;
     }
     auto* const slider = new ImageFilterWidgetSlider(row);
+    // For an unknown name the slider keeps the range of its form, and the row does nothing.
     if (const std::optional<FilterRange> range = filterRange(type)) {
         slider->setRange(range->minimum, range->maximum);
         slider->setValue(range->initial);
@@ -37,6 +38,7 @@ QImage ImageFilters::applyFilter(const QImage& image, QWidget* row, bool* applie
         return image;
     }
     FilterStep step{.type = filterRow->filterType(), .isBypassed = !filterRow->isFilterEnabled()};
+    // A bypassed row needs no number, and Sharpen has none.
     if (!step.isBypassed && filterRange(step.type)) {
         const auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(filterRow->optionWidget());
         if (!slider) {

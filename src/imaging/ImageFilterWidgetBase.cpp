@@ -17,6 +17,7 @@ ImageFilterWidgetBase::ImageFilterWidgetBase(QWidget* parent)
     connect(_ui->tBMoveUp, &QToolButton::clicked, this, &ImageFilterWidgetBase::itemMoveUp);
     connect(_ui->tBMoveDown, &QToolButton::clicked, this, &ImageFilterWidgetBase::itemMoveDown);
     connect(_ui->cBEnabled, &QCheckBox::checkStateChanged, this, &ImageFilterWidgetBase::optionChanged);
+    // The main window passes on later changes of the theme.
     updateIcons(Themes::instance()->isDarkTheme());
 }
 
@@ -62,6 +63,7 @@ QHash<QString, QVariant> ImageFilterWidgetBase::options() const {
 
 void ImageFilterWidgetBase::setOptions(const QHash<QString, QVariant>& options) {
     const StoredFilterOptions stored = storedFilterOptions(options);
+    // Not blocked: a change on a connected row runs the preview.
     _ui->cBEnabled->setChecked(stored.isBypassed);
     auto* const slider = qobject_cast<ImageFilterWidgetSlider*>(_optionWidget);
     if (!slider)

@@ -41,6 +41,7 @@ void ImageFilterWidgetSlider::setSliderType(SliderType type) {
 }
 
 void ImageFilterWidgetSlider::setValue(int value) {
+    // Blocked, so that restoring a row does not run the chain for each number.
     const QSignalBlocker sliderBlocker(_ui->horizontalSlider);
     const QSignalBlocker spinBoxBlocker(_ui->spinBox);
     _ui->horizontalSlider->setValue(value);
@@ -57,6 +58,7 @@ double ImageFilterWidgetSlider::valueD() const {
 }
 
 void ImageFilterWidgetSlider::sliderValueChanged(int value) {
+    // Blocked, as the boxes would set the slider once more.
     const QSignalBlocker spinBoxBlocker(_ui->spinBox);
     const QSignalBlocker doubleSpinBoxBlocker(_ui->doubleSpinBox);
     _ui->spinBox->setValue(value);
@@ -65,6 +67,7 @@ void ImageFilterWidgetSlider::sliderValueChanged(int value) {
 }
 
 void ImageFilterWidgetSlider::onTenthsChanged(double tenths) {
+    // Truncated: the box has two decimals, the slider steps of a tenth.
     _ui->horizontalSlider->setValue(static_cast<int>(tenths * sliderStepsPerUnit));
     // A number between two tenths does not move the slider, so no signal of it corrects the box.
     showTenths();

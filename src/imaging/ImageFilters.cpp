@@ -12,6 +12,7 @@ constexpr std::array filterNameTable{
 
 const char* filterNameOf(ImageFilters::FilterType type) {
     const auto index = static_cast<size_t>(type);
+    // A negative type becomes a huge index, and counts as invalid, too.
     return filterNameTable[index < filterNameTable.size() ? index : 0];
 }
 

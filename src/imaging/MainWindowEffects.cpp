@@ -34,6 +34,7 @@ void MainWindow::initEffectViews() {
     list->setSpacing(8);
     list->setUniformItemSizes(true);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // A row widget does not survive a move of its item, so rows are moved by their buttons.
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setSortingEnabled(false);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -72,10 +73,12 @@ void MainWindow::connectEffectRow(const ImageFilterWidgetBase* row) {
     connect(row, &ImageFilterWidgetBase::itemDelete, this, &MainWindow::onFilterItemDelete);
     connect(row, &ImageFilterWidgetBase::itemMoveUp, this, &MainWindow::onFilterItemMoveUp);
     connect(row, &ImageFilterWidgetBase::itemMoveDown, this, &MainWindow::onFilterItemMoveDown);
+    // The sender is the row, not the Apply button, which makes this a preview.
     connect(row, &ImageFilterWidgetBase::optionChanged, this, &MainWindow::onFilterApply);
 }
 
 void MainWindow::onAddDspEffect() {
+    // The data is the name that profiles store, the text of the entry its translation.
     onAddDspEffectItem(ui->cBDspEffectsList->currentData().toString());
     onFilterApply();
 }
@@ -129,11 +132,13 @@ void MainWindow::onFilterItemMove(bool up, QListWidgetItem* item) {
         return;
     const ImageFilterWidgetBase* row = effectRow(item);
     const QVariantHash options = row ? row->options() : QVariantHash();
+    // The view deletes the old row later, as the click of one of its buttons is still being handled.
     list->removeItemWidget(item);
     list->takeItem(index);
     list->insertItem(up ? index - 1 : index + 1, item);
     ImageFilterWidgetBase* rebuilt = attachEffectRow(item);
     rebuilt->setOptions(options);
+    // Connected last, so that restoring its options does not run the chain.
     connectEffectRow(rebuilt);
 }
 
@@ -177,6 +182,7 @@ void MainWindow::forEachEffectRow(const std::function<void(ImageFilterWidgetBase
 
 QString MainWindow::prepareOutputDirectory(const QString& outputText) {
     const QString directory = resolveOutputDirectory(ui->lEWorkingPath->text(), outputText);
+    // A batch goes on all the same, and each of its writes then fails with its own message.
     if (!ensureOutputDirectory(directory))
         onShowMessage(tr("Error, unable to create out path %1 file will be not saved.").arg(directory));
     return directory;
@@ -185,6 +191,7 @@ QString MainWindow::prepareOutputDirectory(const QString& outputText) {
 void MainWindow::onFilterApply() {
     // The slot serves the batch and the live preview of each change. Only the button starts a batch.
     const bool isBatch = sender() == ui->pBDspApply;
+    // The result appears in this dock, which the user may have closed.
     ui->dockWidget_ImgPreview->show();
     QStringList paths = selectedFilePaths();
     if (paths.isEmpty()) {
@@ -193,6 +200,7 @@ void MainWindow::onFilterApply() {
     }
     if (!isBatch)
         paths = {paths.last()};
+    // A preview makes the directory as well, on purpose, and so shows early where that is impossible.
     const QString directory = prepareOutputDirectory(ui->lEDspDirOutput->text());
     const std::optional<WaitCursor> waitCursor =
         isBatch ? std::optional<WaitCursor>(std::in_place) : std::nullopt;
@@ -203,6 +211,7 @@ void MainWindow::onFilterApply() {
             return;
         }
         loadFilterImage(path, isBatch);
+        // Stays false while no row changes the image: a batch then writes no copy of it.
         bool applied = false;
         const QImage work = appliedEffects(_filterImage, applied);
         if (!applied) {

@@ -27,12 +27,13 @@ void MainWindow::onFilterProfilesCurrentAboutToChange() {
     EffectList effects;
     forEachEffectRow(
         [&](ImageFilterWidgetBase* row) { effects.emplaceBack(effectName(row->item()), row->options()); });
+    // The profile that the user leaves is still the current one here.
     Profiles::instance()->currentProfile().setOption(effectListOption, effectListToVariant(effects));
 }
 
 void MainWindow::onFilterProfilesHasChanged() {
     {
-        // Rows are restored silently; the preview is made once, at the end.
+        // The list is silent while it is filled. A row that is restored as bypassed still runs the preview.
         const QSignalBlocker blocker(ui->lWDspEffects);
         ui->lWDspEffects->clear();
         if (Profiles::instance()->isEmpty()) {
@@ -61,6 +62,7 @@ void MainWindow::addDefaultProfile() {
 
 void MainWindow::onFilterProfilesNewRequested() {
     addDefaultProfile();
+    // Every new profile has the same default name, so the user is asked for another one.
     Profiles::instance()->editCurrentProfile(this);
 }
 

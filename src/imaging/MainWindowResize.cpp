@@ -72,6 +72,7 @@ void MainWindow::onResizeGroupToggled(const QGroupBox* box, bool on) {
     const QGroupBox* chosen = resizeGroupBox(resizeModeAfterToggle(resizeModeOf(box), on));
     for (QGroupBox* other : resizeGroupBoxes()) {
         if (other != box) {
+            // Blocked, as each box that changes would switch the others in turn.
             const QSignalBlocker blocker(other);
             other->setChecked(other == chosen);
         }
@@ -115,6 +116,7 @@ void MainWindow::onProcessResize() {
     onShowMessage(tr("Resized %1 of total: %2").arg(0).arg(files.size()));
     const QString directory = prepareOutputDirectory(ui->lEScaleDirOutput->text());
     for (const QString& path : files) {
+        // Only logged: the reader below decides whether the file is an image.
         if (!mimeDatabase.mimeTypeForFile(path).isValid())
             qDebug() << "Error, unable to determine mime file:" << path;
         reader.setFileName(path);
@@ -127,10 +129,12 @@ void MainWindow::onProcessResize() {
         if (options.mode == ResizeMode::SpecificSize)
             logSpecificSize(options.specificSize);
         const std::optional<QImage> resized = resizedImage(image, options);
+        // Width and height are both -1: nothing was asked for, so nothing has failed.
         if (!resized)
             continue;
         if (options.mode == ResizeMode::AspectRatio)
             qDebug() << "iSize b4:" << image.size() << image << "iSize after:" << resized->size() << *resized;
+        // The message is painted at once, as no event is handled until all files are done.
         if (writeBatchImage(writer, *resized, path, directory))
             showBlockingMessage(tr("Resized %1 of total: %2").arg(writer.writtenCount()).arg(files.size()));
     }

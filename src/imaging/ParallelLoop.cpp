@@ -87,6 +87,7 @@ void parallelLoop(qsizetype count, int threads, const ChunkStep& step) {
         pool->start(&workers[static_cast<size_t>(i)]);
     }
     queue.work();
+    // Every item must have ended: they use the queue and the semaphore on this stack.
     finished.acquire(static_cast<int>(items));
     queue.acquireResults();
 }

@@ -14,6 +14,7 @@ void preferLargePages([[maybe_unused]] uchar* memory, [[maybe_unused]] qsizetype
 #ifdef Q_OS_LINUX
     constexpr quintptr largePage = quintptr{2} << 20;
     const auto address = reinterpret_cast<quintptr>(memory);
+    // Only whole large pages inside the buffer, as the advice must not reach its neighbours.
     const quintptr begin = (address + largePage - 1) / largePage * largePage;
     const quintptr end = (address + static_cast<quintptr>(size)) / largePage * largePage;
     if (begin < end)

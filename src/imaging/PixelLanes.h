@@ -71,6 +71,7 @@ inline BlurLanes BlurLanes::fromChannels(const uchar* eight) {
 }
 
 inline BlurLanes BlurLanes::fromPixels(const uchar* first, const uchar* second) {
+    // Copied, as reading bytes through a pointer to int is undefined; it becomes a plain load.
     int a;
     int b;
     std::memcpy(&a, first, sizeof a);
@@ -119,6 +120,7 @@ inline void TapSums::addTaps(const uchar* first, const uchar* second, const Weig
     const __m128i weights = _mm_load_si128(reinterpret_cast<const __m128i*>(pair.weights.data()));
     const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(first));
     const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(second));
+    // Interleaved, as madd multiplies neighbours and adds their products.
     const __m128i low = _mm_unpacklo_epi8(a, b);
     const __m128i high = _mm_unpackhi_epi8(a, b);
     _sums[0] = _mm_add_epi32(_sums[0], _mm_madd_epi16(_mm_unpacklo_epi8(low, zero), weights));
@@ -133,6 +135,7 @@ inline void TapSums::raiseAndAdd(const TapSums& low) {
 }
 
 inline void TapSums::storeClamped(uchar* sixteen) const {
+    // Packing saturates twice, to 16 bits with a sign and then to 0 to 255.
     const __m128i low = _mm_packs_epi32(_mm_srai_epi32(_sums[0], 16), _mm_srai_epi32(_sums[1], 16));
     const __m128i high = _mm_packs_epi32(_mm_srai_epi32(_sums[2], 16), _mm_srai_epi32(_sums[3], 16));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(sixteen), _mm_packus_epi16(low, high));

@@ -93,6 +93,7 @@ private:
     }
 
     bool take(qint64 size) {
+        // Compared with a difference, as a sum with a hostile size could overflow.
         if (isOk() && size > _bytes.size() - _position)
             fail(QDataStream::ReadPastEnd);
         if (!isOk())
@@ -199,6 +200,7 @@ private:
 QDataStream::Status decodeProfile(const QByteArray& bytes, Profile* profile) {
     QDataStream stream(bytes);
     stream >> *profile;
+    // The walker has measured more than Qt has read, so the two disagree about the structure.
     if (stream.status() == QDataStream::Ok && !stream.atEnd())
         return QDataStream::ReadCorruptData;
     return stream.status();
@@ -234,6 +236,7 @@ ProfileStreamContents readProfileStream(const QByteArray& bytes) {
 QByteArray writeProfileStream(const QList<Profile>& profiles, qint32 current, QDataStream::Status* status) {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
+    // No version is set, neither here nor for reading: both use that of the Qt in use.
     stream << profiles << current;
     if (status)
         *status = stream.status();

@@ -47,6 +47,7 @@ void Profiles::addProfile(const Profile& profile) {
 }
 
 void Profiles::removeProfile(int index) {
+    // The rows on the screen are stored while their profile still has its index.
     emit profilesCurrentAboutToChange();
     if (isValidIndex(index)) {
         _profiles.removeAt(index);
@@ -68,6 +69,7 @@ void Profiles::setCurrentProfile(int idx) {
         qDebug() << "Error, unable to set current profile, invalid index:" << idx;
         return;
     }
+    // No refresh: the chooser is the sender and shows the profile already.
     selectProfile(idx);
 }
 
@@ -144,6 +146,7 @@ void Profiles::editCurrentProfile(QWidget* parent) {
         connect(_editWidget, &ProfilesEditWidget::profilesUpdated, this, &Profiles::onProfileEdited);
     }
     _edited = _current;
+    // As a plain child it would be laid over its parent.
     _editWidget->setWindowFlag(Qt::Dialog);
     _editWidget->setProfile(&currentProfile());
     _editWidget->show();
@@ -196,6 +199,7 @@ void Profiles::restore(const QByteArray& data) {
         profile.setAllowedOptionsKeys(_allowedOptionsKeys);
     refreshWidget();
     dump();
+    // The list may be empty then; the main window adds a default profile.
     if (contents.status != QDataStream::Ok)
         qDebug() << "Error, restore profile data stream status:" << static_cast<int>(contents.status);
     emit profilesHasChanged();

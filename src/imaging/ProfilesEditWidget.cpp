@@ -25,6 +25,7 @@ void ProfilesEditWidget::setProfile(Profile* profile) {
 }
 
 void ProfilesEditWidget::onApply() {
+    // Makes Profiles store the rows and renew the pointer to the profile.
     emit aboutToApply();
     // The profile was removed in the meantime.
     if (!_profile) {

@@ -54,6 +54,7 @@ QList<QAbstractButton*> ProfilesWidget::toolButtons() const {
 
 void ProfilesWidget::setProfiles(const QList<Profile>& profiles, int current) {
     QComboBox* const comboBox = activeComboBox();
+    // Blocked, as filling the box would change the current profile.
     const QSignalBlocker blocker(comboBox);
     comboBox->clear();
     for (const Profile& profile : profiles) {

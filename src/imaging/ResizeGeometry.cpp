@@ -35,6 +35,7 @@ QSizeF resizedSize(QSizeF size, const ResizeOptions& options) {
         return {size.width(), std::min(size.width(), size.height()) * options.aspectRatio};
     QSizeF target = options.specificSize;
     const SpecificSizeOperation operation = specificSizeOperation(options.specificSize);
+    // The side that follows gets the ratio of the source.
     if (operation == SpecificSizeOperation::ScaleToHeight)
         target.setWidth(size.width() * target.height() / size.height());
     if (operation == SpecificSizeOperation::ScaleToWidth)
@@ -61,6 +62,7 @@ SpecificSizeOperation specificSizeOperation(const QSize& size) {
 }
 
 QSize scaledSize(const QSize& size, double factor) {
+    // QSize rounds, and limits the result to the range of int.
     return size * factor;
 }
 
@@ -90,6 +92,7 @@ std::optional<QImage> resizedImage(const QImage& image, const ResizeOptions& opt
     case ResizeMode::SpecificSize:
         return resizedToSpecificSize(image, options);
     case ResizeMode::AspectRatio:
+        // Where the crop reaches beyond the image, copy() sets the pixels to 0.
         return image.copy(aspectRatioCrop(image.size(), options.aspectRatio));
     }
     return std::nullopt;
