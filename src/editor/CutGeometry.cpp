@@ -8,6 +8,7 @@ namespace {
 int cutTruncated(double value) {
     constexpr double low = std::numeric_limits<int>::min();
     constexpr double high = std::numeric_limits<int>::max();
+    // Clamped first, as converting a number beyond the range of int is undefined.
     return static_cast<int>(std::clamp(value, low, high));
 }
 
@@ -89,6 +90,7 @@ std::array<CutRegion, 9> cutRegions(const QRectF& cutRect) {
 CutRegion cutRegionAt(const QRectF& cutRect, const QTransform& imageToWidget, double zoom,
                       QPointF widgetPosition) {
     for (const CutRegion& region : cutRegions(cutRect)) {
+        // The view only scales and moves, so a mapped corner and the zoom give the whole rectangle.
         const QRectF onWidget(imageToWidget.map(region.rect.topLeft()), region.rect.size() * zoom);
         if (onWidget.contains(widgetPosition))
             return region;
@@ -144,6 +146,7 @@ QRectF alignedCutRect(const QRectF& cutRect, CutAlignment alignment, const QRect
 }
 
 CutShift shiftAfterCut(const QRectF& cutRect) {
+    // A cut that begins outside the picture removes nothing on that side.
     const QPoint translation(cutTruncated(std::max(cutRect.left(), 0.0)),
                              cutTruncated(std::max(cutRect.top(), 0.0)));
     return {translation, cutRect.translated(-translation)};

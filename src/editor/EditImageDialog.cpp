@@ -33,17 +33,20 @@ EditImageDialog::EditImageDialog(QWidget* parent)
     _ui->setupUi(this);
     keepMessages(this);
     initActions();
+    // The fields of the cut rectangle, shown with the cut tool only.
     _ui->stackedWidget->hide();
     connect(Themes::instance(), &Themes::themeAccentChanged, this, &EditImageDialog::updateIcons);
     updateIcons(Themes::instance()->isDarkTheme());
     initControlConnections();
     initViewConnections();
+    // The keys of the view work without a click into it first.
     _ui->imgWidget->setFocus();
 }
 
 EditImageDialog::~EditImageDialog() = default;
 
 void EditImageDialog::setImageFile(const QString& filePath, const QString& positionText) {
+    // The file was removed in the meantime, or the only file of the catalogue was deleted from here.
     if (!QFile::exists(filePath)) {
         qDebug() << "Error, file don't exists:" << filePath;
         return;
@@ -182,12 +185,14 @@ void EditImageDialog::onToolChanged(EditImageWidget::Tool tool) {
     _ui->stackedWidget->hide();
     if (tool != EditImageWidget::ToolCut)
         return;
+    // The view has set the rectangle to the whole picture.
     onToolCutSizeChanged(_ui->imgWidget->cutRect());
     setQuietly(_ui->sBCutOutlineWidth, _ui->imgWidget->cutOutlineWidth());
     _ui->stackedWidget->show();
 }
 
 void EditImageDialog::onToolCutSizeChanged(QRectF cutRect) {
+    // Blocked, as each box would set a rectangle of which the other fields are still the old ones.
     setQuietly(_ui->dSBCutX, cutRect.x());
     setQuietly(_ui->dSBCutY, cutRect.y());
     setQuietly(_ui->dSBCutWidth, cutRect.width());

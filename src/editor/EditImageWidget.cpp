@@ -39,6 +39,7 @@ int cutKeyStep(Qt::KeyboardModifiers modifiers) {
 bool isSaveKey(const QKeyEvent* event) {
     if (event->key() == Qt::Key_Save)
         return true;
+    // The second test accepts Ctrl together with other modifiers.
     return event->key() == Qt::Key_S &&
            (event->modifiers() == Qt::ControlModifier ||
             QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier));
@@ -54,6 +55,7 @@ EditImageWidget::EditImageWidget(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::WheelFocus);
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, &QWidget::customContextMenuRequested, this, &EditImageWidget::onContextMenu);
+    // Connected first, so that every other receiver finds the view changed already.
     connect(this, &EditImageWidget::autoCenterChanged, this, &EditImageWidget::updateAutoCenter);
     connect(this, &EditImageWidget::autoFitChanged, this, &EditImageWidget::fitImage);
 }
@@ -72,6 +74,7 @@ void EditImageWidget::setImageFilePath(const QString& filePath) {
     _noSaveReason.clear();
     if (!QFile::exists(filePath)) {
         qDebug() << "Error, file don't exists:" << filePath;
+        // Saving then fails with a message. The steps of undo stay, from which the user can save a copy.
         _imageFilePath.clear();
         _pixmap = {};
         update();
@@ -166,6 +169,7 @@ void EditImageWidget::wheelEvent(QWheelEvent* event) {
     }
     const double change = wheelZoomChange(event->angleDelta(), event->pixelDelta(),
                                           event->modifiers().testFlag(Qt::ShiftModifier));
+    // Added, not multiplied: a notch changes the zoom by the same amount everywhere.
     _zoom += QPointF(change, change);
     applyZoom(QCursor::pos());
     emit zoomChanged(_zoom);
@@ -209,6 +213,7 @@ void EditImageWidget::paintCutRect(QPainter& painter) const {
 void EditImageWidget::mousePressEvent(QMouseEvent* event) {
     _lastMousePos = event->position();
     if (_tool == ToolCut && event->buttons().testFlag(Qt::LeftButton)) {
+        // Outside of all regions the part is none, and the drag pans the picture.
         const CutRegion region = cutRegionAt(_cutRect, _transform, _zoom.x(), event->position());
         _cutPart = region.part;
         _cutPartRect = region.rect;
@@ -237,6 +242,7 @@ void EditImageWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (_tool == ToolCut) {
         qDebug() << "EditImageWidget::mouseReleaseEvent" << _cutRect;
         _cutPartRect = {};
+        // Only now: the number fields are not updated at every move of a drag.
         emit cutSizeChanged(_cutRect);
     }
     _cutPart = CutPartNone;
@@ -284,6 +290,7 @@ bool EditImageWidget::event(QEvent* event) {
 }
 
 void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
+    // By any key: the lock begins anew with the next press under a modifier.
     _axisLock = noAxisLock;
     const Qt::KeyboardModifiers modifiers = releasedModifiers(event);
     handleViewKey(event->key(), modifiers);
@@ -379,6 +386,7 @@ void EditImageWidget::applyCut() {
         return;
     }
     _pixUndoRedo.append(_pixmap);
+    // copy() leaves out what lies outside the picture; for a rectangle without a pixel inside it takes all.
     _pixmap = _pixmap.copy(_cutRect.toRect());
     const CutShift shift = shiftAfterCut(_cutRect);
     _transform.translate(shift.translation.x(), shift.translation.y());
@@ -418,6 +426,7 @@ void EditImageWidget::saveImageAs() {
     QString startName = _imageFilePath;
     if (startName.isEmpty())
         startName = u"%1.png"_s.arg(QDateTime::currentDateTime().toString(u"dd_MM_yyyyThh_mm_ss_zzz"_s));
+    // A free name is proposed, so that accepting it replaces no file.
     const QString filePath = QFileDialog::getSaveFileName(this, tr("Save image as"),
                                                           numberedFilePath(startName), imageDialogFilter());
     if (!filePath.isEmpty())

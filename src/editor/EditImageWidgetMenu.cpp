@@ -7,6 +7,7 @@
 
 void EditImageWidget::onContextMenu(QPoint) {
     auto* menu = new QMenu(this);
+    // popup() returns at once, so that the menu cannot live on the stack.
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addActions(actions());
     if (_tool == ToolCut)
@@ -37,6 +38,7 @@ void EditImageWidget::addViewEntries(QMenu* menu) {
 
 void EditImageWidget::addCutEntries(QMenu* menu) {
     const auto addAlignment = [this, menu](const QString& text, CutAlignment alignment) {
+        // Nothing is emitted: the number fields follow at the next release of a key or button.
         connect(menu->addAction(text), &QAction::triggered, this,
                 [this, alignment] { onCutRectSet(alignedCutRect(_cutRect, alignment, _pixmap.rect())); });
     };

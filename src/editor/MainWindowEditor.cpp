@@ -44,6 +44,7 @@ QString MainWindow::steppedFilePath(const QString& filePath, int step) const {
     const int count = _itemModel->rowCount();
     if (row < 0)
         return {};
+    // The count is added so that a step back from the first row is not negative.
     return _itemModel->fileAt((row + step + count) % count);
 }
 
@@ -84,6 +85,7 @@ void MainWindow::onImageSaveFailed(const QString& filePath, const QString& reaso
 void MainWindow::onEditImgSavedFile(const QString& fileName) {
     showImageSaved();
     queuePreview(fileName, previewSize());
+    // The loader takes queued files only from a start on.
     if (_imageLoader)
         _imageLoader->start();
     onShowMessage(tr("Saved image: %1").arg(fileName));
@@ -132,5 +134,6 @@ void MainWindow::onRequestDeleteImage(const QString& filePath) {
         ui->statusbar->showMessage(tr("Error %1 unable move file %2 to trash.").arg(*error, filePath));
         return;
     }
+    // Where the file was the only one, next is that file, and the window keeps its picture.
     dialog->setImageFile(next, fileIndexText(next));
 }
