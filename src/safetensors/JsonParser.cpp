@@ -30,10 +30,11 @@ constexpr auto characterClasses = [] {
         for (const char character : characters)
             classes[static_cast<unsigned char>(character)] |= added;
     };
+    // What a string contains unchanged; bytes from 0x80 on are checked as UTF-8.
     for (std::size_t byte = 0x20; byte < 0x80; ++byte)
         classes[byte] = byte == '"' || byte == '\\' ? 0 : PlainText;
     mark("\r\n \t", Space);
-    // A tab is space but does not end a value, on purpose.
+    // A tab is space but does not end a value, on purpose. The last byte is the NUL at the end of the input.
     mark(std::string_view(":,}]\r\n \0", 8), Terminator);
     mark("0123456789", Digit | HexDigit);
     mark("abcdefABCDEF", HexDigit);
@@ -45,6 +46,7 @@ bool isOfClass(char character, CharacterClass characterClass) {
 }
 
 const char* skipClass(const char* cursor, CharacterClass characterClass) {
+    // Ends at the NUL byte at the latest, which is a terminator and nothing else.
     while (isOfClass(*cursor, characterClass))
         ++cursor;
     return cursor;
@@ -75,6 +77,7 @@ const char* closingQuote(const char* cursor, bool& isPlain) {
     cursor = skipClass(cursor, PlainText);
     isPlain = *cursor == '"';
     while (*cursor != '"' && *cursor != '\0') {
+        // The byte after a backslash never closes the string.
         if (*cursor == '\\' && cursor[1] != '\0')
             ++cursor;
         ++cursor;
@@ -109,6 +112,7 @@ bool isAboveOne(const DecimalText& decimal) {
     const auto position = [](std::size_t index) { return static_cast<std::int64_t>(index); };
     const std::size_t point = std::min(decimal.mantissa.find('.'), decimal.mantissa.size());
     const std::size_t first = decimal.mantissa.find_first_of("123456789");
+    // The distance of the first digit from the point, shifted by the exponent.
     return first != std::string_view::npos && position(point) - position(first) + decimal.exponent > 0;
 }
 
@@ -128,6 +132,7 @@ double magnitudeFromText(std::string_view text) {
     // from_chars does not set the value here, and reports overflow and underflow alike.
     if (result.ec == std::errc::result_out_of_range)
         return isAboveOne(decimal) ? std::numeric_limits<double>::infinity() : 0.0;
+    // No digit comes before the exponent, as in "-e5".
     return result.ec == std::errc() ? value : 0.0;
 }
 
@@ -273,6 +278,7 @@ JsonError JsonParser::parseMember(JsonObject& object) {
     error = parseValue(value);
     if (error != JsonError::NoError)
         return error;
+    // Only here, so that a fault inside the value is reported before the repeated key.
     return object.insertNew(std::move(key), std::move(value)) ? JsonError::NoError : JsonError::DuplicatedKey;
 }
 
@@ -308,6 +314,7 @@ JsonError jsonParse(const char*& cursor, JsonValue& out) {
     try {
         return JsonParser(cursor).parseValue(out);
     } catch (const std::bad_alloc&) {
+        // A header of 100 MiB may become a tree of several times that size.
         return JsonError::MemoryAllocation;
     }
 }

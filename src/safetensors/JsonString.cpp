@@ -64,7 +64,7 @@ std::string controlCharacterError(unsigned char byte) {
     const std::string code{'0', '0', hex[byte >> 4], hex[byte & 0xF]};
     std::string what = "control character U+" + code + " (";
     what.append(controlNames[byte]).append(") must be escaped to \\u").append(code);
-    constexpr std::string_view shortEscapes("btn\0fr", 6); // from 0x08 on
+    constexpr std::string_view shortEscapes("btn\0fr", 6); // from 0x08 on; 0x0B has none
     if (const std::size_t index = byte - 0x08U; index < shortEscapes.size() && shortEscapes[index])
         what.append(" or \\").push_back(shortEscapes[index]);
     return what;
@@ -72,7 +72,9 @@ std::string controlCharacterError(unsigned char byte) {
 
 bool appendCodePoint(char32_t codePoint, std::string& out) {
     const auto append = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
+    // The first byte gives the length of a sequence, each further one has six bits.
     const auto appendTail = [&](int shift) { append(0x80 | ((codePoint >> shift) & 0x3F)); };
+    // No pair of surrogates is that large; the check guards the shifts below.
     if (codePoint > lastCodePoint)
         return false;
     if (codePoint < 0x80) {
@@ -122,6 +124,7 @@ bool JsonStringDecoder::decode(std::string_view quoted, std::string& out) {
 }
 
 bool JsonStringDecoder::decodeEscape(std::string& out) {
+    // 0 at the end of the text, which is no escape.
     const unsigned char letter = byteAt(_position + 1);
     _position += 2;
     if (letter == 'u')
@@ -174,6 +177,7 @@ bool JsonStringDecoder::copySequence(std::string& out) {
     for (const SequenceRule& rule : sequenceRules) {
         if (!isInRange(byteAt(_position), rule.lead))
             continue;
+        // A lead byte belongs to one rule only, so a wrong byte after it ends the search.
         for (std::size_t i = 1; i <= rule.length; ++i) {
             if (!isInRange(byteAt(_position + i), i == 1 ? rule.second : tail))
                 return false;

@@ -32,6 +32,7 @@ template <typename T>
 class JsonBox {
 public:
     explicit JsonBox(T value) : _value(std::make_unique<T>(std::move(value))) {}
+    // The value of the other box is null only after a move.
     JsonBox(const JsonBox& other) : _value(other._value ? std::make_unique<T>(*other._value) : nullptr) {}
     JsonBox(JsonBox&&) noexcept = default;
     JsonBox& operator=(const JsonBox& other) { return *this = JsonBox(other); }

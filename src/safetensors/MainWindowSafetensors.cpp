@@ -44,6 +44,7 @@ void MainWindow::onInspectSafetensor() {
     }
     _lastOpenPathSafetensors = QFileInfo(files.first()).path();
     const Settings* settings = Settings::instance();
+    // Only the initial state: the boxes of a window never change the settings.
     const bool includeTensorInfo = settings->get(keys::includeTensorInfo);
     const bool includeMetaInfo = settings->get(keys::includeMetaInfo);
     for (const QString& file : files)

@@ -90,6 +90,7 @@ private:
             for (std::size_t index = 0; index < size(); ++index)
                 _indexByKey.emplace(_keys[index], index);
         }
+        // The index that the key gets when the caller appends it.
         _indexByKey.emplace(key, size());
     }
 

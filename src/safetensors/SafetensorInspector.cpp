@@ -22,6 +22,7 @@ ModelHeader readModelHeader(const QString& fileName) {
     SafetensorsData data;
     std::uint64_t dataSize = 0;
     std::string err;
+    // The reader expects paths in UTF-8, which toStdString() gives.
     const bool isRead = readSafetensorsHeader(fileName.toStdString(), data, dataSize, header.warning, err);
     if (!header.warning.empty())
         header.messages += "Warning:"_L1 + QString::fromStdString(header.warning) + '\n'_L1;
@@ -49,6 +50,7 @@ QMap<QString, QString> SafetensorInspector::insepctSafetensor(const QString& fil
         return {};
 
     const SafetensorsData& data = *header.data;
+    // Sorted by name, whatever the order in the header.
     QMap<QString, QString> lines;
     for (std::size_t i = 0; includeTensorInfo && i < data.tensors.size(); ++i) {
         if (const TensorInfo* const tensor = data.tensors.at(i))

@@ -36,6 +36,7 @@ SafetensorsDialog::SafetensorsDialog(QWidget* parent)
     : QDialog(parent), _ui(std::make_unique<Ui::SafetensorsDialog>()) {
     _ui->setupUi(this);
     keepLongLinesQuick(_ui->pTEOutput);
+    // Equal halves until a stored state is restored.
     _ui->splitter->setSizes({width() / 2, width() / 2});
     connect(_ui->tBOpenSafetensorFile, &QToolButton::clicked, this, &SafetensorsDialog::onOpenSafetensorFile);
     connect(_ui->tBShowInFileBrowser, &QToolButton::clicked, this, &SafetensorsDialog::onShowInFileBrowser);
@@ -62,6 +63,7 @@ void SafetensorsDialog::setImageWidget(QWidget* widget) {
 
 void SafetensorsDialog::setSafetensorFile(const QString& fileName, bool includeTensorInfo,
                                           bool includeMetaInfo) {
+    // A box that emits its change would read the file once more.
     setCheckedQuietly(_ui->cBTensor, includeTensorInfo);
     setCheckedQuietly(_ui->cBMetainfo, includeMetaInfo);
     _includeTensorInfo = includeTensorInfo;
@@ -75,6 +77,7 @@ void SafetensorsDialog::setSafetensorFile(const QString& fileName, bool includeT
         _ui->pTEOutput->appendPlainText(inspector.messages());
     // The view has followed the appended text to its end.
     _ui->pTEOutput->moveCursor(QTextCursor::Start);
+    // Also a file that could not be read, so that the user can step on from it.
     _currentFile = fileName;
     setWindowTitle(tr("File: %1").arg(QFileInfo(fileName).fileName()));
     showPreview(fileName);
@@ -127,6 +130,7 @@ void SafetensorsDialog::onShowInFileBrowser() {
 void SafetensorsDialog::onSafetensorNext() {
     // Both buttons use this slot.
     const bool isForward = sender() == _ui->tBSafetensorNext;
+    // Read anew at each step, as files may have been added or removed.
     const QStringList files = modelFilesBeside(_currentFile);
     if (files.isEmpty())
         qDebug() << "No files found";

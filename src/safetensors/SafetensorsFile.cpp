@@ -73,12 +73,13 @@ bool failModelRead(const std::string& path, std::string& err) {
 
 // Leaves the stream at its start.
 bool measureStream(std::istream& stream, const std::string& path, std::uint64_t& size, std::string& err) {
-    // An empty file or a directory can be opened, and fails at the first read.
+    // A directory can be opened, and fails at the first read. An empty file only has no next byte.
     stream.peek();
     if (!stream)
         return failModelRead(path, err);
     stream.seekg(0, std::ios::end);
     const std::streamoff end = stream.tellg();
+    // A stream that cannot seek has failed by now.
     stream.clear();
     stream.seekg(0, std::ios::beg);
     // The first text has no line end, on purpose.
@@ -86,6 +87,7 @@ bool measureStream(std::istream& stream, const std::string& path, std::uint64_t&
         err += "Invalid file size : " + path + " (does the path point to a directory?)";
     else if (end == 0)
         err += "File is empty : " + path + "\n";
+    // The library gives this number for what has no size, as a directory.
     else if (end == std::numeric_limits<std::int64_t>::max())
         err += "Invalid file size : " + path + "\n";
     size = end < 0 ? 0 : static_cast<std::uint64_t>(end);
@@ -172,12 +174,14 @@ bool readSafetensorsHeader(std::istream& stream, const std::string& path, Safete
         return failModelRead(path, err);
     if (!readHeaderSize(start.data(), fileSize, headerSize, err))
         return false;
+    // At most 100 MiB, and no more than the file has.
     std::string text(headerSize, '\0');
     if (!readModelBytes(stream, text.data(), headerSize))
         return failModelRead(path, err);
     if (!parseHeaderText(text, out, err))
         return false;
     out.headerSize = headerSize;
+    // Not below zero, as readHeaderSize() has compared both with the file.
     dataSize = fileSize - safetensorsPrefixSize - headerSize;
     return true;
 }

@@ -52,6 +52,7 @@ bool parseShape(const JsonValue& value, std::vector<std::uint64_t>& out, std::st
         if (!item.number())
             return failHeader(
                 err, {"Array item in `shape` must be number type, but got ", jsonTypeName(item), "."});
+        // After the type: a ninth item that is no number is reported as such.
         if (out.size() == safetensorsDimensionLimit)
             return failHeader(err, {"`shape` length must be less than ", limit, " but got ", limit, "."});
         out.push_back(unsignedFromNumber(*item.number()));
@@ -110,6 +111,7 @@ bool checkTensorMembers(const std::string& key, const TensorInfo& tensor, const 
         return failHeader(err, {"`", key, "` does not have `dtype` item."});
     if (!seen.hasShape)
         return failHeader(err, {"`", key, "` does not have `shape` item."});
+    // A scalar has no dimensions and is not empty.
     const bool isEmpty = std::find(tensor.shape.begin(), tensor.shape.end(), 0U) != tensor.shape.end();
     if (isEmpty && seen.hasOffsets)
         return failHeader(err, {"`", key,
@@ -155,6 +157,7 @@ bool parseRootMember(const std::string& key, const JsonValue* value, Safetensors
     if (key == metadataKey)
         return value ? parseMetadata(*value, data.metadata, err)
                      : failHeader(err, {"Internal error. Invalid object in __metadata__."});
+    // Only a guard: the parser has rejected repeated keys already.
     if (data.tensors.count(key))
         return failHeader(err, {"Duplicate key `", key, "` found."});
     if (!value)
@@ -171,6 +174,7 @@ bool parseRootMember(const std::string& key, const JsonValue* value, Safetensors
 bool readHeaderSize(const std::uint8_t* prefix, std::uint64_t fileSize, std::uint64_t& headerSize,
                     std::string& err) {
     std::uint64_t size = 0;
+    // Little-endian, so the last byte is the most significant one.
     for (std::size_t i = safetensorsPrefixSize; i-- > 0;)
         size = (size << 8) | prefix[i];
     if (size < safetensorsSmallestHeader)
@@ -189,6 +193,7 @@ bool readHeaderSize(const std::uint8_t* prefix, std::uint64_t fileSize, std::uin
 bool parseHeaderText(const std::string& text, SafetensorsData& out, std::string& err) {
     const char* cursor = text.c_str();
     JsonValue root;
+    // The text behind the value is not read: writers fill the header up with blanks.
     if (const JsonError error = jsonParse(cursor, root); error != JsonError::NoError)
         return failHeader(err, {"JSON parse error: ", jsonErrorText(error)});
     const JsonObject* const object = root.object();
@@ -214,6 +219,7 @@ bool parseSafetensorsHeader(const std::uint8_t* bytes, std::size_t count, Safete
     if (!readHeaderSize(bytes, count, headerSize, err))
         return false;
     const std::uint8_t* const text = bytes + safetensorsPrefixSize;
+    // A copy, as the parser needs a NUL byte behind the text.
     if (!parseHeaderText(std::string(text, text + headerSize), out, err))
         return false;
     out.headerSize = headerSize;
