@@ -93,6 +93,7 @@ void FrameStepper::walk() {
     const bool isAtEnd = _steps != 0 && isEdge(forward);
     if (isAtEnd)
         _steps = 0;
+    // A run that is under way in this direction will deliver them; one in the other direction is replaced.
     if (_steps != 0 && !(_player && _run.forward == forward))
         startRun(forward);
     else if (_steps == 0 && !_player && reached.isValid())
@@ -112,6 +113,7 @@ bool FrameStepper::isEdge(bool forward) const {
 }
 
 void FrameStepper::lookAhead() {
+    // Called when a frame has been reached, so the list is not empty.
     const auto here = std::ranges::lower_bound(_frames, _time, {}, &QVideoFrame::startTime);
     const auto left = _goesForward ? _frames.end() - here : here - _frames.begin();
     // Half a stretch is left: the next run starts before a step needs it.
@@ -235,6 +237,7 @@ void FrameStepper::mergeFrames(const QList<QVideoFrame>& frames) {
     }
     _frames += frames;
     std::ranges::stable_sort(_frames, {}, &QVideoFrame::startTime);
+    // Both runs have delivered the frames of the overlap.
     const auto repeated = std::ranges::unique(_frames, {}, &QVideoFrame::startTime);
     _frames.erase(repeated.begin(), repeated.end());
 

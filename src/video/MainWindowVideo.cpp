@@ -60,6 +60,7 @@ void MainWindow::onVideoPicCaptured(const QImage& img, const QString& fileName) 
     }
     answer(tr("Saved frame to: %1").arg(path));
     _statusPanel->addToResult(tr("grabbed"), {});
+    // Not left to the directory watcher, so that the row is there at once.
     addFileItem(path);
     reloadFile(path);
 }

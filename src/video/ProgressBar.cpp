@@ -13,5 +13,6 @@ void ProgressBar::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ProgressBar::setValueAt(QPointF position) {
+    // A drag past an end gives a value out of the range, which the bar ignores.
     setValue(static_cast<int>(static_cast<double>(maximum()) / width() * position.x()));
 }

@@ -170,6 +170,7 @@ void VideoWidget::openFile(const QString& path) {
     _mediaPlayer->setSource(QUrl());
     _mediaPlayer->setSource(mediaUrl(path));
     _mediaPlayer->pause();
+    // The player emits nothing if its state is the one before.
     playbackStateChanged(_mediaPlayer->playbackState());
     // Until readFrameRate() finds a frame rate.
     _fps = _mediaPlayer->playbackRate();

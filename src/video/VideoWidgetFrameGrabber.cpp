@@ -163,6 +163,7 @@ void VideoWidgetFrameGrabber::videoFrameChanged(QVideoFrame frame) {
     // The sink also reports invalid frames, around a stop and from beyond the last frame.
     if (!_runIsOn || !frame.isValid())
         return;
+    // The counter starts at 1, so that the second frame is at twice the interval, on purpose.
     const SeriesStep step = nextSeriesStep(_mediaPlayer->duration(), _ui->sBFrameStart->value(),
                                            _ui->sBFrameNum->value(), _frameCounter + 1);
     // Loaded media without a duration does not get one later: its first frame is the only one.
