@@ -42,6 +42,7 @@ QAction* makeWindowAction(QObject* parent, const QString& text, const QString& i
                           const QString& icon) {
     auto* action = new QAction(QIcon(icon), text, parent);
     action->setIconText(iconText);
+    // The context menu identifies an action by this text, not by its translated caption.
     action->setData(data);
     return action;
 }
@@ -52,23 +53,28 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::MainWindow>())
     , _supportedFormats(supportedImageFormats() + supportedVideoFormats()) {
+    // readSettings restores the profiles, whose stream holds values of this type.
     registerEffectListType();
     raiseImageAllocationLimit();
     ui->setupUi(this);
     keepMessages(this);
+    // The header of the log names the settings file, so the settings are read first.
     Settings::instance(this, settingsLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
     // Without arguments, as the program does not read its command line: the log has its default level.
     LogService::instance()->init({});
     Profiles::instance(this)->setAllowedOptionsKeys({u"effectList"_s});
     initUi();
+    // After initUi, where restoring widgets emits signals whose slots need the Ollama client made below.
     initConnections();
     // Every run starts with the best quality, although readSettings has just restored the last one.
     ui->hSResizeImgWriteQuality->setValue(100);
     // The form checks this box before any slot is connected. The signal emitted by hand makes the slot
     // uncheck the other two.
     emit ui->gBResizeSpecificSize->toggled(true);
+    // Waits up to half a second for a server that does not answer.
     initOllama();
+    // The profiles were restored before their signals were connected, so the rows of the chain are made here.
     onFilterProfilesHasChanged();
     QTimer::singleShot(firstScanDelayMs, this, [this] { openWorkingDirectory(ui->lEWorkingPath->text()); });
 }
@@ -76,6 +82,7 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::~MainWindow() {
     closeOptions();
     closeToolWindows();
+    // Closing asks no question: the tags that are unsaved now are offered when the directory is next opened.
     _recovery->close();
     // No window is left that could create another loader. Its threads write to the log, so they end before
     // it.
@@ -89,6 +96,7 @@ MainWindow::~MainWindow() {
     const QList<QObject*> children = findChildren<QObject*>();
     for (const QObject* child : children)
         child->disconnect(this);
+    // The form alone; its widgets are children of the window.
     ui.reset();
     LogService::destroy();
 }
@@ -98,6 +106,7 @@ void MainWindow::closeToolWindows() {
     const QList<QWidget*> children = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
         if (child->isWindow() && child->testAttribute(Qt::WA_DeleteOnClose)) {
+            // close() puts the deletion off to an event loop that no longer runs.
             child->close();
             delete child;
         }
@@ -146,6 +155,7 @@ void MainWindow::initThemes() {
     connect(themes, &Themes::themeAccentChanged, this, &MainWindow::updateThemeIcons);
     const auto theme = static_cast<Themes::Theme>(Settings::instance()->get(keys::appTheme));
     ui->menu_Themes->addActions(themes->themeActions(theme));
+    // Applying the stored theme emitted no signal.
     updateThemeIcons(themes->isDarkTheme());
 }
 

@@ -14,6 +14,7 @@ void MainWindow::initOptionsConnections() {
 void MainWindow::onOptions() {
     auto* dialog = new OptionsDialog(this);
     connect(dialog, &QObject::destroyed, this, &MainWindow::onOptionsClosed);
+    // Deleted at the end of exec(); by then the dialog has stored its values.
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->exec();
 }
@@ -24,8 +25,10 @@ void MainWindow::onOptionsClosed() {
     const QSize gridSize = settings->get(keys::gridSizeListView);
     if (gridSize != ui->listView->gridSize()) {
         ui->listView->setGridSize(gridSize);
+        // Canvases have the size of the grid. The scan drops unsaved tags, which the recovery offers.
         openWorkingDirectory(ui->lEWorkingPath->text());
     }
+    // A loader that is made later reads the setting by itself.
     if (_imageLoader)
         _imageLoader->setImageThreadCount(settings->get(keys::imagePreviewThreadCount));
 }

@@ -139,6 +139,7 @@ QList<KeptValue> keptWidgetValues(const Ui::MainWindow& ui, QString& lastOpenPat
 
 void MainWindow::readSettings() {
     const Settings& settings = *Settings::instance();
+    // Both calls fail at a first start, when nothing is stored.
     const bool hasGeometry = restoreGeometry(settings.get(keys::appGeometry));
     if (!restoreState(settings.get(keys::appState)))
         makeRoomForTools(!hasGeometry);
@@ -150,6 +151,7 @@ void MainWindow::readSettings() {
 // tab widgets and scroll areas are smaller than their contents, so the contents are measured.
 void MainWindow::makeRoomForTools(bool mayResize) {
     const QWidget* page = ui->scrollAreaResizeContents;
+    // The page was not shown yet, so its layout has not computed its size hint.
     page->layout()->activate();
     const QSize tabs = ui->tWTools->tabBar()->sizeHint();
     const QSize pages = page->sizeHint();
@@ -158,6 +160,7 @@ void MainWindow::makeRoomForTools(bool mayResize) {
         QStyle::CT_TabWidget, &frame,
         QSize(std::max(tabs.width(), pages.width()), tabs.height() + pages.height()), ui->tWTools);
     if (mayResize) {
+        // The window's own hint includes those of the docks, so only the differences are added to it.
         const QSize preview(firstPreviewWidth - ui->dockWidget_ImgPreview->sizeHint().width(), 0);
         resize((sizeHint() + tools - ui->tWTools->sizeHint() + preview).boundedTo(screen()->availableSize()));
     }

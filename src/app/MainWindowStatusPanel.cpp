@@ -44,6 +44,7 @@ void MainWindow::initStatusPanelConnections() {
     // The proxy emits no signal when a hidden row is inserted or removed.
     connect(_itemModel, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateShownCount);
     connect(_itemModel, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateShownCount);
+    // A new scan resets the proxy; a filter ends with a change of its layout.
     connect(_proxyModel, &QAbstractItemModel::modelReset, this, &MainWindow::updateShownCount);
     connect(_proxyModel, &QAbstractItemModel::layoutChanged, this, &MainWindow::updateShownCount);
     connect(_imageTags, &TagRecord::changed, this, &MainWindow::updateUnsavedCount);
@@ -56,6 +57,7 @@ void MainWindow::initStatusPanelConnections() {
     connect(_statusPanel, &StatusPanel::restoreRequested, this, &MainWindow::onRestoreTags);
     connect(_statusPanel, &StatusPanel::discardRequested, _recovery, &TagRecovery::discard);
     connect(_statusPanel, &StatusPanel::progressClicked, this, [this] {
+        // Only captions report a progress that can be clicked: other batches block the window.
         ui->dockWidget_Tools->show();
         ui->tWTools->setCurrentWidget(ui->tabOllama);
     });
@@ -95,8 +97,10 @@ void MainWindow::onRedoTags() {
 }
 
 void MainWindow::onShowAllFiles() {
+    // Any of the three may hide files: selected tags, the filter line, or the entry for unsaved files.
     ui->lwAllImagesTags->clearSelection();
     ui->leFilterImages->clear();
+    // An empty line emits no signal when it is cleared.
     onFilterImages({});
 }
 

@@ -38,6 +38,7 @@ void OptionsDialog::storeOptions() const {
 
 void OptionsDialog::closeEvent(QCloseEvent* event) {
     storeOptions();
+    // Calls done() for a visible dialog, which then stores the same values once more.
     QDialog::closeEvent(event);
 }
 

@@ -16,6 +16,7 @@ int quitSockets[2] = {-1, -1};
 
 void onQuitSignal(int) {
     const char byte = 1;
+    // A failed write means that the buffer is full, so a byte is there to be read.
     [[maybe_unused]] const ssize_t written = write(quitSockets[0], &byte, 1);
 }
 
@@ -25,6 +26,7 @@ QuitOnSignals::QuitOnSignals(QObject* parent) : QObject(parent) {
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, quitSockets) != 0)
         return;
     const auto* notifier = new QSocketNotifier(quitSockets[1], QSocketNotifier::Read, this);
+    // The byte stays unread: before exec() quit() is ignored, and the notifier fires again when that runs.
     connect(notifier, &QSocketNotifier::activated, this, &QCoreApplication::quit);
     struct sigaction action = {};
     action.sa_handler = onQuitSignal;

@@ -75,6 +75,7 @@ QToolButton* StatusPanel::addButton(const QString& name, const QString& accessib
 
 void StatusPanel::showCounts(int shown, int total) {
     _shownCount->setText(tr("%1 of %2 shown").arg(shown).arg(total));
+    // Until the first filter the reason is empty, about which arg() would warn.
     const QString reason = QString(_hidingReason).replace("%1"_L1, QString::number(total - shown));
     _shownCount->setToolTip(reason + u'\n' + tr("Click to show all files."));
     _shownCount->setVisible(shown < total);
@@ -84,6 +85,7 @@ void StatusPanel::showUnsaved(const Unsaved& unsaved) {
     _unsavedCount->setText(tr("%1 unsaved").arg(unsaved.count));
     _unsavedCount->setToolTip(linesToolTip(unsaved.names, unsaved.count));
     fillUnsavedMenu(unsaved);
+    // Also without unsaved files as long as there is a step of undo or an offer to restore.
     _unsavedCount->setVisible(!_unsavedMenu->isEmpty());
 }
 
@@ -122,6 +124,7 @@ void StatusPanel::showBlockingProgress(const QString& text) {
 }
 
 void StatusPanel::updateProgress() {
+    // While captions wait for an answer the user may start a blocking operation, whose text then comes first.
     const QString& text = _blockingText.isEmpty() ? _progressText : _blockingText;
     _progress->setText(text);
     _progress->setVisible(!text.isEmpty());

@@ -87,6 +87,7 @@ int imageAllocationLimit(quint64 memory) {
 bool exceedsImageAllocationLimit(const QSizeF& size) {
     constexpr double bytesPerPixel = 4;
     constexpr double bytesPerMiB = 1024 * 1024;
+    // In floating point, as sides that a user types may exceed any integer.
     return size.width() * size.height() * bytesPerPixel > QImageReader::allocationLimit() * bytesPerMiB;
 }
 

@@ -50,6 +50,7 @@ int logLevelFromArguments(const QStringList& arguments) {
 LogService* LogService::instance() {
     if (!_instance) {
         _instance = new LogService;
+        // For standard error; messageHandler composes the lines of the file to the same pattern.
         qSetMessagePattern(u"[%{time h:mm:ss.zzz}] %{if-category}%{category}: %{endif}%{message}"_s);
     }
     return _instance;
@@ -90,6 +91,7 @@ void LogService::report(const char* text, const QString& detail) const {
     if (_previousHandler)
         _previousHandler(QtDebugMsg, context, message);
     else
+        // Only during the first init, before a handler was installed.
         fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(QtDebugMsg, context, message)));
 }
 
@@ -101,6 +103,7 @@ void LogService::rotateFiles() {
     const QString previous = QDir(_logDirectory).filePath("app-previous.log"_L1);
     const QString current = QDir(_logDirectory).filePath("app-current.log"_L1);
     if (QFile::exists(current)) {
+        // rename() replaces no file. Where it fails, the new log overwrites that of the last run.
         QFile::remove(previous);
         QFile::rename(current, previous);
     }
@@ -171,6 +174,7 @@ void LogService::messageHandler(QtMsgType type, const QMessageLogContext& contex
         if (const QLatin1StringView category(context.category);
             !category.isEmpty() && category != "default"_L1)
             service->_stream << category << ": ";
+        // Flushed by line, so that the last lines before a crash are in the file.
         service->_stream << message << '\n';
         service->_stream.flush();
     }

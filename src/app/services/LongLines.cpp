@@ -25,6 +25,7 @@ void keepLongLinesQuick(QPlainTextEdit* edit) {
     QObject::connect(edit->document(), &QTextDocument::contentsChange, edit,
                      [edit, usual](int position, int, int added) {
                          const QTextDocument& document = *edit->document();
+                         // Only then: otherwise each key stroke would search the whole text for a run.
                          if (document.isEmpty())
                              edit->setWordWrapMode(usual);
                          else if (edit->wordWrapMode() == usual && added > longRun &&

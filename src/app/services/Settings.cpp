@@ -46,6 +46,7 @@ Settings::Settings(QObject* parent, SettingsLocation location, const QString& fi
 Settings::~Settings() {
     _settings->setValue(settingsDataKey, QVariant(_data));
     _settings->sync();
+    // No window is left that could show it.
     if (_settings->status() != QSettings::NoError)
         qDebug() << "Settings write error.";
     qDebug() << "Settings written:" << _settings->fileName();
@@ -92,6 +93,7 @@ void Settings::read() {
 QVariant Settings::data(const QString& key, const QVariant& defaultValue) const {
     if (_debugging)
         qDebug() << "Settings data:" << key << "default value:" << defaultValue;
+    // A value of this run hides the stored one, which stays in the file.
     if (const auto found = _nonPersistentData.constFind(key); found != _nonPersistentData.cend())
         return *found;
     if (const auto found = _data.constFind(key); found != _data.cend())

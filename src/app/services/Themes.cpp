@@ -95,6 +95,7 @@ void applyThemeStyle(QLatin1StringView name) {
 }
 
 void applyThemeInfo(const ThemeInfo& info) {
+    // An empty palette drops the colours of the theme before; those of the desktop are left.
     if (info.palette == ThemePaletteSource::SystemBeforeStyle)
         QApplication::setPalette(QPalette());
     applyThemeStyle(info.style);
@@ -152,6 +153,7 @@ QList<QAction*> Themes::themeActions(Theme current) {
     QList<QAction*> actions;
     for (const ThemeInfo& info : themeInfos()) {
         if (isThemeOffered(info))
+            // The entry of the desktop keeps the darkness that the desktop has now.
             actions.append(makeAction(info.theme, tr(info.text), isThemeDark(info)));
     }
     setTheme(current);
@@ -159,6 +161,7 @@ QList<QAction*> Themes::themeActions(Theme current) {
     for (QAction* action : std::as_const(actions)) {
         action->setCheckable(true);
         group->addAction(action);
+        // setChecked() emits no triggered(), so a start reports no change.
         if (action->property(themeIdProperty).toInt() == current)
             action->setChecked(true);
     }
@@ -192,6 +195,7 @@ void Themes::setTheme(Theme theme) {
 bool Themes::isDarkTheme() const {
     const bool isDark = _themeDarkness.value(_theme, false);
     qDebug() << "Themes::isDarkTheme" << static_cast<Theme>(_theme) << isDark;
+    // The desktop may have changed since the entries were made.
     return _theme == NONE ? isSystemDark() : isDark;
 }
 

@@ -44,6 +44,7 @@ QDBusMessage fileManagerCall(const QString& path) {
         u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
         u"org.freedesktop.FileManager1"_s, info.isDir() ? u"ShowFolders"_s : u"ShowItems"_s);
     const QUrl url = QUrl::fromLocalFile(info.absoluteFilePath());
+    // The second argument is a start-up notification, which the program does not have.
     call << QStringList{url.toString(QUrl::FullyEncoded)} << QString();
     return call;
 }
@@ -146,6 +147,7 @@ void Utils::showOnDesktop(const QString& path, QWidget* parent) {
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(fileManagerCall(path)), this);
     const auto onAnswer = [path, answer, guard = QPointer<QWidget>(parent)] {
         answer->deleteLater();
+        // No file manager offers the interface, or it failed. The parent may be closed by now.
         if (QDBusPendingReply<>(*answer).isError())
             openFolderOf(path, guard);
     };
