@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 Arguments::Arguments(const QString& command, const QString& description, const QString& operands)
     : _command(command) {
     _parser.setApplicationDescription(description);
+    // For the help alone; the parser takes any number of operands.
     _parser.addPositionalArgument(operands, {}, operands);
     _parser.addOption({u"help"_s, Batch::tr("Shows this text.")});
 }
@@ -40,6 +41,7 @@ int Arguments::wholeNumber(const QString& name, int minimum, int maximum) {
     const QString text = value(name);
     bool ok = false;
     const int number = text.toInt(&ok);
+    // Null where an option without a default is not given: 0, and no fault.
     if (!text.isNull() && !(ok && number >= minimum && number <= maximum))
         reject(Batch::tr("--%1 takes a whole number from %2 to %3, not \"%4\"")
                    .arg(name, QString::number(minimum), QString::number(maximum), text));

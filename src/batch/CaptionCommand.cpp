@@ -56,6 +56,7 @@ struct Answer {
 
 // Blocks in an event loop of the calling thread.
 Answer askServer(const CaptionOptions& options, const QByteArray& request) {
+    // One a request, as a manager works on the thread that made it and this runs on any of them.
     QNetworkAccessManager manager;
     QNetworkRequest target(QUrl(ollamaUrl(options.url, u"/api/generate"_s), QUrl::TolerantMode));
     target.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
@@ -63,12 +64,14 @@ Answer askServer(const CaptionOptions& options, const QByteArray& request) {
     QEventLoop loop;
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
     bool isLate = false;
+    // The reply as context ends the timer with this call, whose variables it captures.
     QTimer::singleShot(options.timeout, reply.get(), [&] {
         isLate = true;
         reply->abort();
     });
     if (!reply->isFinished())
         loop.exec();
+    // Asked first: the text of the aborted reply says nothing about time.
     if (isLate)
         return {.text = {}, .error = Batch::tr("no answer within %1 s").arg(options.timeout.count())};
     const QByteArray data = reply->readAll();
@@ -87,6 +90,7 @@ Answer askPatiently(const CaptionOptions& options, const QByteArray& request) {
     std::chrono::milliseconds pause = firstPause;
     for (int i = 0; i < options.retries && !answer.error.isEmpty() && !isInterrupted(); ++i) {
         QThread::sleep(pause);
+        // A server that is starting or overloaded gets more time with each failure.
         pause = std::min(2 * pause, longestPause);
         answer = askServer(options, request);
     }
@@ -95,6 +99,7 @@ Answer askPatiently(const CaptionOptions& options, const QByteArray& request) {
 
 // The sidecar is read when the answer is in: it may be shared, and an answer takes its time.
 FileResult appendAnswer(const BatchFile& file, const QStringList& added, const CaptionOptions& options) {
+    // One lock for all sidecars: two files of the run may share one.
     static std::mutex sidecars;
     const std::scoped_lock lock(sidecars);
     const Sidecar sidecar = readSidecar(file.path);
@@ -126,6 +131,7 @@ FileResult caption(const BatchFile& file, const CaptionOptions& options) {
     if (!answer.error.isEmpty())
         return FileResult::failed(answer.error);
     const QStringList tags = tagsFromAnswer(answer.text, options.separator);
+    // Blanks between separators alone would be saved as empty tags.
     if (savedTagText(tags, false).trimmed().isEmpty())
         return FileResult::failed(Batch::tr("the answer is empty"));
     return appendAnswer(file, tags, options);
@@ -163,6 +169,7 @@ int captionCommand(const QStringList& words) {
     arguments.add(u"model"_s, Batch::tr("Name of the model."), u"NAME"_s);
     arguments.add(u"system"_s, Batch::tr("System prompt in place of the model's own."), u"TEXT"_s);
     arguments.add(u"prompt"_s, Batch::tr("What the model is asked about each picture."), u"TEXT"_s,
+                  // The prompt of the window. It is sent to a model and so is not translated.
                   u"Describe image using danbooru tags. Dont format output. Maximum 50 words."_s);
     arguments.add(u"size"_s, Batch::tr("Size of the pictures sent; -1 lets one side follow the other."),
                   u"WxH"_s);

@@ -84,12 +84,13 @@ void checkSidecar(const BatchFile& file, const Sidecar& sidecar, Findings& findi
         if (count > 1)
             repeated.append(quoted(tag));
     }
+    // The order of the hash differs from run to run.
     repeated.sort();
     if (!repeated.isEmpty())
         findings.add("repeated-tag"_L1, file.path, repeated.join(", "_L1));
 }
 
-// Files that lie under one name: those that share a sidecar, and those that a flat output would mix up.
+// Files that have one name: those that share a sidecar, and those that a flat output would mix up.
 template <typename NameOf>
 void checkShared(const FileList& files, QLatin1StringView kind, const NameOf& nameOf, Findings& findings) {
     QMap<QString, QStringList> sharers;
@@ -107,6 +108,7 @@ void checkTags(const QStringList& all, int rare, Findings& findings) {
     QStringList rareTags;
     for (const auto& [tag, count] : counts.asKeyValueRange()) {
         forms[foldedCase(tag.simplified())].append(quoted(tag));
+        // A piece of blanks between two commas reads as an empty tag.
         if (count <= rare && !tag.isEmpty())
             rareTags.append(tag);
     }
@@ -127,12 +129,15 @@ QString aspectBucket(const QSize& size) {
     double nearest = std::numeric_limits<double>::max();
     QString bucket;
     for (int height = 1; height <= largestPart; ++height) {
+        // Not limited to 16 as the height is: a panorama may exceed 16:1.
         const int width = std::clamp(qRound(ratio * height), 1, largestPart * largestPart);
         const double distance = std::abs(double(width) / height - ratio);
+        // Equal ratios may differ by rounding: 6:4 must not replace 3:2.
         if (distance < nearest - 1e-9) {
             nearest = distance;
             bucket = u"%1:%2"_s.arg(QString::number(width), QString::number(height));
         }
+        // Within a percent: 1366x768 counts as 16:9.
         if (distance <= ratio / 100)
             break;
     }
@@ -156,6 +161,7 @@ bool checkClip(const BatchFile& file, FileResult& result, Dataset& dataset, bool
     if (result.outcome != FileResult::Done || !isVideoFile(file.path))
         return true;
     if (isInterrupted())
+        // The file is reported as left, since its clip was not opened.
         return false;
     ClipFrames clip;
     const QString error = clip.open(file.path);
@@ -174,12 +180,14 @@ FileResult checkFile(const BatchFile& file, Dataset& dataset, bool isJson) {
     QSize size;
     if (!isVideoFile(file.path)) {
         QString error;
+        // Decoded to the end, as a file that was cut short still has its header.
         size = readPicture(file.path, error).size();
         if (size.isEmpty())
             findings.add("undecodable"_L1, file.path, error);
     }
     const std::scoped_lock lock(dataset.mutex);
     dataset.findings += findings.count();
+    // Tags of wrong bytes would be reported once more as rare or similar.
     if (sidecar.error.isEmpty())
         dataset.tags += sidecar.tags();
     if (!size.isEmpty()) {
@@ -201,6 +209,7 @@ int checkCommand(const QStringList& words) {
         return *code;
     RunOptions run = runOptions(arguments);
     run.isQuiet = true;
+    // The report has JSON lines of its own in place of one a file.
     const bool isJson = std::exchange(run.printsJson, false);
     const int rare = arguments.wholeNumber(u"rare"_s, 0, std::numeric_limits<int>::max());
     const FileList files = listFiles(arguments, SuffixMatcher(mediaNameFilters()));
@@ -212,6 +221,7 @@ int checkCommand(const QStringList& words) {
     const int code = runOverFiles(
         files, run, [&](const BatchFile& file) { return checkFile(file, dataset, isJson); },
         [&](const BatchFile& file, FileResult& result) { return checkClip(file, result, dataset, isJson); });
+    // Sums over a part of the files would mislead.
     if (isInterrupted())
         return code;
     Findings findings(isJson);

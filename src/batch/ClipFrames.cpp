@@ -19,6 +19,7 @@ QString ClipFrames::open(const QString& path) {
     _player.setVideoSink(&_sink);
     const bool isThere = waitForFrame([&] {
         _player.setSource(mediaUrl(path));
+        // A paused player delivers the first frame and plays no further.
         _player.pause();
     });
     if (isThere)
@@ -28,6 +29,7 @@ QString ClipFrames::open(const QString& path) {
 }
 
 std::optional<QImage> ClipFrames::frameAt(qint64 position) {
+    // The frame at 0 has come with open().
     if (position > 0 && !waitForFrame([&] { _player.setPosition(position); }))
         return std::nullopt;
     return _frame;
@@ -48,6 +50,7 @@ bool ClipFrames::waitForFrame(const std::function<void()>& start) {
     QObject::connect(&_player, &QMediaPlayer::errorOccurred, &loop, giveUp);
     QObject::connect(
         &_player, &QMediaPlayer::mediaStatusChanged, &loop, [&](QMediaPlayer::MediaStatus status) {
+            // A file of sound alone loads and never delivers a frame.
             const bool isSilent = status == QMediaPlayer::LoadedMedia && !_player.hasVideo();
             // A last frame may have been queued before the end.
             if (status == QMediaPlayer::InvalidMedia || status == QMediaPlayer::EndOfMedia || isSilent)

@@ -15,7 +15,7 @@ public:
     [[nodiscard]] QString open(const QString& path);
     // In milliseconds; not positive where the clip has no duration.
     [[nodiscard]] qint64 duration() const { return _player.duration(); }
-    // Positions only go forward, from 0. Nothing behind the last picture.
+    // Positions only increase, from 0. Nothing behind the last picture.
     [[nodiscard]] std::optional<QImage> frameAt(qint64 position);
 
 private:

@@ -9,6 +9,7 @@ namespace {
 
 void write(std::FILE* stream, const QString& text) {
     const QByteArray bytes = text.toUtf8();
+    // A failure stays in the stream, where flush() finds it at the end of the run.
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
@@ -27,6 +28,7 @@ void console::complain(const QString& text) {
 }
 
 void console::complain(const QString& filePath, const QString& reason) {
+    // The reason may be text of a server or of a file, with line ends.
     complain(shownPath(filePath) + ": "_L1 + shownPath(reason));
 }
 
@@ -40,6 +42,7 @@ bool console::errorsGoToTerminal() {
 }
 
 QString shownPath(const QString& path) {
+    // An escape sequence in a name could recolour the terminal or overwrite other lines.
     QString shown;
     shown.reserve(path.size());
     for (const QChar character : path) {

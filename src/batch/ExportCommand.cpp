@@ -45,6 +45,7 @@ QString exportOfTags(const QStringList& tags, ExportFormat format) {
 }
 
 QString metadataLine(const BatchFile& file, QStringList tags) {
+    // Pieces of blanks between commas, which a sidecar may hold.
     tags.removeAll(QString());
     const QJsonObject line{{u"file_name"_s, file.relative}, {u"text"_s, tags.join(", "_L1)}};
     return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n';
@@ -52,6 +53,7 @@ QString metadataLine(const BatchFile& file, QStringList tags) {
 
 // Whether the path is one of the files, or of their sidecars.
 bool isExported(const FileList& files, const QString& path) {
+    // A path that does not exist yet has no canonical form and replaces nothing.
     const QString canonical = path.isNull() ? QString() : QFileInfo(path).canonicalFilePath();
     const auto isSame = [&](const QString& other) {
         return QFileInfo(other).canonicalFilePath() == canonical;
@@ -91,6 +93,7 @@ int exportCommand(const QStringList& words) {
     QStringList tags;
     QString text;
     const int code =
+        // Called on this thread in the order of the files, so text and tags need no lock.
         runOverFiles(files, run, tagsResult, [&](const BatchFile& file, const FileResult& result) {
             if (format == ExportJsonl && result.outcome == FileResult::Done)
                 text += metadataLine(file, tagsOf(result));
@@ -98,6 +101,7 @@ int exportCommand(const QStringList& words) {
                 tags += tagsOf(result);
             return true;
         });
+    // A part of the export would pass for all of it.
     if (isInterrupted())
         return code;
     if (format != ExportJsonl)

@@ -37,6 +37,7 @@ Share shareOption(Arguments& arguments) {
     const QStringList parts = text.split(u'/');
     bool isIndex = false;
     bool isCount = false;
+    // Without a slash both are the same part; its number is checked below.
     const int index = parts.first().toInt(&isIndex);
     const int count = parts.last().toInt(&isCount);
     if (parts.size() != 2 || !isIndex || !isCount || index < 1 || index > count || count > mostShares) {
@@ -63,6 +64,7 @@ public:
     }
 
     void addFile(const QString& path) {
+        // Compared as text, so the base is to be spelled as in the paths.
         const bool isBelow = !_base.isEmpty() && path.startsWith(_base);
         append(path, isBelow ? path.sliced(_base.size()) : QFileInfo(path).fileName(),
                isBelow ? path.sliced(_base.size()) : path);
@@ -76,6 +78,7 @@ public:
         QSet<QString> relatives;
         for (const Entry& entry : std::as_const(_entries)) {
             list.all.append(entry.file.path);
+            // The first file of a name keeps its result. All shares agree which one that is.
             if (relatives.contains(entry.file.relative))
                 list.colliding.insert(entry.file.path);
             relatives.insert(entry.file.relative);
@@ -97,6 +100,7 @@ private:
         while (!waiting.isEmpty()) {
             const QString below = waiting.takeLast();
             const QString current = below.isEmpty() ? directory : slashed(directory) + below;
+            // QDirIterator shows a directory that cannot be read as empty; this reports it.
             std::error_code error;
             fs::directory_iterator entries(fs::path(QFile::encodeName(current).toStdString()), error);
             for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
@@ -107,12 +111,14 @@ private:
                 const QString relative = below.isEmpty() ? name : below + u'/' + name;
                 std::error_code unknown;
                 if (entries->is_directory(unknown)) {
+                    // A link to a directory may lead in a circle.
                     if (_isRecursive && !entries->is_symlink(unknown) && !isExcluded(directory, relative))
                         waiting.append(relative);
                 } else if (_suffixes.matches(name)) {
                     relatives.append(relative);
                 }
             }
+            // The files found before the failure are taken all the same.
             if (error)
                 _unread.append({current, QString::fromLocal8Bit(error.message())});
         }
@@ -156,6 +162,7 @@ QStringList listedPaths(Arguments& arguments) {
         return {};
     }
     const QByteArray bytes = file.readAll();
+    // A path may hold a line end, but no NUL.
     const char separator = bytes.contains('\0') ? '\0' : '\n';
     QStringList paths;
     for (const QByteArray& path : bytes.split(separator)) {
@@ -190,6 +197,7 @@ FileList listFiles(Arguments& arguments, const SuffixMatcher& suffixes, const QS
                             arguments.value(u"base"_s));
     for (const QString& operand : operands)
         collector.addOperand(operand);
+    // Added as files: a directory in a list is reported and not walked.
     for (const QString& path : listed)
         collector.addFile(path);
     return collector.take(share);
@@ -198,7 +206,9 @@ FileList listFiles(Arguments& arguments, const SuffixMatcher& suffixes, const QS
 int shareOf(const QString& relativePath, int shares) {
     const qsizetype name = relativePath.lastIndexOf(u'/') + 1;
     const qsizetype dot = relativePath.lastIndexOf(u'.');
+    // Without the suffix as sidecars are named, so that those who share one get into one share.
     const QString key = dot > name ? relativePath.first(dot) : relativePath;
     const QByteArray hash = QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha256);
+    // The byte order is fixed, since shares may run on different machines.
     return static_cast<int>(qFromBigEndian<quint64>(hash.constData()) % static_cast<quint64>(shares));
 }

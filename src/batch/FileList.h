@@ -31,7 +31,7 @@ struct FileList {
 // The options with which every subcommand chooses its files.
 void addFileOptions(Arguments& arguments);
 
-// The files that the arguments name: directories stand for those of their files that match, sorted by name,
+// The files that the arguments name: a directory means those of its files that match, sorted by name,
 // without what lies in the excluded directory. Wrong arguments are rejected.
 [[nodiscard]] FileList listFiles(Arguments& arguments, const SuffixMatcher& suffixes,
                                  const QString& excludedDirectory = {});

@@ -35,6 +35,7 @@ FileResult grab(const BatchFile& file, const Outputs& outputs, const GrabOptions
     ClipFrames clip;
     if (const QString error = clip.open(file.path); !error.isEmpty())
         return FileResult::failed(error);
+    // Two frames of one millisecond would get one name.
     if (options.interval == 0 && clip.duration() < options.count)
         return FileResult::failed(Batch::tr("the clip is too short, or has no duration"));
     QJsonArray written;
@@ -46,12 +47,14 @@ FileResult grab(const BatchFile& file, const Outputs& outputs, const GrabOptions
         const QString number = QString::number(*position).rightJustified(digits, u'0');
         const Outputs::Target target = outputs.target(file, u"%1_%2.png"_s.arg(file.relative, number));
         if (target.refusal) {
+            // Not decoded: a run that resumes seeks only to the frames that are missing.
             refusal = target.refusal;
             if (refusal->outcome == FileResult::Failed)
                 break;
             continue;
         }
         const std::optional<QImage> frame = clip.frameAt(*position);
+        // A clip that has a duration lacks a frame; without one it has ended.
         if (!frame && clip.duration() > 0)
             return FileResult::failed(Batch::tr("no picture at %1 ms").arg(*position));
         if (!frame)
@@ -63,6 +66,7 @@ FileResult grab(const BatchFile& file, const Outputs& outputs, const GrabOptions
             return result;
         written.append(target.path);
     }
+    // Skipped where all frames are there, failed where one must not be written.
     if (refusal && (written.isEmpty() || refusal->outcome == FileResult::Failed))
         return *refusal;
     FileResult result;

@@ -31,6 +31,7 @@ using ImageChange = std::function<std::optional<QImage>(const QImage& image)>;
 
 FileResult changeImage(const BatchFile& file, const Outputs& outputs, int quality,
                        const ImageChange& change) {
+    // Before the image is decoded, which is most of the work.
     const Outputs::Target target = outputs.target(file);
     if (target.refusal)
         return *target.refusal;
@@ -64,6 +65,7 @@ int runOverImages(Arguments& arguments, const ImageChange& change) {
         console::complain(output.directory, error);
         return SomeFailed;
     }
+    // Without the results of an earlier run, where these lie below the sources.
     const FileList files = listFiles(arguments, SuffixMatcher(imageNameFilters()), output.directory);
     if (arguments.isRejected())
         return arguments.wrongUsage();
@@ -89,11 +91,13 @@ ResizeOptions resizeOptions(Arguments& arguments) {
         options.specificSize = sizeOption(arguments);
     } else if (isSet(modes.at(1))) {
         options.mode = ResizeMode::Scale;
+        // The lowest positive number: 0 is no factor.
         options.scale = arguments.number(modes.at(1), std::numeric_limits<double>::min(), largest);
     } else {
         options.mode = ResizeMode::AspectRatio;
         options.aspectRatio = arguments.number(modes.at(2), std::numeric_limits<double>::min(), largest);
     }
+    // Both lists have the order of the enumerators. A rejected word ends the run later.
     options.aspectRatioMode = static_cast<Qt::AspectRatioMode>(
         std::max(0, arguments.choice(u"aspect"_s, {u"ignore"_s, u"keep"_s, u"expand"_s})));
     options.transformationMode = static_cast<Qt::TransformationMode>(
@@ -117,10 +121,12 @@ QString settingsPath(const Arguments& arguments) {
 QList<FilterStep> profileSteps(Arguments& arguments) {
     const QString path = settingsPath(arguments);
     const QFileInfo info(path);
+    // QSettings takes a file that it cannot read for an empty one.
     if (!info.isFile() || !info.isReadable()) {
         arguments.reject(Batch::tr("%1: no settings file that can be read").arg(shownPath(path)));
         return {};
     }
+    // A profile holds a list of this type.
     registerEffectListType();
     const QHash<QString, QVariant> table = Settings::storedTable(QSettings(path, QSettings::IniFormat));
     const ProfileStreamContents contents =
@@ -179,6 +185,7 @@ std::optional<QImage> withEffects(const QImage& image, const QList<FilterStep>& 
     bool applied = false;
     for (const FilterStep& step : steps)
         work = filteredImage(work, step, &applied);
+    // An image that no filter changes is not written again with losses.
     return applied ? std::optional(work) : std::nullopt;
 }
 

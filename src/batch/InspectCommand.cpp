@@ -85,15 +85,18 @@ int inspectCommand(const QStringList& words) {
     if (arguments.isRejected())
         return arguments.wrongUsage();
     InspectOptions options;
+    // Both options together show what none shows: all.
     if (arguments.isSet(u"metadata"_s) != arguments.isSet(u"tensors"_s)) {
         options.showsMetadata = arguments.isSet(u"metadata"_s);
         options.showsTensors = !options.showsMetadata;
     }
     options.printsJson = run.printsJson;
+    // Counted over all shares, so that their outputs can be joined.
     options.namesFiles = !run.printsJson && files.all.size() > 1;
     return runOverFiles(
         files, run, [&](const BatchFile& file) { return inspect(file, options); },
         [](const BatchFile& file, FileResult& result) {
+            // Warnings about files that were read. Printed here, on one thread, in the order of the files.
             const QString messages = result.json.value("messages"_L1).toString();
             if (!messages.isEmpty())
                 console::complain(file.path, messages);

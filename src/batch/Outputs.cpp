@@ -16,6 +16,7 @@ namespace {
 
 QString makeDirectory(const QString& path) {
     std::error_code error;
+    // QDir gives no reason for a failure.
     std::filesystem::create_directories(std::filesystem::path(QFile::encodeName(path).toStdString()), error);
     if (error)
         return QString::fromLocal8Bit(error.message());
@@ -93,6 +94,7 @@ FileResult Outputs::write(const Target& target, const QByteArray& bytes) {
 
 bool Outputs::isSource(const QString& path) const {
     std::call_once(_sourcesAreKnown, [this] {
+        // Canonical paths, so that a link to a source is found too. Made only when a result exists.
         for (const QString& source : _files.all)
             _sources.insert(QFileInfo(source).canonicalFilePath());
     });

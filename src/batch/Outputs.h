@@ -12,7 +12,7 @@
 
 class Arguments;
 
-// Where results go and what they may replace.
+// Where results are written and what they may replace.
 struct OutputOptions {
     QString directory; // null for a run in place
     bool overwrites = false;

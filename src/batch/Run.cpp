@@ -87,11 +87,12 @@ private:
 FileResult resultOf(const BatchFile& file, const FileWork& work) {
     std::error_code error;
     const std::filesystem::path path(QFile::encodeName(file.path).toStdString());
+    // QFileInfo takes a file in a directory that may not be entered for a missing one.
     const std::filesystem::file_status status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found) {
         if (QFileInfo(file.path).isSymLink())
             return FileResult::failed(Batch::tr("a link to nothing"));
-        // The character that replaces bytes which are not valid UTF-8.
+        // Names are decoded with this character for bytes that are not valid UTF-8, and then lead to no file.
         return FileResult::failed(file.path.contains(QChar::ReplacementCharacter)
                                       ? Batch::tr("its name is not valid UTF-8")
                                       : Batch::tr("no such file"));
@@ -112,6 +113,7 @@ public:
             return;
         _results.resize(static_cast<std::size_t>(files.size()));
         const auto count = static_cast<int>(std::min<qsizetype>(jobs, files.size()));
+        // Before the first thread starts, since each counts itself out.
         _running = count;
         for (int i = 0; i < count; ++i) {
             _threads.emplace_back(QThread::create([this] { workOff(); }));
@@ -119,6 +121,7 @@ public:
         }
     }
     ~OrderedResults() {
+        // The threads use the lists of the caller.
         for (const auto& thread : _threads)
             thread->wait();
     }
@@ -130,7 +133,9 @@ public:
             return isInterrupted() ? std::nullopt : std::optional(resultOf(_files.at(index), _work));
         std::unique_lock lock(_mutex);
         auto& result = _results[static_cast<std::size_t>(index)];
+        // After an interrupt the threads end without a result for the rest.
         _changed.wait(lock, [&] { return result.has_value() || _running == 0; });
+        // Moved out, so that the results of a long list do not pile up.
         return std::exchange(result, std::nullopt);
     }
 
@@ -172,6 +177,7 @@ bool mayHoldFailedList(const QString& path) {
     if (start.isEmpty())
         return file.atEnd();
     const bool isEnded = file.seek(file.size() - 1) && file.read(1) == QByteArray(1, '\0');
+    // Two NUL in a row would be an empty path: no list has them, most binary files do.
     return isEnded && !start.startsWith('\0') && !start.contains(QByteArray(2, '\0'));
 }
 
@@ -203,6 +209,7 @@ public:
     [[nodiscard]] int finish() {
         _progress.clear();
         if (!_options.failedListPath.isNull())
+            // Also without failures, since the list of an earlier run must not remain.
             writeFailedList();
         if (!_options.isQuiet) {
             const QString left = _left > 0 ? Batch::tr(", %1 left").arg(_left) : QString();
@@ -277,6 +284,7 @@ RunOptions runOptions(Arguments& arguments) {
     options.printsJson = arguments.isSet(u"json"_s);
     options.isQuiet = arguments.isSet(u"quiet"_s);
     options.failedListPath = arguments.value(u"failed"_s);
+    // Checked before the run, which may take hours.
     if (!mayHoldFailedList(options.failedListPath))
         arguments.reject(Batch::tr("--failed %1: the file exists and is no such list")
                              .arg(shownPath(options.failedListPath)));

@@ -43,7 +43,7 @@ using FileWork = std::function<FileResult(const BatchFile&)>;
 using FileCompletion = std::function<bool(const BatchFile&, FileResult&)>;
 
 // Works on the files and prints what comes of them in their order. A file that is missing fails without a
-// call. An interrupt lets the files in hand end and names the rest. Returns the exit code.
+// call. An interrupt lets the files under way end and names the rest. Returns the exit code.
 [[nodiscard]] int runOverFiles(const FileList& list, const RunOptions& options, const FileWork& work,
                                const FileCompletion& complete = {});
 

@@ -17,6 +17,7 @@ Sidecar readSidecar(const QString& mediaPath) {
     Sidecar sidecar;
     sidecar.path = imgFilePathToTxtFilePath(mediaPath);
     const SidecarRead read = readSidecarFile(sidecar.path);
+    // One that cannot be opened has an error in place of a text.
     sidecar.exists = read.text || !read.error.isEmpty();
     sidecar.error = read.error;
     if (read.error.isEmpty() && !read.isValid)

@@ -13,6 +13,7 @@ constexpr int longestSide = 999999; // as in the window
 
 QSize sizeOption(Arguments& arguments) {
     const QStringList sides = arguments.value(u"size"_s).split(u'x');
+    // 0 marks a fault, as it is no valid side.
     const auto side = [&](const QString& text) {
         bool ok = false;
         const int length = text.toInt(&ok);

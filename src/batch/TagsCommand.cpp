@@ -42,12 +42,13 @@ FileResult editTags(const BatchFile& file, const TagEdit& edit, const EditOption
     QStringList tags = before;
     edit(tags);
     const QString text = savedTagText(tags, options.keepsDuplicates);
-    // A save would write the same tags in another form.
+    // A save in the window writes "a, b" as "a,b"; here that alone is no change.
     if (tags == before || tagsFromText(text) == before)
         return FileResult::skipped(Batch::tr("nothing to change"));
     FileResult result;
     result.json.insert("tags"_L1, QJsonArray::fromStringList(tagsFromText(text)));
     if (options.isDryRun) {
+        // An empty file may read as a null text, which would be a missing file to the diff.
         const QString old = sidecar.text.isNull() ? u""_s : sidecar.text;
         result.text = unifiedDiff(sidecar.path, sidecar.exists ? old : QString(), text);
         return result;
@@ -58,6 +59,7 @@ FileResult editTags(const BatchFile& file, const TagEdit& edit, const EditOption
 
 int countTags(const FileList& files, RunOptions run) {
     QHash<QString, qsizetype> counts;
+    // The sums are printed as JSON in place of a line a file.
     const bool printsJson = std::exchange(run.printsJson, false);
     const int code = runOverFiles(files, run, tagsResult, [&](const BatchFile&, const FileResult& result) {
         for (const QString& tag : tagsOf(result))
@@ -103,6 +105,7 @@ QStringList requiredTags(Arguments& arguments) {
     const QString text = requiredText(arguments, u"tags"_s);
     QStringList tags = tagsFromText(text);
     tags.removeAll(QString());
+    // requiredText has rejected an empty text.
     if (tags.isEmpty() && !text.isEmpty())
         arguments.reject(Batch::tr("--tags holds no tag"));
     return tags;
@@ -146,6 +149,7 @@ int tagsCommand(const QStringList& words) {
                         isKnown ? u"FILE..."_s : actions.join(u'|') + " FILE..."_L1);
     if (!isQuery && isKnown)
         addEditOptions(arguments, action);
+    // Also without a known action, so that --help names them.
     if (const std::optional<int> code = parseRun(arguments, words.sliced(isKnown ? 1 : 0)))
         return *code;
     if (!isKnown)
@@ -163,6 +167,7 @@ int tagsCommand(const QStringList& words) {
     const EditOptions options{.isDryRun = arguments.isSet(u"dry-run"_s),
                               .makesBackups = arguments.isSet(u"backup"_s),
                               .keepsDuplicates = arguments.isSet(u"keep-duplicates"_s)};
+    // Files that share a sidecar would each edit it, in several threads even at once.
     dropSharers(files);
     return runOverFiles(files, run, [&](const BatchFile& file) { return editTags(file, edit, options); });
 }

@@ -17,6 +17,7 @@ qsizetype lineCount(const QString& text) {
 QString range(qsizetype lines) {
     if (lines == 1)
         return u"1"_s;
+    // A range without lines starts at 0.
     return u"%1,%2"_s.arg(QString::number(lines == 0 ? 0 : 1), QString::number(lines));
 }
 
@@ -24,6 +25,7 @@ QString signedLines(QChar sign, const QString& text) {
     if (text.isEmpty())
         return {};
     QStringList lines = text.split(u'\n');
+    // Behind the last line end split() finds an empty piece, which is no line.
     const bool isClosed = lines.last().isEmpty();
     if (isClosed)
         lines.removeLast();

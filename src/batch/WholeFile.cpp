@@ -46,15 +46,19 @@ public:
         if (!_error.isEmpty())
             return;
         struct stat old{};
+        // A run that was killed may have left bytes.
         bool isWhole = ::ftruncate(_handle, 0) == 0;
         for (qsizetype written = 0; isWhole && written < bytes.size();) {
             const ssize_t count = ::write(_handle, bytes.constData() + written,
                                           static_cast<std::size_t>(bytes.size() - written));
+            // A disk that becomes full takes a part; the next call gives the reason.
             isWhole = count > 0 || (count < 0 && errno == EINTR);
             written += count > 0 ? count : 0;
         }
+        // A new file keeps the mode that the umask of the user gives it.
         if (isWhole && ::stat(replaced.constData(), &old) == 0)
             isWhole = ::fchmod(_handle, old.st_mode & permissionBits) == 0;
+        // On the disk before the rename: a power cut must not leave an empty file under the name.
         if (!isWhole || ::fdatasync(_handle) != 0)
             _error = systemError();
     }
@@ -66,9 +70,10 @@ public:
             // Unlike a plain rename this fails where something has appeared in the meantime.
             _isKept =
                 ::renameat2(AT_FDCWD, _path.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0;
-            // Some network file systems do not offer it.
+            // Some network file systems lack that call; the hidden name is then removed as a second one.
             if (_isKept || (errno == EINVAL && ::link(_path.constData(), target.constData()) == 0))
                 return;
+            // Without links either, as on FAT, only this check is left before the plain rename.
             if (errno == EEXIST || ::access(target.constData(), F_OK) == 0) {
                 _error = QString::fromLocal8Bit(std::strerror(EEXIST));
                 return;
@@ -82,13 +87,14 @@ public:
 private:
     void open() {
         for (int i = 0; i < mostOpenings; ++i) {
+            // The hidden name can be guessed, so a link under it is not followed.
             const int handle =
                 ::open(_path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, newFileMode);
             if (handle < 0) {
                 _error = systemError();
                 return;
             }
-            // A file system without locks leaves this to its user.
+            // Any other failure means a file system without locks, where nothing keeps two runs apart.
             if (::flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
                 _error = Batch::tr("another run is writing it");
                 ::close(handle);
@@ -103,7 +109,7 @@ private:
                 _handle = handle;
                 return;
             }
-            // A run that was killed may have left a second name of a result.
+            // A run killed after link() has left a second name of a result, which writing would change.
             if (isNamed)
                 ::unlink(_path.constData());
             ::close(handle);
@@ -119,6 +125,7 @@ private:
 
 QByteArray partPath(const QString& filePath) {
     const QFileInfo info(filePath);
+    // The name itself with a suffix might be too long for the file system.
     const QByteArray hash = QCryptographicHash::hash(info.fileName().toUtf8(), QCryptographicHash::Sha256);
     return QFile::encodeName(info.path() + "/."_L1 + QString::fromLatin1(hash.toHex().first(16)) +
                              ".tessarine-part"_L1);
@@ -126,6 +133,7 @@ QByteArray partPath(const QString& filePath) {
 
 // A second name for the file: replacing the first name leaves it alone.
 QString makeBackup(const QString& filePath, const QString& backupPath) {
+    // A second name of a link would lead to the new text. Without hard links the file is copied.
     if (!QFileInfo(filePath).isSymLink() &&
         ::link(QFile::encodeName(filePath).constData(), QFile::encodeName(backupPath).constData()) == 0)
         return {};
@@ -157,6 +165,7 @@ QString writeWholeSidecar(const QString& txtFileName, const QString& text, bool 
             return Batch::tr("no backup was made: %1").arg(error);
     }
     const QString error = writeWholeFile(txtFileName, text.toUtf8(), Existing::Replace);
+    // The old text is still in its place.
     if (!error.isEmpty() && !backup.isEmpty())
         QFile::remove(backup);
     return error;

@@ -81,6 +81,7 @@ int main(int argc, char* argv[]) {
     const QLatin1StringView name(argc > 1 ? argv[1] : "");
     const auto found = std::ranges::find(commands, name, &Command::name);
     const Command* const command = found == commands.end() ? nullptr : &*found;
+    // Before the application, whose plugins already log.
     qInstallMessageHandler(dropMessage);
     const auto application = makeApplication(argc, argv, command && command->needsGui);
     QCoreApplication::setApplicationName(u"Tessarine"_s);
