@@ -26,6 +26,7 @@ void MainWindow::initOllamaConnections() {
     connect(ui->tBOllamaReconect, &QToolButton::clicked, this, &MainWindow::checkOllamaServer);
     connect(ui->tBSendOllamaPrompt, &QToolButton::clicked, this, &MainWindow::onOllamaSendPrompt);
     connect(ui->lEOllamaIp, &QLineEdit::returnPressed, this, &MainWindow::checkOllamaServer);
+    // Kept for the time when a server answers again: until then the tool tip says why the button is disabled.
     ui->pBOllamaGo->setProperty(usualToolTip, ui->pBOllamaGo->toolTip());
 }
 
@@ -76,6 +77,7 @@ void MainWindow::onOllamaSendPrompt() {
         dropOllamaQueue();
         return;
     }
+    // The model is that of the start, while each file is sent with the prompt of its moment.
     _ollamaApi->setModel(ui->cBOllamaModels->currentText());
     ollamaQueue = selectedFilePaths();
     _ollamaTotal = static_cast<int>(ollamaQueue.size());
@@ -94,6 +96,7 @@ void MainWindow::ollamaSendPrompts() {
     int processed = 0;
     QList<qint64> answerTimes;
     const auto showInPanel = [&](qsizetype underWay) {
+        // The file under way has left the queue and has no answer yet.
         const qsizetype done = _ollamaTotal - ollamaQueue.size() - underWay;
         _statusPanel->showProgress(promptProgressText(done, _ollamaTotal, answerTimes));
     };
@@ -117,6 +120,7 @@ void MainWindow::ollamaSendPrompts() {
     onShowMessage(tr("Ollama processing done for %1").arg(_ollamaTotal));
     ui->pBOllamaGo->setText(tr("Send prompt"));
     _ollamaBatch = 0;
+    // A reconnect during the batch that found no server disables the button from here on.
     ollamaConnectionStatus(_ollamaApi->isOnline());
 }
 

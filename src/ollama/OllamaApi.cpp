@@ -79,6 +79,7 @@ QByteArray OllamaApi::getData(const QString& url) {
         return {};
     QNetworkAccessManager manager;
     manager.setTransferTimeout(getTransferTimeoutMs);
+    // A child of the manager, with which it is deleted at the end of this call.
     QNetworkReply* reply = manager.get(QNetworkRequest(QUrl(url, QUrl::TolerantMode)));
     if (!waitFor(manager, *reply))
         return {};
@@ -86,6 +87,7 @@ QByteArray OllamaApi::getData(const QString& url) {
         qDebug() << "Error, get reply error:" << reply->error() << "error string:" << reply->errorString();
         _online = false;
     }
+    // A reply that was aborted by the time-out is closed, and reading it would log a warning.
     return reply->isOpen() ? reply->readAll() : QByteArray();
 }
 
@@ -108,6 +110,7 @@ bool OllamaApi::waitFor(const QNetworkAccessManager& manager, const QNetworkRepl
     const QPointer<OllamaApi> self(this);
     QEventLoop loop;
     connect(&manager, &QNetworkAccessManager::finished, &loop, &QEventLoop::quit);
+    // What runs in the loop may destroy the window, and this object with it.
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     // When the program quits, all event loops of the thread end, and exec() of a further one returns at once.
     loop.exec();

@@ -72,6 +72,7 @@ GenerateReply readGenerateReply(const QByteArray& data) {
 
 QString answerText(const GenerateReply& reply) {
     QString text = reply.response;
+    // Appended without a separator: the thinking is split into tags with the rest.
     if (!reply.thinking.isEmpty())
         text += QCoreApplication::translate("OllamaApi", "Thinking:") + reply.thinking;
     return text;
