@@ -132,7 +132,7 @@ FileResult caption(const BatchFile& file, const CaptionOptions& options) {
         return FileResult::failed(answer.error);
     const QStringList tags = tagsFromAnswer(answer.text, options.separator);
     // Blanks between separators alone would be saved as empty tags.
-    if (savedTagText(tags, false).trimmed().isEmpty())
+    if (tagsFromText(savedTagText(tags, false)).isEmpty())
         return FileResult::failed(Batch::tr("the answer is empty"));
     return appendAnswer(file, tags, options);
 }

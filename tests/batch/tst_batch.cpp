@@ -221,7 +221,7 @@ private slots:
              "tessarine-batch: ./a.png: no answer within 1 s\n..."},
             {"nothing said",
              "",
-             {{R"({"response":" , "})"}},
+             {{R"({"response":" ,  "})"}},
              1,
              "a.txt sky\n",
              "tessarine-batch: ./a.png: the answer is empty\n..."},
