@@ -143,7 +143,8 @@ void MainWindow::readSettings() {
     const bool hasGeometry = restoreGeometry(settings.get(keys::appGeometry));
     if (!restoreState(settings.get(keys::appState)))
         makeRoomForTools(!hasGeometry);
-    for (const KeptValue& value : keptWidgetValues(*ui, _lastOpenPathSafetensors))
+    const auto values = keptWidgetValues(*ui, _lastOpenPathSafetensors);
+    for (const KeptValue& value : values)
         value.read(settings);
 }
 
@@ -174,6 +175,7 @@ void MainWindow::writeSettings() {
     Settings& settings = *Settings::instance();
     settings.set(keys::appGeometry, saveGeometry());
     settings.set(keys::appState, saveState());
-    for (const KeptValue& value : keptWidgetValues(*ui, _lastOpenPathSafetensors))
+    const auto values = keptWidgetValues(*ui, _lastOpenPathSafetensors);
+    for (const KeptValue& value : values)
         value.write(settings);
 }

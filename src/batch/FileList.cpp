@@ -165,7 +165,8 @@ QStringList listedPaths(Arguments& arguments) {
     // A path may hold a line end, but no NUL.
     const char separator = bytes.contains('\0') ? '\0' : '\n';
     QStringList paths;
-    for (const QByteArray& path : bytes.split(separator)) {
+    const QList<QByteArray> pieces = bytes.split(separator);
+    for (const QByteArray& path : pieces) {
         if (!path.isEmpty())
             paths.append(QFile::decodeName(path));
     }

@@ -62,7 +62,8 @@ int countTags(const FileList& files, RunOptions run) {
     // The sums are printed as JSON in place of a line a file.
     const bool printsJson = std::exchange(run.printsJson, false);
     const int code = runOverFiles(files, run, tagsResult, [&](const BatchFile&, const FileResult& result) {
-        for (const QString& tag : tagsOf(result))
+        const QStringList tags = tagsOf(result);
+        for (const QString& tag : tags)
             ++counts[tag];
         return true;
     });

@@ -11,7 +11,8 @@
 using namespace Qt::StringLiterals;
 
 void MainWindow::initContextMenuConnections() {
-    for (const QAbstractItemView* view : mediaViews())
+    const auto views = mediaViews();
+    for (const QAbstractItemView* view : views)
         connect(view, &QWidget::customContextMenuRequested, this, &MainWindow::onImagesCustomContextMenu);
 }
 

@@ -89,7 +89,8 @@ void MainWindow::onItemVideoImageMetaLoaded(const QString& fileName,
             qDebug() << "Error, unable to get item for column" << int(column) << "for:" << fileName;
         return cell;
     };
-    for (const VideoMetaCell& cell : videoMetaCells(videoMeta)) {
+    const auto cells = videoMetaCells(videoMeta);
+    for (const VideoMetaCell& cell : cells) {
         if (QStandardItem* target = cellItem(cell.column)) {
             target->setData(cell.display, Qt::DisplayRole);
             target->setData(cell.value, RoleValue);

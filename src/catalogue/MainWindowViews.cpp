@@ -97,7 +97,8 @@ void MainWindow::initViewConnections() {
 }
 
 void MainWindow::initViewKeys() {
-    for (QAbstractItemView* view : mediaViews()) {
+    const auto views = mediaViews();
+    for (QAbstractItemView* view : views) {
         const auto addViewKey = [this, view](Qt::Key key, void (MainWindow::*slot)()) {
             auto* shortcut = new QShortcut(key, view);
             shortcut->setContext(Qt::WidgetShortcut);
@@ -159,7 +160,8 @@ void MainWindow::initViews() {
         rowBelowViews->addLayout(layout, layout == ui->horizontalLayoutWorkingPath ? 1 : 0);
     }
     ui->verticalLayout->addLayout(rowBelowViews);
-    for (QAbstractItemView* view : mediaViews())
+    const auto views = mediaViews();
+    for (QAbstractItemView* view : views)
         setUpMediaView(view);
     initListView();
     initTreeView();

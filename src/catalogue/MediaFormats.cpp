@@ -78,7 +78,8 @@ QString imageDialogFilter() {
 
 QString videoDialogFilter() {
     QString filter = QCoreApplication::translate("MediaFormats", "Video (");
-    for (const QString& suffix : supportedVideoFormats())
+    const QStringList videoFormats = supportedVideoFormats();
+    for (const QString& suffix : videoFormats)
         filter += u"*."_s + suffix + u' ';
     return filter + u')';
 }

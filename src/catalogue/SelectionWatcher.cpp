@@ -22,7 +22,7 @@ bool holdSameFiles(QStringList left, QStringList right) {
 SelectionWatcher::SelectionWatcher(QStackedWidget* pages, const QList<QAbstractItemView*>& views,
                                    QObject* parent)
     : QObject(parent), _pages(pages), _views(views) {
-    for (const QAbstractItemView* view : _views) {
+    for (const QAbstractItemView* view : std::as_const(_views)) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 &SelectionWatcher::compare);
     }

@@ -132,7 +132,8 @@ QHash<QString, QVariant> videoMetaHash(QMediaMetaData metaData) {
     if (std::isnan(metaData.value(QMediaMetaData::VideoFrameRate).toDouble()))
         metaData.remove(QMediaMetaData::VideoFrameRate);
     QHash<QString, QVariant> hash;
-    for (const QMediaMetaData::Key key : metaData.keys())
+    const auto keys = metaData.keys();
+    for (const QMediaMetaData::Key key : keys)
         hash.insert(QMediaMetaData::metaDataKeyToString(key), metaData.value(key));
     for (const auto& [key, name] : videoMetaNames)
         if (const QVariant value = metaData.value(key); value.isValid())

@@ -70,8 +70,8 @@ void MainWindow::stepEditor(EditImageDialog* dialog, const QString& currFilePath
 void MainWindow::initEditorConnections() {
     connect(ui->imgWidget, &EditImageWidget::message, this, &MainWindow::onShowMessage);
     connect(ui->imgWidget, &EditImageWidget::saveFailed, this, &MainWindow::onImageSaveFailed);
-    for (const auto saved : {&EditImageWidget::savedFile, &EditImageWidget::newlySavedFile})
-        connect(ui->imgWidget, saved, this, &MainWindow::showImageSaved);
+    connect(ui->imgWidget, &EditImageWidget::savedFile, this, &MainWindow::showImageSaved);
+    connect(ui->imgWidget, &EditImageWidget::newlySavedFile, this, &MainWindow::showImageSaved);
 }
 
 void MainWindow::showImageSaved() {

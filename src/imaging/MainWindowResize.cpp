@@ -35,7 +35,8 @@ void logSpecificSize(const QSize& size) {
 
 void MainWindow::initResizeConnections() {
     connect(ui->pBProcessResize, &QPushButton::clicked, this, &MainWindow::onProcessResize);
-    for (const QGroupBox* box : resizeGroupBoxes())
+    const auto boxes = resizeGroupBoxes();
+    for (const QGroupBox* box : boxes)
         connect(box, &QGroupBox::toggled, this, [this, box](bool on) { onResizeGroupToggled(box, on); });
     connect(ui->hSResizeImgWriteQuality, &QSlider::valueChanged, this,
             [this](int value) { ui->label_Quality->setText(tr("Quality [%1]:").arg(value)); });
@@ -70,7 +71,8 @@ ResizeMode MainWindow::resizeModeOf(const QGroupBox* box) const {
 void MainWindow::onResizeGroupToggled(const QGroupBox* box, bool on) {
     // The boxes exclude one another like radio buttons; switching one off switches another on.
     const QGroupBox* chosen = resizeGroupBox(resizeModeAfterToggle(resizeModeOf(box), on));
-    for (QGroupBox* other : resizeGroupBoxes()) {
+    const auto boxes = resizeGroupBoxes();
+    for (QGroupBox* other : boxes) {
         if (other != box) {
             // Blocked, as each box that changes would switch the others in turn.
             const QSignalBlocker blocker(other);
@@ -82,7 +84,8 @@ void MainWindow::onResizeGroupToggled(const QGroupBox* box, bool on) {
 ResizeOptions MainWindow::resizeOptions() const {
     ResizeOptions options;
     options.mode = ResizeMode::None;
-    for (const QGroupBox* box : resizeGroupBoxes()) {
+    const auto boxes = resizeGroupBoxes();
+    for (const QGroupBox* box : boxes) {
         if (box->isChecked()) {
             options.mode = resizeModeOf(box);
             break;

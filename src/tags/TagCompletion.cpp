@@ -56,7 +56,8 @@ CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line
     if (word.isEmpty())
         return {};
     CompletionOffer offer{cursor - piece.size() + piece.indexOf(word.front())};
-    for (const TagCount& match : matchingTags(known, word))
+    const auto matches = matchingTags(known, word);
+    for (const TagCount& match : matches)
         offer.rows.append({match.tag, QString::number(match.count)});
     return offer;
 }
@@ -78,10 +79,12 @@ CompletionOffer queryCompletions(const QList<TagCount>& known, const QString& li
     const MediaQuery::Typed typed = MediaQuery::typedAtEnd(line);
     CompletionOffer offer{typed.start};
     if (typed.kind == MediaQuery::Typed::Tag) {
-        for (const TagCount& match : matchingTags(known, typed.text))
+        const auto matches = matchingTags(known, typed.text);
+        for (const TagCount& match : matches)
             offer.rows.append({MediaQuery::quoted(match.tag), QString::number(match.count)});
     } else if (typed.kind == MediaQuery::Typed::Word) {
-        for (const QueryWord& word : MediaQuery::words()) {
+        const auto words = MediaQuery::words();
+        for (const QueryWord& word : words) {
             if (word.text.startsWith(typed.text, Qt::CaseInsensitive))
                 offer.rows.append({word.text, word.help});
         }
