@@ -43,6 +43,7 @@ void ImageLoaderThread::begin(const QString& imgFilePath, const QSize& size) {
     _imgFilePath = imgFilePath;
     _size = size;
     _busy = true;
+    // Releasing and acquiring the semaphore also makes the fields above visible to the thread.
     _jobs.release();
     if (!isRunning())
         start(QThread::InheritPriority);

@@ -28,6 +28,7 @@ ImageLoaderThreaded::ImageLoaderThreaded(QObject* parent)
 ImageLoaderThreaded::~ImageLoaderThreaded() {
     stop();
     for (ImageLoaderThread* worker : std::as_const(_abandonedThreads)) {
+        // Without a deadline: destroying a QThread that still runs would end the process.
         worker->wait();
         delete worker;
     }
@@ -73,12 +74,14 @@ void ImageLoaderThreaded::processQueue() {
                      worker->begin(filePath, _previewSize);
                  });
     } else {
+        // An import queues any file, also a text.
         qDebug() << "Error, neither image nor video:" << _queue.takeFirst();
         processQueue();
     }
 }
 
 std::optional<QSize> ImageLoaderThreaded::resolutionOf(const QString& fileName) const {
+    // A slot that stops the load deletes the worker, so the pool is searched before the pointer is used.
     if (!_reporting || !_imageThreads.contains(_reporting) || _reporting->imgFilePath() != fileName)
         return std::nullopt;
     return _reporting->resolution();
@@ -100,7 +103,9 @@ void ImageLoaderThreaded::createImageThreads() {
     if (_imageThreads.size() == _imageThreadCount)
         return;
     while (_imageThreads.size() < _imageThreadCount) {
+        // Without a parent, as abandon() may have to keep the worker beyond its pool.
         auto* worker = new ImageLoaderThread;
+        // Emitted in the worker's thread, so the slot runs queued on the GUI thread.
         connect(worker, &ImageLoaderThread::imageLoaded, this, &ImageLoaderThreaded::onImageLoaded);
         _imageThreads.append(worker);
     }
@@ -180,6 +185,7 @@ void ImageLoaderThreaded::onVideoImageLoaded(const QString& videoFilePath, const
     emit loadedImage(videoFilePath, frame);
     if (isStopped())
         return;
+    // After the thumbnail, whose tool tip has no resolution yet: QImageReader cannot read clips.
     emit loadedVideoImageMeta(videoFilePath, loader->videoMeta());
     if (isStopped())
         return;
@@ -205,6 +211,7 @@ void ImageLoaderThreaded::destroyImageThreads() {
         worker->disconnect(this);
         worker->requestStop();
     }
+    // All workers were asked to stop before, so they end side by side within one deadline.
     const QDeadlineTimer deadline(stopDeadlineMs);
     for (ImageLoaderThread* worker : std::as_const(_imageThreads)) {
         if (worker->wait(deadline)) {
@@ -234,6 +241,7 @@ void ImageLoaderThreaded::abandon(ImageLoaderThread* worker) {
     _abandonedThreads.append(worker);
     connect(worker, &QThread::finished, this, [this, worker] {
         if (_abandonedThreads.removeOne(worker)) {
+            // QThread emits finished() shortly before its thread has really ended.
             worker->wait();
             delete worker;
         }

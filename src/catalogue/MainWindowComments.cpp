@@ -119,6 +119,7 @@ QString MainWindow::firstSelectedComment() const {
 
 void MainWindow::onCopyComment() {
     if (!selectedIndexes().isEmpty())
+        // A file without a comment empties the clipboard.
         QGuiApplication::clipboard()->setText(firstSelectedComment(), QClipboard::Clipboard);
 }
 
@@ -134,6 +135,7 @@ void MainWindow::onExtractWorkflow() {
         return;
     QFile file(u"%1/%2.json"_s.arg(directory, QFileInfo(files.first()).baseName()));
     QStringList failures;
+    // An existing file is replaced without a question.
     if (!file.open(QIODevice::WriteOnly)) {
         qDebug() << "Error, unable to open file for writting:" << file.errorString();
         failures = {fileFailure(file.fileName(), file.errorString())};

@@ -24,6 +24,7 @@ void MainWindow::onImagesCustomContextMenu(const QPoint& pos) {
     QMenu menu;
     const QList<QAction*> windowActions = actions();
     for (QAction* action : windowActions) {
+        // The image editor cannot open a clip, for which there is an entry below.
         if (action->data().toString() != "editImage"_L1 || !isVideoFile(firstFile))
             menu.addAction(action);
     }

@@ -44,6 +44,7 @@ DirectoryNames namesInDirectory(const QString& directory) {
         entries.next();
         const QString name = entries.fileName();
         names.all.append(name);
+        // A directory of such a name would be moved to the trash with all that it holds.
         if (name.endsWith(".txt"_L1, Qt::CaseInsensitive) && entries.fileInfo().isFile())
             names.txtFiles.append(name);
     }
@@ -85,6 +86,7 @@ void MainWindow::initFileOperationConnections() {
         line->installEventFilter(dropFilter);
     const auto texts = findChildren<QPlainTextEdit*>();
     for (QPlainTextEdit* text : texts)
+        // QAbstractScrollArea accepts drops on its viewport, not on itself.
         text->viewport()->installEventFilter(dropFilter);
     connect(ui->action_Import_files, &QAction::triggered, this, &MainWindow::importFiles);
 }
@@ -94,6 +96,7 @@ QString MainWindow::selectDirectory() {
         QFileDialog::getExistingDirectory(this, tr("Select directory"), _workingPath,
                                           QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!directory.isEmpty())
+        // Only the next dialog starts there; the catalogue still shows the directory that is open.
         _workingPath = directory;
     return directory;
 }
@@ -122,6 +125,7 @@ void MainWindow::transferFiles(const QString& verb,
     for (const QString& source : files) {
         const QString target = destinationFilePath(source, directory);
         QFile file(source);
+        // Neither copy() nor rename() replaces an existing file, so a taken name is a failure.
         if (transfer(file, target)) {
             ++done;
         } else {
@@ -133,6 +137,7 @@ void MainWindow::transferFiles(const QString& verb,
         showBlockingProgress(tr("%1 %2/%3").arg(verb).arg(done).arg(files.size()));
     }
     showBlockingProgress({});
+    // The rows are left to the directory watcher, which lists the directory after its next change.
     showResult(verb, done, files.size(), failures);
 }
 
@@ -155,6 +160,7 @@ void MainWindow::deleteFile() {
             errors.append(*error);
             failures.append(fileFailure(path, *error));
         }
+        // The list is not copied by the loop, so the address of an element gives its index.
         showBlockingProgress(tr("deleted %1/%2").arg(&path - files.data() + 1).arg(files.size()));
     }
     showBlockingProgress({});
@@ -162,6 +168,7 @@ void MainWindow::deleteFile() {
         // Selects the row that takes the place of the deleted ones, so that the user can continue from there.
         const SelectionWatcher::Hold hold(*_selection);
         const int row = firstRow(selectedIndexes());
+        // Also the rows of files that could not be moved; the next listing of the directory adds them again.
         removeFileItems(files);
         selectRow(row);
     }
@@ -253,6 +260,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
+    // Where a move was proposed, the other program would delete its files after the drop.
     event->setDropAction(Qt::CopyAction);
     event->accept();
     // The program that the files are dragged from is blocked until this returns, and the import may ask the
@@ -271,6 +279,7 @@ QString MainWindow::importFile(const QString& source, const QString& directory, 
                 tr("Unable to import file from %1, file already exist at: %2").arg(source, target));
             return tr("file already exist at: %1").arg(target);
         }
+        // One call of arg() for all texts: a "%2" in a file name is not taken for a placeholder.
         target = firstFreePath([&](int number) {
             return pathInDirectory(directory, u"%1_%3.%2"_s.arg(info.completeBaseName(), info.suffix(),
                                                                 QString::number(number)));
@@ -289,6 +298,8 @@ QString MainWindow::importFile(const QString& source, const QString& directory, 
                 tr("Import file error, unable to move to trash file: %1, error: %2").arg(source, *error));
         }
     }
+    // The watcher makes the row later. Until then the queue alone has the file, and the missing row is
+    // logged.
     queuePreview(target, previewSize());
     // A text file gets no entry in the tag record: it is a sidecar itself, which saving that entry would
     // overwrite.

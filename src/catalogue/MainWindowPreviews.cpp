@@ -39,6 +39,7 @@ MediaItem* MainWindow::enqueuePreview(const QString& filePath, const QSize& size
         connect(_imageLoader, &ImageLoaderThreaded::loadedVideoImageMeta, this,
                 &MainWindow::onItemVideoImageMetaLoaded);
         connect(_imageLoader, &ImageLoaderThreaded::showMessage, this, &MainWindow::onShowMessage);
+        // This size serves all loads until the program ends. A larger grid only enlarges the canvas.
         _imageLoader->setImageThreadCount(Settings::instance()->get(keys::imagePreviewThreadCount));
         _imageLoader->setPreviewSize(size);
     }
@@ -98,6 +99,7 @@ void MainWindow::onItemVideoImageMetaLoaded(const QString& fileName,
     }
     if (QStandardItem* comment = cellItem(ColComment)) {
         const QString text = videoMeta.value(QStringLiteral("Comment")).toString();
+        // The raw value, by which the column is sorted, stays as the scan has set it.
         comment->setData(text.isEmpty() ? tr("No") : tr("Yes"), Qt::DisplayRole);
         comment->setData(text, RoleComment);
     }

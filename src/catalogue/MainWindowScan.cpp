@@ -30,6 +30,7 @@ void appendMediaRow(MediaItemModel& model, const MediaRecord& record) {
 } // namespace
 
 void MainWindow::openWorkingDirectory(const QString& path) {
+    // Even where the path proves wrong below; rows without a thumbnail stay so then.
     if (_imageLoader)
         _imageLoader->stop();
     if (path.isEmpty()) {
@@ -51,6 +52,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
     // Writes pending unsaved tags to the recovery file before the record is cleared.
     _recovery->close();
     _imageTags->clear();
+    // The raw text editor would otherwise save to a sidecar of the previous directory.
     unbindTagFile();
     _workingPath = path;
     _lastScan.path = path;
@@ -75,6 +77,7 @@ QStringList MainWindow::scanDirectory(const QString& path, const QStringList& na
                                       bool recursive) const {
     const SuffixMatcher suffixes(nameFilters);
     QStringList files;
+    // No filter by kind: a directory that is named like a picture gets a row as well.
     QDirIterator entries(path, QDir::NoFilter,
                          recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
     while (entries.hasNext()) {
@@ -90,6 +93,7 @@ void MainWindow::clearItemModel() {
                             tr("Duration"), tr("MediaType"), tr("FileFormat"), tr("AudioBitRate"),
                             tr("AudioCodec"), tr("VideoBitRate"), tr("VideoCodec"), tr("VideoFrameRate"),
                             tr("Comment"), tr("Suffix"), tr("Has txt file")});
+    // The stored state is that of the last exit: what the user has changed in the headers since then is lost.
     const Settings* settings = Settings::instance();
     restoreMediaHeader(ui->treeView->header(), settings->get(keys::treeViewHeaderState));
     restoreMediaHeader(ui->tableView->horizontalHeader(),
@@ -102,6 +106,7 @@ void MainWindow::addFileItem(const QString& filePath) {
 
 void MainWindow::addFileItems(const QStringList& filePaths) {
     const MediaItemModel::BulkInsert bulk(*_itemModel);
+    // Several threads call the first function; they only read the list of paths.
     readInOrder(
         filePaths.size(), [&](qsizetype index) { return readMediaRecord(filePaths.at(index)); },
         [this](qsizetype, const MediaRecord& record) { appendMediaRow(*_itemModel, record); });

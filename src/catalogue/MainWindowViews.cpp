@@ -58,6 +58,7 @@ void setMediaModel(QAbstractItemView* view, QAbstractItemModel* model) {
 }
 
 void hideHeaderSection(QHeaderView* header, int section) {
+    // Without a visible section no header would be left to open the menu that shows them again.
     if (header->count() - header->hiddenSectionCount() > 1)
         header->setSectionHidden(section, true);
 }
@@ -101,6 +102,7 @@ void MainWindow::initViewKeys() {
     for (QAbstractItemView* view : views) {
         const auto addViewKey = [this, view](Qt::Key key, void (MainWindow::*slot)()) {
             auto* shortcut = new QShortcut(key, view);
+            // Only with the focus on the view: in a text field the same keys edit the text.
             shortcut->setContext(Qt::WidgetShortcut);
             connect(shortcut, &QShortcut::activated, this, slot);
         };
@@ -216,6 +218,7 @@ void MainWindow::initModels() {
     _proxyModel = new SortFilterProxyModel(this);
     _proxyModel->setSourceModel(_itemModel);
     _proxyModel->setSortRole(RoleValue);
+    // No filter text is ever set: the hidden flags of the rows decide alone.
     _proxyModel->setFilterKeyColumn(-1);
     auto* iconProxyModel = new IconIdentityProxyModel(smallIconSize, this);
     iconProxyModel->setSourceModel(_proxyModel);
@@ -229,6 +232,7 @@ void MainWindow::onImagesSortByCol(int col) {
     const Qt::SortOrder order =
         _proxyModel->sortOrder() == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
     _proxyModel->sort(col, order);
+    // Each indicator makes its view sort again, which the proxy skips for the same column and order.
     ui->tableView->horizontalHeader()->setSortIndicator(col, _proxyModel->sortOrder());
     ui->treeView->header()->setSortIndicator(col, _proxyModel->sortOrder());
 }
@@ -278,6 +282,7 @@ void MainWindow::hideFiles(const QString& reason,
 MediaFacts MainWindow::mediaFacts(int row, const QString& filePath, int asked) const {
     MediaFacts facts;
     if (asked & MediaFacts::Resolution)
+        // From the text, as the raw value of the cell is only the number of pixels.
         facts.resolution = resolutionFromText(_itemModel->item(row, ColResolution)->text());
     facts.isVideo = (asked & MediaFacts::Kind) && isVideoFile(filePath);
     facts.isUnsaved = (asked & MediaFacts::Unsaved) && _imageTags->isUnsaved(filePath);
@@ -295,6 +300,7 @@ void MainWindow::onFilterImages(const QString& txt) {
     }
     if (MediaQuery::isQuery(txt)) {
         const MediaQuery query(txt, differentTags);
+        // A text that is no valid query is searched as it is, so that no input is without effect.
         if (query.isValid()) {
             const int asked = query.asked();
             int found = 0;
@@ -311,6 +317,7 @@ void MainWindow::onFilterImages(const QString& txt) {
     }
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt, differentTags);
+    // Replaces the flags that a tag search has set: the filter that ran last decides.
     hideFiles(reason, [&](int row, const QString& filePath) {
         if (txt.isEmpty())
             return false;
@@ -325,6 +332,7 @@ void MainWindow::onItemSelectedChanged() {
     const QStringList files = selectedFilePaths();
     ui->labelCurrentSelectionTags->setText(tr("Current selection [%1] tags:").arg(files.size()));
     if (files.isEmpty()) {
+        // Preview, raw text and metadata keep showing the last file.
         refreshSelectionTags({});
         qDebug() << "Selection empty:" << files;
         return;
@@ -344,6 +352,7 @@ void MainWindow::showMediaPreview(const QString& filePath) {
         ui->vidWidget->start(filePath);
         ui->stackedWidgetMediaPreview->setCurrentWidget(ui->pagePreviewVideo);
     } else {
+        // An empty path ends the clip that plays.
         ui->vidWidget->start({});
         // On the effects tab the chain of filters decodes and shows the file.
         if (ui->tWTools->currentWidget() != ui->tabImgDSP)

@@ -42,6 +42,7 @@ void MainWindow::watchWorkingDirectory() {
         if (const QStringList left = _fileSystemWatcher->removePaths(watched); !left.isEmpty())
             qDebug() << "Failed to remove some watched paths:" << left;
     }
+    // Sub-directories are not watched, even if the scan included them.
     if (!_fileSystemWatcher->addPath(ui->lEWorkingPath->text()))
         qDebug() << "Failed to add path to watcher:" << ui->lEWorkingPath->text();
     qDebug() << "Watching:" << _fileSystemWatcher->directories();
@@ -52,6 +53,7 @@ void MainWindow::onWorkingDirectoryChanged(const QString& path) {
     // A notification of the previous directory may still be queued after another one was opened.
     if (path != _lastScan.path)
         return;
+    // At once, so a file that is still being written is read as far as it is.
     const QStringList listing =
         scanDirectory(path, mediaNameFilters(), ui->cBWorkingDirScanRecursive->isChecked());
     watcherAddNewFiles(listing);
@@ -76,6 +78,7 @@ void MainWindow::watcherAddNewFiles(const QStringList& fileList) {
             addFileItem(file);
             queuePreview(file, previewSize());
         }
+        // The filter line is not applied to new rows; they stay visible until it runs again.
         readTagFiles(added);
         if (_imageLoader)
             _imageLoader->start();
@@ -87,6 +90,7 @@ void MainWindow::watcherRemoveMissingFiles() {
     QStringList missing = allFilePaths();
     missing.removeIf([](const QString& file) { return QFile::exists(file); });
     if (!missing.isEmpty())
+        // Their tags are removed as well, saved or not.
         removeFileItems(missing);
     onShowMessage(tr("Removed %1 missing items.").arg(missing.size()));
 }

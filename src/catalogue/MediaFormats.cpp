@@ -68,6 +68,7 @@ SuffixMatcher::SuffixMatcher(const QStringList& nameFilters) {
 }
 
 bool SuffixMatcher::matches(const QString& path) const {
+    // Without a dot the whole path is looked up, which equals no suffix.
     return _suffixes.contains(path.sliced(path.lastIndexOf(u'.') + 1).toCaseFolded());
 }
 
@@ -89,6 +90,7 @@ QString formatSize(qint64 bytes, int precision) {
         return u"%1 B"_s.arg(QString::number(static_cast<double>(bytes), 'f', 0));
     if (const qint64 kilobytes = bytes / 1024; kilobytes < 1024)
         return u"%1 KB"_s.arg(QString::number(kilobytes));
+    // An EB is the largest unit that 63 bits reach; the others complete the table.
     constexpr std::array units{"MB", "GB", "TB", "PB", "EB", "ZB", "YB"};
     constexpr double oneStep = 0.0009765625;
     double value = static_cast<double>(bytes) * oneStep * oneStep;

@@ -4,6 +4,7 @@ namespace {
 
 // All rows without a thumbnail share one canvas.
 QImage emptyCanvas(const QSize& size) {
+    // Only views request it, so it is used on the GUI thread alone.
     static QImage canvas;
     if (canvas.size() != size)
         canvas = centredOnCanvas({}, size);

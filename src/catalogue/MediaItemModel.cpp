@@ -29,6 +29,7 @@ void MediaItemModel::clearFiles(const QStringList& captions) {
 void MediaItemModel::appendFile(const MediaRecord& record, const QString& yes, const QString& no) {
     const QList<QStandardItem*> row = makeMediaRow(record, yes, no);
     appendRow(row);
+    // The first item of a row is always a MediaItem, see makeMediaRow().
     _itemsByPath.insert(record.filePath, static_cast<MediaItem*>(row.first()));
 }
 
@@ -39,6 +40,7 @@ bool MediaItemModel::removeFiles(const QStringList& keys) {
     bool isDone = true;
     // Adjacent rows are removed together, as each removal shifts all rows behind it.
     int last = -1;
+    // The step to -1 ends a block that reaches the first row.
     for (int row = rowCount() - 1; row >= -1; --row) {
         const QString key = row < 0 ? QString() : fileAt(row);
         if (row >= 0 && unwanted.contains(foldedCase(key))) {

@@ -54,6 +54,7 @@ QString embeddedComment(const QImageReader& reader) {
 
 void bufferHead(QImageReader& reader) {
     if (QIODevice* file = reader.device(); file->open(QIODevice::ReadOnly))
+        // One byte makes the file fill its whole buffer.
         file->peek(1);
 }
 
@@ -91,6 +92,7 @@ QSize resolutionFromText(const QString& text) {
     const qsizetype cross = text.indexOf(u'x');
     if (cross < 0)
         return {};
+    // "-1x-1" of an unknown resolution gives an invalid size.
     return {QStringView(text).first(cross).toInt(), QStringView(text).sliced(cross + 1).toInt()};
 }
 
@@ -110,6 +112,7 @@ QImage centredOnCanvas(const QImage& image, const QSize& canvasSize) {
     if (!image.isNull()) {
         const QPoint origin((canvas.width() - image.width()) / 2, (canvas.height() - image.height()) / 2);
         QPainter painter(&canvas);
+        // A source rectangle beyond the image is clipped together with the target, so the scale stays 1.
         painter.drawImage(canvas.rect(), image, QRect(-origin, canvasSize));
     }
     return canvas;
@@ -124,6 +127,7 @@ QImage compactThumbnail(const QImage& image) {
 
 QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes, const QString& no) {
     QList<QStandardItem*> row;
+    // Filled in the order of MediaColumn.
     row.reserve(MediaColumnCount);
 
     auto* name = new MediaItem;

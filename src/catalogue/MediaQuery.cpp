@@ -34,6 +34,7 @@ bool hasDuplicates(const QStringList& tags) {
     QSet<QStringView> seen;
     return std::ranges::any_of(tags, [&](const QString& tag) {
         const qsizetype before = seen.size();
+        // A save writes tags trimmed, so those that differ in outer blanks become the same text.
         seen.insert(QStringView(tag).trimmed());
         return seen.size() == before;
     });
@@ -137,7 +138,9 @@ MediaQuery::Typed MediaQuery::typedAtEnd(const QString& text) {
     const QList<Word> words = split(text);
     const Word& last = words.last();
     const auto isTagWord = [](const Word& word) { return !word.isQuoted && takesTag(word.text); };
+    // A blank ends a word unless a quote is still open, in which it belongs to the value.
     if (last.isEnded || text.back() == u'|' || (text.back().isSpace() && !last.isQuoted)) {
+        // The blank behind a tag word begins an empty value, for which all tags are offered.
         const bool isAfterBlank = text.back().isSpace() && isTagWord(last);
         return isAfterBlank ? Typed{Typed::Tag, text.size()} : Typed{};
     }
@@ -148,6 +151,7 @@ MediaQuery::Typed MediaQuery::typedAtEnd(const QString& text) {
 
 MediaQuery::MediaQuery(const QString& text, const QStringList& differentTags) {
     parse(split(text));
+    // Each tag text is folded and compared here once, so that a row needs only look-ups.
     for (const QString& tag : _wanted.isEmpty() ? QStringList() : differentTags) {
         if (const auto number = _wanted.constFind(foldedCase(tag.trimmed())); number != _wanted.cend())
             _wantedTags.insert(tag, *number);
@@ -193,6 +197,7 @@ void MediaQuery::parse(const QList<Word>& words) {
         if (!conditions.contains(condition))
             conditions.append(condition);
     }
+    // The last word is a bar then, whose right side is missing.
     if (conditions.isEmpty() && !words.isEmpty())
         _wrongWord = words.last().text;
     endAlternative();
@@ -280,6 +285,7 @@ bool MediaQuery::holds(const Condition& condition, const MediaFacts& facts,
     case Subject::TagCount:
         return compares(double(facts.tags.size()), condition.comparison, condition.number);
     case Subject::Width:
+        // An unknown size, stored as -1, fulfils no comparison, not even ":w<10".
         return size.isValid() && compares(size.width(), condition.comparison, condition.number);
     case Subject::Height:
         return size.isValid() && compares(size.height(), condition.comparison, condition.number);

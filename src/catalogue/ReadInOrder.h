@@ -39,6 +39,7 @@ public:
             for (qsizetype index = number * _valuesInBlock; index < end; ++index)
                 block.push_back(read(index));
             lock.lock();
+            // The slot is free: a block is started only after the one blocksAhead before it was taken.
             _blocks[slot(number)] = std::move(block);
             _isRead[slot(number)] = true;
             // The consumer waits for this block alone; each needless wake-up costs it a task switch.
@@ -115,7 +116,7 @@ void readInOrder(qsizetype count, Read read, const Take& take) {
             readers.threads.emplace_back([&values, read]() mutable { values.readAll(read); });
     };
     // Few readers are enough for files in the memory of the system, where a switch between threads costs as
-    // much as reading one; readers that wait for a disk or a server get company.
+    // much as reading one; where they wait for a disk or a server, more are added.
     for (unsigned reader = 0; reader < std::clamp(std::thread::hardware_concurrency(), 2U, 4U); ++reader)
         addReader();
     for (qsizetype index = 0; index < count;) {

@@ -64,6 +64,7 @@ void SelectionWatcher::compare() {
     QStringList selected = files();
     if (holdSameFiles(selected, _reported))
         return;
+    // Stored before the signal, as a slot may change the selection and so call this again.
     _reported = std::move(selected);
     emit changed();
 }

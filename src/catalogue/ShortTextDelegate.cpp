@@ -32,6 +32,7 @@ QWidget* ShortTextDelegate::createEditor(QWidget* parent, const QStyleOptionView
 bool ShortTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                                   const QStyleOptionViewItem& option, const QModelIndex& index) {
     QString text = index.data(Qt::ToolTipRole).toString();
+    // The base class would interpret a file name that looks like markup.
     if (event->type() != QEvent::ToolTip || (!text.isEmpty() && !Qt::mightBeRichText(text)))
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     // A text that is cut off and has no tool tip of its own is shown as the tool tip.

@@ -16,6 +16,7 @@ QSize SizeRememberingDelegate::sizeHint(const QStyleOptionViewItem& option, cons
     const QVariant canvasSize = index.data(RoleCanvasSize);
     const QString text = displayText(index.data(Qt::DisplayRole), option.locale);
     if (text.isEmpty())
+        // An item without a text has no HasDisplay feature, which is assumed below.
         return ShortTextDelegate::sizeHint(option, index);
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     const Shape shape{canvasSize.isValid() ? canvasSize.toSize() : QSize(),
@@ -35,6 +36,7 @@ QSize SizeRememberingDelegate::sizeHint(const QStyleOptionViewItem& option, cons
     }
     if (const auto known = _sizes.constFind(text); known != _sizes.cend())
         return *known;
+    // What initStyleOption() would set, except for the canvas, of which the size is enough.
     QStyleOptionViewItem sized = option;
     sized.index = index;
     sized.features |= QStyleOptionViewItem::HasDisplay;

@@ -15,6 +15,7 @@ bool isLess(const QVariant& left, const QVariant& right) {
 } // namespace
 
 void SortFilterProxyModel::sort(int column, Qt::SortOrder order) {
+    // The values belong to row numbers, which are valid only during this call.
     const auto clearValues = qScopeGuard([this] { _sortValues.clear(); });
     fetchSortValues(column);
     QSortFilterProxyModel::sort(column, order);
@@ -43,6 +44,7 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
 }
 
 bool SortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+    // The base class sorts a single new row itself, outside of sort() and refilter().
     if (_sortValues.empty())
         return QSortFilterProxyModel::lessThan(left, right);
     const QVariant& leftValue = _sortValues[static_cast<size_t>(left.row())];

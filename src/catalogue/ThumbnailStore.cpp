@@ -100,10 +100,12 @@ QImage ThumbnailStore::inFile(const QImage& image) {
 
 bool ThumbnailStore::openSegment(qint64 leastBytes) {
     auto segment = std::make_shared<Segment>();
+    // The file has its full size before it is mapped; being sparse, it takes disk space only as it fills.
     segment->size = std::max(segmentBytes, leastBytes);
     QDir().mkpath(_directory);
     segment->file.setFileTemplate(QDir(_directory).filePath(QStringLiteral("thumbnails-XXXXXX")));
     QFile& file = segment->file;
+    // Unbuffered, as the mapping shows only what has reached the file.
     if (file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.resize(segment->size))
         segment->bytes = file.map(0, segment->size);
     if (!segment->bytes) {

@@ -84,11 +84,13 @@ void VideoImageLoader::videoFrameChanged(QVideoFrame frame) {
         return;
     qDebug() << "VideoImageLoader::videoFrameChanged" << _player->source() << frame << frame.isValid()
              << _player->position() << "_isRunning:" << _isRunning;
+    // Before stop(), which makes the sink and the player report once more.
     endJob();
     _player->stop();
     _image = frame.toImage();
     if (_size.isValid())
         _image = _image.scaled(_size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    // Not before: the back end has all metadata only with the first frame.
     _videoMeta = videoMetaHash(_player->metaData());
     emit imageFrame(_videoFilePath, _image);
 }
@@ -99,6 +101,7 @@ void VideoImageLoader::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
         return;
     const bool withoutPicture = status == QMediaPlayer::LoadedMedia && !_player->hasVideo();
     _jobHasFailed = status == QMediaPlayer::InvalidMedia || withoutPicture;
+    // Even a failure ends the job from the event loop, as this may still run inside grabFrame().
     _timeout.start(_jobHasFailed ? std::chrono::seconds{0} : probeTimeout);
 }
 
@@ -135,6 +138,7 @@ QHash<QString, QVariant> videoMetaHash(QMediaMetaData metaData) {
     const auto keys = metaData.keys();
     for (const QMediaMetaData::Key key : keys)
         hash.insert(QMediaMetaData::metaDataKeyToString(key), metaData.value(key));
+    // The names above are Qt's for display, which may be translated; the columns need fixed ones.
     for (const auto& [key, name] : videoMetaNames)
         if (const QVariant value = metaData.value(key); value.isValid())
             hash.insert(name, value);
