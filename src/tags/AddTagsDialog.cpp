@@ -15,10 +15,12 @@ AddTagsDialog::AddTagsDialog(QWidget* parent) : QDialog(parent), _ui(std::make_u
         new CompletionPopup(_ui->plainTextEdit, [this](const QString& line, qsizetype cursor) {
             return tagCompletions(_knownTags, line, cursor);
         });
+    // Ctrl+Enter presses the button, whichever of the two actions that has.
     connect(completions, &CompletionPopup::accepted, _ui->pBAdd, &QPushButton::click);
 }
 
 AddTagsDialog::~AddTagsDialog() {
+    // While this is still a whole dialog, so that its geometry can be read and stored.
     emit aboutToBeDestroyed();
 }
 
@@ -27,6 +29,7 @@ void AddTagsDialog::setTagFile(const QString& imageFilePath, const QString& file
     _ui->labelTags->setText(tr("Tags from: %1").arg(filePath));
     setWindowTitle(tr("Edit tags, one per line or/and \",\" separated.."));
     _ui->pBAdd->setText(tr("Save"));
+    // "Save" writes the one sidecar; the selection, to which "Add" applies, has no part in it.
     disconnect(_ui->pBAdd, &QPushButton::clicked, this, &AddTagsDialog::onAccepted);
     connect(_ui->pBAdd, &QPushButton::clicked, this, [this, imageFilePath, filePath] {
         emit addTagsTxtAccepted(imageFilePath, filePath, _ui->plainTextEdit->toPlainText());

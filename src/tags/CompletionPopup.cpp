@@ -31,6 +31,7 @@ CompletionPopup::CompletionPopup(QLineEdit* edit, Offer offer)
         edit->insert(text);
     };
     _cursorRect = [edit] { return QRect(edit->mapToGlobal(QPoint()), edit->size()); };
+    // Not textChanged: a text that the program sets offers nothing.
     connect(edit, &QLineEdit::textEdited, this, &CompletionPopup::update);
 }
 
@@ -61,6 +62,7 @@ bool CompletionPopup::isOpen() const {
 }
 
 void CompletionPopup::update() {
+    // Typing on after Ctrl+Enter makes Ctrl+Z undo the typing again.
     _isAccepted = false;
     if (_isInserting || !_edit->isVisible())
         return;
@@ -86,6 +88,7 @@ void CompletionPopup::open(const QList<Completion>& rows) {
         _list->setHeaderHidden(true);
         _list->setRootIsDecorated(false);
         _list->setUniformRowHeights(true);
+        // The popup is sized to its rows, see place().
         _list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         _list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         _list->setItemDelegate(new ShortTextDelegate(_list));
@@ -95,11 +98,13 @@ void CompletionPopup::open(const QList<Completion>& rows) {
     _list->clear();
     const QBrush quiet = _list->palette().brush(QPalette::PlaceholderText);
     for (const Completion& row : rows) {
+        // Line ends would make a row higher; the stored text is inserted as it is.
         auto* item = new QTreeWidgetItem(_list, {row.text.simplified(), row.note});
         item->setData(0, Qt::UserRole, row.text);
         item->setForeground(1, quiet);
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     }
+    // Nothing is chosen at first, so that Enter and Tab keep their usual effect.
     _list->setCurrentItem(nullptr);
     place();
     // Each time, as the edit may have moved to another window. A filter is not installed twice.
@@ -140,6 +145,7 @@ void CompletionPopup::step(int rows) {
 void CompletionPopup::insertCompletion(const QTreeWidgetItem* item) {
     const QString text = item->data(0, Qt::UserRole).toString();
     hide();
+    // The insertion changes the text, which would open the list again.
     _isInserting = true;
     _replace(_start, _line().cursor, text);
     _isInserting = false;
@@ -180,6 +186,7 @@ bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
         else
             hide();
         return chosen != nullptr;
+    // These keys move the cursor away from the text that was completed.
     case Qt::Key_Left:
     case Qt::Key_Right:
     case Qt::Key_Home:
@@ -198,7 +205,7 @@ bool CompletionPopup::eventFilter(QObject* watched, QEvent* event) {
         return watched == _edit && handleKey(keys->key(), keys->modifiers());
     }
     case QEvent::ShortcutOverride: {
-        // After an acceptance these keys reach the window, which undoes it, instead of undoing the typing.
+        // After Ctrl+Enter these keys reach the window, which undoes the added tag, not the typing.
         const auto* keys = static_cast<QKeyEvent*>(event);
         return watched == _edit && _isAccepted &&
                (keys->matches(QKeySequence::Undo) || keys->matches(QKeySequence::Redo));
@@ -209,6 +216,7 @@ bool CompletionPopup::eventFilter(QObject* watched, QEvent* event) {
         if (watched == _edit)
             hide();
         return false;
+    // The window moves, resizes or loses its activation, and the list would stay where it is.
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::WindowDeactivate:

@@ -14,6 +14,7 @@
 
 namespace {
 
+// The editor is bound to a file by these dynamic properties.
 constexpr auto txtFileNameProperty = "txtFileName";
 constexpr auto imgFileNameProperty = "imgFileName";
 constexpr auto followedFileProperty = "followedFile";
@@ -38,6 +39,7 @@ QString sidecarError(const SidecarWrite& write) {
 
 // Shows a loaded text, which is no edit of the user and cannot be undone.
 void showLoadedText(QPlainTextEdit* edit, const QString& text) {
+    // Switching undo off also clears its history.
     edit->setUndoRedoEnabled(false);
     edit->clear();
     edit->appendPlainText(text);
@@ -79,6 +81,7 @@ QStringList MainWindow::readTagFile(const QString& filePath) {
     const QString txtFileName = imgFilePathToTxtFilePath(filePath);
     ui->pTETagsFromFile->setProperty(txtFileNameProperty, txtFileName);
     ui->pTETagsFromFile->setProperty(imgFileNameProperty, filePath);
+    // From the disk, so the editor shows what the file holds, not the unsaved tags.
     const std::optional<QString> text = sidecarText(txtFileName);
     showLoadedText(ui->pTETagsFromFile, text.value_or(QString()));
     ui->labelTagsFromFile->setText(
@@ -143,6 +146,7 @@ void MainWindow::onSaveTags() {
             failures.append(fileFailure(remark.txtFileName, sidecarError(remark.write)));
     }
     showResult(tr("saved"), report.written, _imageTags->size(), failures);
+    // A filter for unsaved files or missing sidecars has another result now.
     if (!report.isStopped)
         onFilterImages(ui->leFilterImages->text());
 }
@@ -157,11 +161,13 @@ void MainWindow::onSaveTagTxtFile() {
 }
 
 bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFileName, const QString& text) {
+    // Exactly as it was typed: only "Save tags" trims tags and removes duplicates.
     const SidecarWrite write = writeSidecar(txtFileName, text, ui->cBBackupTxt->isChecked());
     logBackup(txtFileName, write);
     const bool isWritten = write.outcome == SidecarWrite::Written;
     showResult(tr("saved"), isWritten ? 1 : 0, 1,
                isWritten ? QStringList() : QStringList{fileFailure(txtFileName, sidecarError(write))});
+    // A text that was not written changes nothing in the record.
     switch (write.outcome) {
     case SidecarWrite::NoBackupName:
         return false;
@@ -198,6 +204,7 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
 }
 
 void MainWindow::onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags) {
+    // The second text is the path of the sidecar, the third its new content.
     saveTagTxtFile(imgFile, text, tags);
     if (!isTagFileEdited())
         readTagFile(imgFile);

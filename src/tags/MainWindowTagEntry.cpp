@@ -89,6 +89,7 @@ void MainWindow::onAddTagsAccepted(const QString& text) {
 void MainWindow::editTagFor(const QString& filePath) {
     const QString txtFileName = imgFilePathToTxtFilePath(filePath);
     QFile file(txtFileName);
+    // The context menu has this entry only for a filled sidecar, which may be gone by now.
     if (!file.exists())
         return;
     if (!file.open(QIODevice::ReadOnly)) {
@@ -140,6 +141,7 @@ void MainWindow::splitTagText(const QString& src) {
 
 void MainWindow::onTagsExport() {
     auto* dialog = new TagsExportDialog(this);
+    // Not modal, and each window keeps the tags of the moment at which it was opened.
     dialog->setWindowFlag(Qt::Dialog);
     dialog->setWindowTitle(tr("All tags"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);

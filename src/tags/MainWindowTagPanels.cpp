@@ -108,6 +108,7 @@ void MainWindow::initTagPanelConnections() {
 void MainWindow::initTagPanelKeys() {
     const auto addKey = [this](const QKeySequence& keys, QListWidget* list, auto action) {
         auto* shortcut = new QShortcut(keys, list);
+        // Only with the focus on this list: a text field copies and pastes its own text.
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, action);
         return shortcut;
@@ -119,7 +120,7 @@ void MainWindow::initTagPanelKeys() {
     auto* deleteKey = addKey(Qt::Key_Delete, ui->lwImageTags, [this, list = ui->lwImageTags] {
         const int row = firstRow(list->selectionModel()->selectedIndexes());
         onTagDelete();
-        // The tag that takes the place is selected, so that the next key continues there.
+        // Selects the tag that moved up into this row, so that the next key press continues there.
         if (row >= 0)
             list->setCurrentRow(qMin(row, list->count() - 1));
     });
@@ -173,6 +174,7 @@ void MainWindow::onTagsChanged(TagChange change) {
 void MainWindow::refreshSelectionTags(const QStringList& filePaths) {
     QStringList tags;
     for (const QString& filePath : filePaths)
+        // A tag that several files have is shown once for each.
         tags.append(imageTags(filePath));
     showTags(ui->lwImageTags, tags);
 }
@@ -196,8 +198,10 @@ void MainWindow::onAllImagesTagSelectedChanged() {
     const QStringList tags = selectedTagTexts(ui->lwAllImagesTags);
     TagMatcher matcher(tags);
     int found = 0;
+    // Replaces what the filter line has hidden: the search that ran last decides.
     hideFiles(tr("%1 hidden by the tag search"), [&](int /*row*/, const QString& filePath) {
         const bool matches = matcher.matchesAny(_imageTags->tags(filePath));
+        // Without a selected tag none is found, yet every row is shown.
         found += matches ? 1 : 0;
         return !tags.isEmpty() && !matches;
     });
@@ -280,5 +284,6 @@ void MainWindow::onImagesTagsCustomContextMenu(const QPoint& pos) {
 void MainWindow::addTagListActions(QMenu& menu, QListWidget* list, Qt::SortOrder& order) {
     menu.addAction(tr("View &list"), this, [list] { setStaticViewMode(list, QListView::ListMode); });
     menu.addAction(tr("View &icon"), this, [list] { setStaticViewMode(list, QListView::IconMode); });
+    // The order is a member of the window, so the reference outlives the menu.
     menu.addAction(tr("&Sort"), this, [list, &order] { sortTagList(list, order); });
 }

@@ -37,6 +37,7 @@ void ReplaceTextDialog::onClose() {
     }
     switch (_operationType) {
     case Replace:
+        // Empty texts are reported by the receiver, which then changes nothing.
         emit replaceText(_ui->lESrcText->text(), _ui->lEDstText->text());
         break;
     case Split:

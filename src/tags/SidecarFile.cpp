@@ -9,6 +9,7 @@ SidecarRead readSidecarFile(const QString& txtFileName) {
     SidecarRead read;
     QFile file(txtFileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        // A media file without a sidecar is no error.
         if (file.exists())
             read.error = file.errorString();
         return read;
@@ -44,10 +45,12 @@ SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool 
             return result;
         }
         QFile sidecar(txtFileName);
+        // The tags are written all the same, over the text that could not be renamed.
         if (!sidecar.rename(backupName))
             result.backupError = sidecar.errorString();
     }
     QFile file(txtFileName);
+    // Unbuffered, so that write() itself reports what a full disk refuses.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         result.outcome = SidecarWrite::NotOpened;
         result.error = file.errorString();

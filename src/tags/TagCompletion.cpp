@@ -26,6 +26,7 @@ struct Match {
 QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word) {
     const QStringMatcher matcher(word, Qt::CaseInsensitive);
     QList<Match> matches;
+    // The views point into the known tags, which outlive this call.
     QHash<QStringView, qsizetype> indexes;
     for (const TagCount& counted : known) {
         const QStringView tag = QStringView(counted.tag).trimmed();
@@ -39,6 +40,7 @@ QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word) 
             matches[*index.iterator].count += counted.count;
     }
     const auto end = matches.begin() + qMin(matches.size(), maxOffered);
+    // Only the offered ones are sorted: one letter matches thousands of tags.
     std::partial_sort(matches.begin(), end, matches.end());
     QList<TagCount> offered;
     for (auto match = matches.begin(); match != end; ++match)
@@ -48,6 +50,7 @@ QList<TagCount> matchingTags(const QList<TagCount>& known, const QString& word) 
 
 CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line, qsizetype cursor) {
     const QStringView rest = QStringView(line).sliced(cursor).trimmed();
+    // Inside of a tag nothing is offered, as a completion would split that tag.
     if (!rest.isEmpty() && rest.front() != u',')
         return {};
     const QStringView typed = QStringView(line).first(cursor);
@@ -55,6 +58,7 @@ CompletionOffer tagCompletions(const QList<TagCount>& known, const QString& line
     const QString word = piece.trimmed().toString();
     if (word.isEmpty())
         return {};
+    // Blanks behind the comma stay, so the replaced text begins with the word.
     CompletionOffer offer{cursor - piece.size() + piece.indexOf(word.front())};
     const auto matches = matchingTags(known, word);
     for (const TagCount& match : matches)

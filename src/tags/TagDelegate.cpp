@@ -19,6 +19,7 @@ void TagDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     frame.setAlpha(frameAlpha);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(frame);
+    // Half a pixel inwards, where a line one pixel wide is drawn sharply.
     painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), frameRadius, frameRadius);
 
     const auto* list = qobject_cast<const QListView*>(option.widget);

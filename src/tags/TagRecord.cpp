@@ -44,6 +44,7 @@ const QList<TagCount>& TagRecord::counted() const {
 }
 
 void TagRecord::announce(TagChange change) {
+    // Saving changes no tag, so the counts stay valid.
     if (change != TagChange::Saved)
         _counted.reset();
     emit changed(change);
@@ -57,10 +58,12 @@ void TagRecord::load(const QStringList& keys) {
 
 void TagRecord::importFiles(const QStringList& keys) {
     QStringList added = keys;
+    // Before the read, which makes an entry for each of them.
     added.removeIf([this](const QString& key) { return contains(key); });
     read(keys);
     Step step{.pattern = tr("import %1 files"), .isImport = true};
     for (const QString& key : std::as_const(added)) {
+        // A file without tags has nothing that an undo would remove.
         if (!tags(key).isEmpty())
             step.before.insert(key, {});
     }
@@ -79,6 +82,7 @@ void TagRecord::read(const QStringList& keys) {
     };
     readInOrder(
         wanted.size(),
+        // Each reader thread copies this function and so has a pool of its own.
         [&wanted, pool = TagPool()](qsizetype index) mutable {
             Sidecar sidecar;
             sidecar.txtFileName = imgFilePathToTxtFilePath(wanted.at(index));
@@ -144,7 +148,9 @@ void TagRecord::removeEverywhere(const QStringList& tags) {
 
 void TagRecord::replaceText(const QString& src, const QString& dst) {
     Step step{tr("replace %1 in %2 files"), quotedTags({src})};
+    // change() assigns to an entry and inserts none, so the iterator stays valid.
     for (auto entry = _tags.begin(); entry != _tags.end(); ++entry) {
+        // Entries without the text keep sharing the memory of their lists.
         if (std::ranges::none_of(std::as_const(*entry),
                                  [&](const QString& tag) { return tag.contains(src); }))
             continue;
@@ -169,6 +175,7 @@ void TagRecord::setSavedTags(const QString& key, const QStringList& tags) {
     Step step{tr("save the text of %1"), QFileInfo(key).fileName()};
     // Not entryOf: the sidecar already has the new tags, so reading it would leave nothing to undo.
     change(step, _tags.tryEmplace(key).iterator, tags);
+    // change() has just marked the file as unsaved.
     _sidecarTags.remove(key);
     finish(std::move(step), TagChange::Stored);
 }
@@ -191,6 +198,7 @@ qsizetype TagRecord::restore(const Tags& tags) {
         if (const auto entry = _tags.find(key); entry != _tags.end())
             change(step, entry, restored);
     }
+    // finish() takes the step over.
     const qsizetype count = step.before.size();
     finish(std::move(step), TagChange::Edited);
     return count;
@@ -252,6 +260,7 @@ void TagRecord::revertStep(QList<Step>& from, QList<Step>& to) {
         return;
     Step step = from.takeLast();
     _undoBytes -= step.bytes;
+    // An import has no earlier tags to set: its entries are removed or read again as a whole.
     if (step.isImport) {
         revertImport(step.before.keys(), &from == &_undo);
         to.append(std::move(step));
@@ -277,6 +286,7 @@ void TagRecord::revertImport(const QStringList& keys, bool isUndone) {
         if (isUndone) {
             _tags.remove(key);
             _sidecarTags.remove(key);
+            // The file may have been deleted since, or have a row and an entry again.
         } else if (!contains(key) && QFileInfo::exists(key)) {
             absent.append(key);
         }
@@ -290,6 +300,7 @@ void TagRecord::setUndoLimit(qsizetype bytes) {
 }
 
 void TagRecord::dropOldSteps() {
+    // The oldest steps of undo first. Only without any, those of redo, from the one farthest away.
     while (_undoBytes > _undoLimit && !(_undo.isEmpty() && _redo.isEmpty())) {
         QList<Step>& steps = _undo.isEmpty() ? _redo : _undo;
         _undoBytes -= steps.takeFirst().bytes;
@@ -300,6 +311,7 @@ QString TagRecord::textOf(const Step& step) {
     const QString count = QString::number(step.before.size());
     if (step.what.isNull())
         return step.pattern.arg(count);
+    // One call of arg() for both texts: a "%2" in a tag is not taken for the number.
     return step.pattern.contains("%2"_L1) ? step.pattern.arg(step.what, count) : step.pattern.arg(step.what);
 }
 
@@ -311,6 +323,7 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
         TagSaveRemark remark{imgFilePathToTxtFilePath(key), {}, false};
         const QString replacedKey = writers.value(remark.txtFileName);
         remark.isShared = !replacedKey.isNull();
+        // Every entry is written, changed or not, and one without tags gives an empty file.
         remark.write = writeSidecar(remark.txtFileName, text, options.makesBackups);
         const bool isWhole = remark.write.outcome == SidecarWrite::Written;
         if (isWhole) {
@@ -321,6 +334,7 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
                 _sidecarTags.insert(replacedKey, tagsFromText(text));
         }
         ++(isWhole ? report.written : report.failed);
+        // Paints the window without handling events, so the record does not change in this loop.
         if (options.progress)
             options.progress(report.written + report.failed, _tags.size());
         if (!isWhole || remark.isShared || !remark.write.backupError.isEmpty())

@@ -92,6 +92,7 @@ QByteArray recoveryText(const RecoveredTags& recovered) {
 
 std::optional<RecoveredTags> recoveryFromText(const QByteArray& text) {
     const QJsonObject root = QJsonDocument::fromJson(text).object();
+    // Text that is no JSON gives an empty object, without a version.
     if (root["version"_L1].toInt() != formatVersion || !root["files"_L1].isArray())
         return std::nullopt;
     RecoveredTags recovered;
@@ -157,6 +158,7 @@ void TagRecovery::open(const QString& workingDirectory) {
 void TagRecovery::close() {
     if (_delay.isActive())
         write();
+    // The file is whole before it can be read again, for this directory or at the next start.
     _writer.waitForDone();
     _path.clear();
     _offer = {};
@@ -171,6 +173,7 @@ void TagRecovery::onRecordChanged() {
         return;
     }
     const QDateTime now = QDateTime::currentDateTimeUtc();
+    // A first change starts the delay; further ones extend it up to the limit.
     if (!_delay.isActive())
         _pendingSince = now;
     else if (_pendingSince.msecsTo(now) > longestDelayMs)
@@ -199,6 +202,7 @@ qsizetype TagRecovery::offeredCount() const {
 TagRecovery::Restored TagRecovery::restore() {
     Restored restored;
     TagRecord::Tags tags;
+    // What cannot be restored now stays offered for a scan that includes it.
     RecoveredTags kept{_offer.directory, _offer.time, {}};
     for (const auto& [key, file] : std::as_const(_offer.files).asKeyValueRange()) {
         if (_record.contains(key)) {
@@ -229,6 +233,7 @@ void TagRecovery::dropOldFiles() const {
     for (qsizetype index = 0; index < files.size(); ++index) {
         const QFileInfo& file = files.at(index);
         const bool isOld = index >= keptFiles || file.lastModified(QTimeZone::UTC) < oldest;
+        // Only what is recognised as a recovery is removed.
         if (isOld && readRecovery(file.filePath()))
             QFile::remove(file.filePath());
     }

@@ -44,6 +44,7 @@ QString tagListToString(const QStringList& tags) {
         text += QStringView(tag).trimmed();
         text += u',';
     }
+    // Without any tag there is no comma, and chop() does nothing.
     text.chop(1);
     return text;
 }
@@ -51,6 +52,7 @@ QString tagListToString(const QStringList& tags) {
 QString savedTagText(const QStringList& tags, bool keepDuplicates) {
     QStringList saved = tags;
     if (!keepDuplicates)
+        // Compared before trimming, so tags that differ in outer blanks are both written.
         saved.removeDuplicates();
     return tagListToString(saved);
 }

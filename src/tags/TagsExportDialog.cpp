@@ -24,8 +24,10 @@ TagsExportDialog::~TagsExportDialog() = default;
 
 void TagsExportDialog::setTags(const QStringList& tags) {
     _tags = tags;
+    // Of the full list, so that they are right when only unique tags are shown.
     _counts = tagCounts(tags);
     updateText();
+    // Appending leaves the view at the last line.
     _ui->plainTextEdit->moveCursor(QTextCursor::Start);
 }
 
