@@ -229,6 +229,8 @@ void TagRecord::noteSidecarTags(const QString& key, const QStringList& before, c
 
 void TagRecord::finish(Step&& step, TagChange change) {
     if (!step.before.isEmpty()) {
+        for (const Step& undone : std::as_const(_redo))
+            _undoBytes -= undone.bytes;
         _redo.clear();
         _undoBytes += step.bytes;
         // Consecutive answers of a batch are one step, which keeps each file's tags from before its first

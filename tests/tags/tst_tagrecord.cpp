@@ -112,6 +112,10 @@ private slots:
         QCOMPARE(record.tags("/d/c.png").size(), 1000);
         record.undo();
         QVERIFY(!record.canUndo() && record.tags("/a.png").size() == 2);
+        // Steps that can no longer be redone leave room for new ones.
+        record.setTags("/d/c.png", QStringList(1000, "a tag"));
+        record.setTags("/d/c.png", {});
+        QVERIFY(record.canUndo());
     }
 
     void anImportIsTakenBackAndTheSidecarStays() {
