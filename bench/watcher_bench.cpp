@@ -104,7 +104,7 @@ public:
             });
         requireEveryFileOnce();
         std::printf(
-            "\nLongest turn of the event loop in a burst: %.0f ms. Every file stands there once, with tags "
+            "\nLongest turn of the event loop in a burst: %.0f ms. Every file is there once, with tags "
             "and thumbnail.\n",
             Ratio::median(gaps));
     }

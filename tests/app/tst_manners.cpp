@@ -76,7 +76,7 @@ QList<QWidget*> namedWidgets(const QWidget* window) {
     return window->findChildren<QWidget*>(ownName);
 }
 
-QString spokenName(QWidget* widget) {
+QString accessibleNameOf(QWidget* widget) {
     const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
     return interface ? interface->text(QAccessible::Name) : QString();
 }
@@ -118,7 +118,7 @@ private slots:
     void initTestCase() {
         _media.addImage("a.png");
         _media.addTags("a.png", "sky");
-        speak("en");
+        switchTo("en");
         for (int number = 0; number < windows.size(); ++number) {
             const std::unique_ptr<QWidget> made = windowOf(number);
             _english.append(textsOf(made ? made.get() : &_driver->window()));
@@ -137,7 +137,7 @@ private slots:
     void windowsKeepTheRules() {
         QFETCH(QString, language);
         QFETCH(int, number);
-        speak(language);
+        switchTo(language);
         const std::unique_ptr<QWidget> made = windowOf(number);
         QWidget* window = made ? made.get() : &_driver->window();
         window->show();
@@ -170,7 +170,7 @@ private:
     }
 
     // Starts the main window in a language.
-    void speak(const QString& language) {
+    void switchTo(const QString& language) {
         if (_language == language)
             return;
         _language = language;
@@ -252,7 +252,7 @@ private:
     static void everyControlHasAName(const QWidget* window) {
         QStringList nameless;
         for (QWidget* widget : namedWidgets(window)) {
-            if (widget->focusPolicy() != Qt::NoFocus && !hasLetter(spokenName(widget)))
+            if (widget->focusPolicy() != Qt::NoFocus && !hasLetter(accessibleNameOf(widget)))
                 nameless.append(widget->objectName());
         }
         QCOMPARE(nameless.join(" "), QString());

@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QTest>
 
-// Stands in for the desktop's file manager.
+// Replaces the desktop's file manager.
 class FakeFileManager : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")

@@ -37,7 +37,7 @@ private slots:
         addRows<QString, QString, QString>({
             {"relative", "/data/set", "out", "/data/set/out"},
             {"relative with a dot stays as typed", "/data/set", "./scaled", "/data/set/./scaled"},
-            {"empty stands for the working directory", "/data/set/", "", "/data/set"},
+            {"empty is the working directory", "/data/set/", "", "/data/set"},
             {"absolute", "/data/set", "/elsewhere/out", "/elsewhere/out"},
         });
     }

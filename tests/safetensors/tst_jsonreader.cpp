@@ -121,7 +121,7 @@ private slots:
             {"half the smallest denormal", halfDenormal, 0},
             {"a little more than that", halfDenormal + zeros + "1", denormal},
             {"zero with a huge exponent", "0e99999999999", 0},
-            {"exponent of 65536 meets its zeros", "0." + std::string(65535, '0') + "1e65536", 1},
+            {"exponent of 65536 against its zeros", "0." + std::string(65535, '0') + "1e65536", 1},
         });
     }
     void numbers() {

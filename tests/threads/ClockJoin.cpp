@@ -2,8 +2,8 @@
 
 #include <ctime>
 
-// Qt joins its threads by a call that ThreadSanitizer does not know, so it takes them for living and gives up
-// when the system uses their identity again. This one goes through a call that it knows.
+// Qt joins its threads by a call that ThreadSanitizer does not support, so it takes them for living and gives
+// up when the system uses their identity again. This one uses a call that it supports.
 extern "C" int pthread_clockjoin_np(pthread_t thread, void** result, clockid_t clock,
                                     const timespec* deadline) {
     if (!deadline)
