@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QHash>
 #include <QImage>
 #include <QList>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 class BatchWriter;
 class EditImageDialog;
@@ -392,6 +394,7 @@ private:
     void forEachEffectRow(const std::function<void(ImageFilterWidgetBase*)>& visit) const;
     // The absolute directory, made if it is missing; a failure is shown.
     QString prepareOutputDirectory(const QString& outputText);
+    void readFilterImage(const QString& path);
     void loadFilterImage(const QString& path, bool isBatch);
     [[nodiscard]] QImage appliedEffects(const QImage& image, bool& applied) const;
     bool writeBatchImage(BatchWriter& writer, const QImage& image, const QString& sourcePath,
@@ -401,6 +404,8 @@ private:
     // The image last decoded for the filters; in a preview reduced to the size of the view.
     QImage _filterImage;
     QString _filterImagePath;
+    // Of that file when it was decoded: modification time and size.
+    std::pair<QDateTime, qint64> _filterImageState;
 
     // --- Profiles (imaging) ----------------------------------------------------------------------
 public slots:

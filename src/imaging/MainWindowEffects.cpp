@@ -10,8 +10,10 @@
 #include "ui_MainWindow.h"
 
 #include <QDebug>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QMenu>
+#include <QTimeZone>
 
 #include <optional>
 
@@ -23,6 +25,12 @@ constexpr int effectNameRole = Qt::UserRole + 1;
 // Shown instead of writing the preview over its file.
 QString noSaveOfEffects() {
     return MainWindow::tr("Preview of effects is not saved, use Apply.");
+}
+
+// Modification time and size: differs once the file has been written again.
+std::pair<QDateTime, qint64> filterFileState(const QString& path) {
+    const QFileInfo info(path);
+    return {info.lastModified(QTimeZone::UTC), info.size()};
 }
 
 } // namespace
@@ -233,11 +241,19 @@ void MainWindow::onFilterApply() {
     onShowMessage(tr("Filters applied to: %1 files").arg(paths.size()));
 }
 
+void MainWindow::readFilterImage(const QString& path) {
+    _filterImagePath = path;
+    // Before the picture, so that a write in between makes the next preview read it again.
+    _filterImageState = filterFileState(path);
+    _filterImage = QImage(path);
+}
+
 void MainWindow::loadFilterImage(const QString& path, bool isBatch) {
-    // A preview leaves a reduced copy here, which a batch must not write.
-    if (isBatch || _filterImage.isNull() || _filterImagePath != path) {
-        _filterImagePath = path;
-        _filterImage = QImage(path);
+    // A preview leaves a reduced copy here, which a batch must not write. An old state of the file would be
+    // shown, and could be saved over the new one.
+    if (isBatch || _filterImage.isNull() || _filterImagePath != path ||
+        _filterImageState != filterFileState(path)) {
+        readFilterImage(path);
         if (!isBatch)
             _filterImage = reducedToFit(_filterImage, ui->imgWidget->size());
     }
@@ -276,6 +292,5 @@ void MainWindow::onDspReset() {
         return;
     }
     ui->imgWidget->setImageFilePath(paths.first());
-    _filterImagePath = paths.first();
-    _filterImage = QImage(_filterImagePath);
+    readFilterImage(paths.first());
 }

@@ -413,7 +413,9 @@ private slots:
              "dockWidget_ImgPreview=Image 280x224 preview ; statusbar=Filters applied to: 1 files"},
             {"press Ctrl+S in imgWidget", "statusbar=Preview of effects is not saved, use Apply."},
             {"tbProfileEdit_HL", "ProfilesEditWidget=Profiles editor"},
-            {"tbProfileRemove_HL", "ProfilesEditWidget=(nothing) ; statusbar=Filters applied to: 1 files"},
+            {"write b.jpg lime 300x240", "disk b.jpg=300x240 lime v2"},
+            {"tbProfileRemove_HL",
+             "ProfilesEditWidget=(nothing) ; imgWidget=lime ; statusbar=Filters applied to: 1 files"},
         };
         live(desk, steps);
         resizingObeysItsForm(desk);
