@@ -381,13 +381,14 @@ void EditImageWidget::setAspectRatioKeep(bool on) {
 }
 
 void EditImageWidget::applyCut() {
-    if (!_cutRect.isValid()) {
+    // Of a rectangle without a pixel of the picture, copy() would take the whole picture.
+    const QRect pixels = _cutRect.toRect() & _pixmap.rect();
+    if (!_cutRect.isValid() || pixels.isEmpty()) {
         qDebug() << "Invalid cut rect:" << _cutRect;
         return;
     }
     _pixUndoRedo.append(_pixmap);
-    // copy() leaves out what lies outside the picture; for a rectangle without a pixel inside it takes all.
-    _pixmap = _pixmap.copy(_cutRect.toRect());
+    _pixmap = _pixmap.copy(pixels);
     const CutShift shift = shiftAfterCut(_cutRect);
     _transform.translate(shift.translation.x(), shift.translation.y());
     _cutRect = shift.cutRect;

@@ -103,9 +103,11 @@ private slots:
         QCOMPARE(undo, (Signals{{true}, {true}, {true}, {false}, {false}}));
 
         _view->setTool(EditImageWidget::ToolCut);
-        _view->onCutRectSet({10, 10, 0, 20});
-        key(Qt::Key_Space);
-        QVERIFY(!_view->undoAvailable());
+        for (const QRectF& nothing : {QRectF(10, 10, 0, 20), QRectF(400, 0, 9, 9), QRectF(5, 5, 0.4, 9)}) {
+            _view->onCutRectSet(nothing);
+            key(Qt::Key_Space);
+            QVERIFY(!_view->undoAvailable());
+        }
         _view->onCutRectSet({-50, 20, 100, 1000});
         key(Qt::Key_Enter);
         QCOMPARE(_view->imageSize(), QSize(50, 280));
