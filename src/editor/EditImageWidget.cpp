@@ -268,8 +268,10 @@ void EditImageWidget::keyPressEvent(QKeyEvent* event) {
         _axisLock = horizontalMovesOnly;
     else if (event->modifiers() == Qt::ControlModifier)
         _axisLock = verticalMovesOnly;
-    // Keys act on release, when the user may have released the modifiers already.
-    _pressedModifiers.insert(event->key(), event->modifiers());
+    // Keys act on release, when the user may have released the modifiers already. A repeat alone is no press:
+    // the key may have been pressed in a dialog that has closed since.
+    if (!event->isAutoRepeat() || _pressedModifiers.contains(event->key()))
+        _pressedModifiers.insert(event->key(), event->modifiers());
     update();
     if (isSaveKey(event))
         saveImage();
@@ -292,11 +294,15 @@ bool EditImageWidget::event(QEvent* event) {
 void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
     // By any key: the lock begins anew with the next press under a modifier.
     _axisLock = noAxisLock;
+    // A release without its press belongs to a dialog that the press has closed.
+    const bool isPressedHere = _pressedModifiers.contains(event->key());
     const Qt::KeyboardModifiers modifiers = releasedModifiers(event);
-    handleViewKey(event->key(), modifiers);
+    if (isPressedHere)
+        handleViewKey(event->key(), modifiers);
     // Reported after any key, whether it moved the rectangle or not.
     if (_tool == ToolCut) {
-        handleCutKey(event->key(), modifiers);
+        if (isPressedHere)
+            handleCutKey(event, modifiers);
         emit cutSizeChanged(_cutRect);
         update();
     }
@@ -305,7 +311,9 @@ void EditImageWidget::keyReleaseEvent(QKeyEvent* event) {
 
 // On Ctrl+Z the user may release Ctrl before Z.
 Qt::KeyboardModifiers EditImageWidget::releasedModifiers(const QKeyEvent* event) {
-    const Qt::KeyboardModifiers pressed = _pressedModifiers.take(event->key());
+    // A held key reports a release at each repeat.
+    const Qt::KeyboardModifiers pressed =
+        event->isAutoRepeat() ? _pressedModifiers.value(event->key()) : _pressedModifiers.take(event->key());
     return event->modifiers() == Qt::NoModifier ? pressed : event->modifiers();
 }
 
@@ -326,13 +334,15 @@ void EditImageWidget::handleViewKey(int key, Qt::KeyboardModifiers modifiers) {
     }
 }
 
-void EditImageWidget::handleCutKey(int key, Qt::KeyboardModifiers modifiers) {
+void EditImageWidget::handleCutKey(const QKeyEvent* event, Qt::KeyboardModifiers modifiers) {
     const int step = cutKeyStep(modifiers);
-    switch (key) {
+    switch (event->key()) {
     case Qt::Key_Enter:
     case Qt::Key_Return:
     case Qt::Key_Space:
-        applyCut();
+        // Held, it would add a step of undo at each repeat.
+        if (!event->isAutoRepeat())
+            applyCut();
         break;
     case Qt::Key_Left:
         moveCutRect("cut move left", QPointF(-step, 0));

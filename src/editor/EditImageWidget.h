@@ -94,7 +94,7 @@ private:
     void toggleAutoFit();
     [[nodiscard]] Qt::KeyboardModifiers releasedModifiers(const QKeyEvent* event);
     void handleViewKey(int key, Qt::KeyboardModifiers modifiers);
-    void handleCutKey(int key, Qt::KeyboardModifiers modifiers);
+    void handleCutKey(const QKeyEvent* event, Qt::KeyboardModifiers modifiers);
     void moveCutRect(const char* direction, QPointF delta);
     void applyCut();
     void saveImageToFile(const QString& filePath);

@@ -6,6 +6,9 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
+#include <array>
+#include <span>
+
 using Signals = QList<QVariantList>;
 
 namespace {
@@ -108,10 +111,15 @@ private slots:
             key(Qt::Key_Space);
             QVERIFY(!_view->undoAvailable());
         }
-        _view->onCutRectSet({-50, 20, 100, 1000});
-        key(Qt::Key_Enter);
+        _view->onCutRectSet({-34, 20, 100, 1000});
+        hold(Qt::Key_Enter, false); // pressed in a dialog, released after it has closed
+        QVERIFY(!_view->undoAvailable());
+        hold(Qt::Key_Left);
+        hold(Qt::Key_Enter);
         QCOMPARE(_view->imageSize(), QSize(50, 280));
         QCOMPARE(_view->cutRect(), QRectF(-50, 0, 100, 1000));
+        _view->undoLastAction();
+        QVERIFY(!_view->undoAvailable());
     }
 
     void dragOfRegionReportsOnRelease() {
@@ -179,6 +187,15 @@ private:
     }
     void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(_view.get(), code, modifiers);
+    }
+    // A press, a repeat and the release, or without the press.
+    void hold(Qt::Key code, bool isPressedHere = true) {
+        const std::array events{std::pair(QEvent::KeyPress, false), std::pair(QEvent::KeyRelease, true),
+                                std::pair(QEvent::KeyPress, true), std::pair(QEvent::KeyRelease, false)};
+        for (const auto& [type, isRepeat] : std::span(events).subspan(isPressedHere ? 0 : 1)) {
+            QKeyEvent event(type, code, {}, {}, isRepeat);
+            QApplication::sendEvent(_view.get(), &event);
+        }
     }
     void wheel(QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
         QWheelEvent event(QPointF(5, 5), _view->mapToGlobal(QPointF(5, 5)), {}, angle, Qt::NoButton,
