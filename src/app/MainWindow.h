@@ -448,6 +448,7 @@ private:
     [[nodiscard]] QString fileIndexText(const QString& filePath) const;
     [[nodiscard]] QString steppedFilePath(const QString& filePath, int step) const;
     void stepEditor(EditImageDialog* dialog, const QString& currFilePath, int step);
+    void showInEditor(EditImageDialog* dialog, const QString& filePath);
     // Refreshes thumbnail and tags of one file.
     void reloadFile(const QString& filePath);
 

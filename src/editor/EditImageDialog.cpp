@@ -51,11 +51,23 @@ void EditImageDialog::setImageFile(const QString& filePath, const QString& posit
         qDebug() << "Error, file don't exists:" << filePath;
         return;
     }
+    // The status reports that the previous file holds no picture.
+    if (isEmpty())
+        showStatus({});
+    _positionText = positionText;
+    // Shows the title, too, as it changes the steps of undo.
     _ui->imgWidget->setImageFilePath(filePath);
+}
+
+bool EditImageDialog::isEmpty() const {
+    return _ui->imgWidget->imageSize().isEmpty();
+}
+
+void EditImageDialog::showTitle() {
     const QSize size = _ui->imgWidget->imageSize();
     setWindowTitle(tr("Edit image: %1 [%2x%3] %4")
-                       .arg(QFileInfo(filePath).fileName(), QString::number(size.width()),
-                            QString::number(size.height()), positionText));
+                       .arg(QFileInfo(_ui->imgWidget->imageFilePath()).fileName(),
+                            QString::number(size.width()), QString::number(size.height()), _positionText));
 }
 
 void EditImageDialog::initActions() {
@@ -145,6 +157,8 @@ void EditImageDialog::initViewConnections() {
     follow(&EditImageWidget::autoFitChanged, _ui->tBAutoFit);
     follow(&EditImageWidget::aspectRatioKeepChanged, _ui->tBKeepAspectRatio);
     connect(view, &EditImageWidget::zoomChanged, this, &EditImageDialog::onZoomChanged);
+    // After a load, a cut and an undo, each of which may change the size.
+    connect(view, &EditImageWidget::undoAvailableChanged, this, &EditImageDialog::showTitle);
     connect(view, &EditImageWidget::requestImage, this, &EditImageDialog::onRequestImage);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::message);
     connect(view, &EditImageWidget::message, this, &EditImageDialog::showStatus);

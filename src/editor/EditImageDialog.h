@@ -21,6 +21,9 @@ public:
 
     // A file that does not exist leaves the window as it is.
     void setImageFile(const QString& filePath, const QString& positionText);
+    // Whether no picture is shown, as of a file that holds none.
+    [[nodiscard]] bool isEmpty() const;
+    void showStatus(const QString& text);
 
 public slots:
     void updateIcons(bool dark);
@@ -51,7 +54,8 @@ private:
     QAction* addToolBarAction(const QString& text, const QString& iconText, const QKeySequence& shortcut,
                               const QString& iconName);
     void onRequestImage(bool next);
-    void showStatus(const QString& text);
+    void showTitle();
 
     std::unique_ptr<Ui::EditImageDialog> _ui;
+    QString _positionText;
 };

@@ -29,7 +29,7 @@ void MainWindow::editImage() {
     connect(dialog, &EditImageDialog::savedFile, this, &MainWindow::onEditImgSavedFile);
     connect(dialog, &EditImageDialog::newlySavedFile, this, &MainWindow::onEditImgNewlySavedFile);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setImageFile(files.first(), fileIndexText(files.first()));
+    showInEditor(dialog, files.first());
     dialog->show();
 }
 
@@ -64,7 +64,14 @@ void MainWindow::stepEditor(EditImageDialog* dialog, const QString& currFilePath
         return;
     }
     if (const QString path = steppedFilePath(currFilePath, step); !path.isEmpty())
-        dialog->setImageFile(path, fileIndexText(path));
+        showInEditor(dialog, path);
+}
+
+void MainWindow::showInEditor(EditImageDialog* dialog, const QString& filePath) {
+    dialog->setImageFile(filePath, fileIndexText(filePath));
+    // Videos are not skipped, and a picture may be damaged.
+    if (dialog->isEmpty())
+        dialog->showStatus(fileFailure(filePath, tr("no image was read")));
 }
 
 void MainWindow::initEditorConnections() {
@@ -135,5 +142,5 @@ void MainWindow::onRequestDeleteImage(const QString& filePath) {
         return;
     }
     // Where the file was the only one, next is that file, and the window keeps its picture.
-    dialog->setImageFile(next, fileIndexText(next));
+    showInEditor(dialog, next);
 }

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImageWriter>
+#include <QLabel>
 #include <QPainter>
 #include <QSlider>
 #include <QSpinBox>
@@ -36,9 +37,13 @@ void steppingFollowsTheRows(Desk& desk) {
         return editor->windowTitle().section(' ', 2, 2);
     };
     QVERIFY(rows.size() > 2);
+    desk.folder.addFile(rows[2], "no picture");
+    const auto* status = editor->findChild<QLabel*>("labelStatus");
     QCOMPARE(step(QKeySequence::MoveToNextPage), rows[1]);
     QCOMPARE(step(QKeySequence::MoveToNextPage), rows[2]);
+    QCOMPARE(status->text(), desk.folder.filePath(rows[2]) + ": no image was read");
     QCOMPARE(step(QKeySequence::MoveToPreviousPage), rows[1]);
+    QCOMPARE(status->text(), "");
 }
 
 // The bytes that transformation and quality of the form must give.
@@ -461,10 +466,12 @@ private slots:
             {"press Right in EditImageDialog.imgWidget",
              "EditImageDialog.dSBCutHeight=79 ; EditImageDialog.dSBCutX=8"},
             {"press Return in EditImageDialog.imgWidget",
-             "EditImageDialog.dSBCutX=0 ; EditImageDialog.imgWidget=none"},
+             "EditImageDialog=Edit image: a.png [40x79] [N - 2] ; EditImageDialog.dSBCutX=0 ; "
+             "EditImageDialog.imgWidget=none"},
             {"EditImageDialog.&Save image [Save, Ctrl+S]", "disk a.png=40x79 red v2 ; row a.png=100x80 red ; "
                                                            "statusbar=(background) ; tBLastResult=saved 1"},
-            {"EditImageDialog.&Undo [Undo]", "EditImageDialog.imgWidget=blue"},
+            {"EditImageDialog.&Undo [Undo]",
+             "EditImageDialog=Edit image: a.png [100x80] [N - 2] ; EditImageDialog.imgWidget=blue"},
             {"EditImageDialog.&Save image as [Shift+S] -> FOLDER/whole.png",
              "asked=Save image as ; disk whole.png=100x80 blue ; labelTagsFromFile=File tag, txt, missing "
              "for: FOLDER/whole.txt ; listView=a.png|b.png|whole.png ; row whole.png=100x80 blue"},
@@ -710,7 +717,8 @@ private slots:
              "EditImageDialog.dSBCutHeight=60 ; EditImageDialog.dSBCutWidth=80 ; "
              "EditImageDialog.sBCutOutlineWidth=8 ; EditImageDialog.stackedWidget=page 0"},
             {"EditImageDialog.dSBCutWidth = 30", "EditImageDialog.dSBCutWidth=30"},
-            {"press Return in EditImageDialog.imgWidget", ""},
+            {"press Return in EditImageDialog.imgWidget",
+             "EditImageDialog=Edit image: b.png [30x60] [N - 4]"},
             {"EditImageDialog.&Save image [Save, Ctrl+S]",
              "disk b.png=30x60 blue v2 ; statusbar=(background) ; tBLastResult=saved 1"},
             {"EditImageDialog.&Pan image [Q]", "EditImageDialog.stackedWidget=hidden, page 0"},
