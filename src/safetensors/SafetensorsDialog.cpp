@@ -131,11 +131,15 @@ void SafetensorsDialog::onSafetensorNext() {
     // Both buttons use this slot.
     const bool isForward = sender() == _ui->tBSafetensorNext;
     // Read anew at each step, as files may have been added or removed.
-    const QStringList files = modelFilesBeside(_currentFile);
+    const QString current = _currentFile;
+    const QStringList files = modelFilesBeside(current);
     if (files.isEmpty())
         qDebug() << "No files found";
     // Without a file the path is empty, and the failure to open it is shown.
-    setSafetensorFile(steppedModelFile(files, _currentFile, isForward), _includeTensorInfo, _includeMetaInfo);
+    setSafetensorFile(steppedModelFile(files, current, isForward), _includeTensorInfo, _includeMetaInfo);
+    // The next step lists the same directory again; an empty path would mean that of the process.
+    if (files.isEmpty())
+        _currentFile = current;
 }
 
 void SafetensorsDialog::onSafetensorUpdate() {

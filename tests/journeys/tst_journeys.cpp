@@ -14,6 +14,7 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
+#include <QToolButton>
 
 namespace {
 
@@ -545,6 +546,15 @@ private slots:
             {"SafetensorsDialog.tBShowInFileBrowser", "opened=FOLDER"},
         };
         live(desk, steps);
+        // A directory that holds no model file for a while stays the one of the window.
+        const QWidget* dialog = desk.driver.toolWindow("SafetensorsDialog");
+        auto* next = dialog->findChild<QToolButton*>("tBSafetensorNext");
+        for (const char* name : {"a.safetensors", "b.safetensors", "c.safetensors"})
+            QVERIFY(QFile::remove(desk.folder.filePath(name)));
+        next->click();
+        desk.folder.addFile("d.safetensors", modelFile(header, 12));
+        next->click();
+        QCOMPARE(dialog->windowTitle(), "File: d.safetensors");
     }
 
     void video() {
