@@ -171,8 +171,10 @@ void FrameStepper::onMediaStatusChanged() {
         return;
     const QMediaPlayer::MediaStatus status = _player->mediaStatus();
     const bool isStopped = _player->playbackState() == QMediaPlayer::StoppedState;
-    if (status == QMediaPlayer::EndOfMedia || status == QMediaPlayer::InvalidMedia) {
+    if (status == QMediaPlayer::EndOfMedia) {
         finishRun(true);
+    } else if (status == QMediaPlayer::InvalidMedia) {
+        failRun();
     } else if (status == QMediaPlayer::LoadedMedia && isStopped) {
         _player->setPosition(_positionMs);
         _player->play();
@@ -223,6 +225,13 @@ void FrameStepper::finishRun(bool isEndOfMedia) {
     _holdsFirst |= isMissed;
     _holdsLast |= isEndOfMedia && !_run.isComplete;
     walk();
+}
+
+void FrameStepper::failRun() {
+    endRun();
+    // The kept frames stay. A run that only looks ahead fails in silence: the step that needs it tries again.
+    if (std::exchange(_steps, 0) != 0)
+        emit failed();
 }
 
 // Adds the frames of a run to the kept ones where both overlap. Otherwise a frame between them could be

@@ -35,6 +35,8 @@ signals:
     void stepped(QVideoFrame frame);
     // The clip has no frame in that direction.
     void endReached(bool forward);
+    // The clip cannot be opened any more; the steps that are not finished are dropped.
+    void failed();
 
 private:
     void walk();
@@ -46,6 +48,7 @@ private:
     void onMediaStatusChanged();
     void collect(const QVideoFrame& frame);
     void finishRun(bool isEndOfMedia);
+    void failRun();
     void mergeFrames(const QList<QVideoFrame>& frames);
     void endRun();
 

@@ -121,6 +121,7 @@ void VideoWidget::initPlayer() {
     });
     connect(_stepper, &FrameStepper::endReached, this,
             [this](bool forward) { showStatus(forward ? tr("Last frame.") : tr("First frame.")); });
+    connect(_stepper, &FrameStepper::failed, this, [this] { showMediaStatus(QMediaPlayer::InvalidMedia); });
 }
 
 void VideoWidget::initThemes() {
@@ -255,7 +256,7 @@ void VideoWidget::playbackRateChanged(double rate) {
 
 void VideoWidget::mediaStatusChanged(QMediaPlayer::MediaStatus status) {
     readFrameRate();
-    showStatus(tr("Status: %1").arg(mediaStatusToString(status)));
+    showMediaStatus(status);
     // Queued, as last frames are still to be delivered and the player has not finished stopping.
     if (status == QMediaPlayer::InvalidMedia)
         _isSeeking = false;
@@ -323,6 +324,10 @@ void VideoWidget::playbackStateChanged(QMediaPlayer::PlaybackState newState) {
     _ui->tBPlayPause->setIcon(
         QIcon(playing ? u":/resources/icons/pause.svg"_s : u":/resources/icons/play.svg"_s));
     updateIcons(Themes::instance()->isDarkTheme());
+}
+
+void VideoWidget::showMediaStatus(QMediaPlayer::MediaStatus status) {
+    showStatus(tr("Status: %1").arg(mediaStatusToString(status)));
 }
 
 void VideoWidget::showStatus(const QString& text) {

@@ -73,6 +73,7 @@ private:
     void updateIcons(bool dark);
     void stepFrames(int direction);
     void readFrameRate();
+    void showMediaStatus(QMediaPlayer::MediaStatus status);
     void ensureLastOpenPath();
     [[nodiscard]] qint64 position() const;
     void seek(qint64 position);

@@ -6,10 +6,12 @@
 #include "support/Rows.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QInputDialog>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QStatusTipEvent>
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <QVideoSink>
 #include <QVideoWidget>
@@ -59,6 +61,12 @@ private slots:
         QTest::mouseClick(bar(), Qt::LeftButton, {}, {bar()->width() / 2, bar()->height() / 2});
         QVERIFY(qAbs(_player->position() - 5000) < 50);
         QCOMPARE(bar()->value(), int(_player->position()));
+        const QTemporaryDir directory;
+        QVERIFY(QFile::copy(clipPath("h264.mp4"), directory.filePath("gone.mp4")));
+        open(directory.filePath("gone.mp4"));
+        QVERIFY(QFile::remove(directory.filePath("gone.mp4")));
+        key(Qt::Key_Period);
+        QTRY_COMPARE(status(), "Status: invalid media");
     }
 
     void stepsSinglePictures_data() { addRows<QString>({{"constant", "h264.mp4"}, {"variable", "vfr.mkv"}}); }
@@ -139,7 +147,7 @@ private slots:
 
 private:
     void open(const QString& name) {
-        _window->openFile(clipPath(name));
+        _window->openFile(QDir(clipPath({})).filePath(name));
         const QStringList ready{"Status: loaded media", "Status: buffered media"};
         QTRY_VERIFY(_window->findChild<QVideoWidget*>()->videoSink()->videoFrame().isValid());
         QTRY_VERIFY(ready.contains(status()));
