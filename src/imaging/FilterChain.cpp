@@ -30,7 +30,6 @@ constexpr auto bypassedOption = "bypassed"_L1;
 constexpr auto numberTypeOption = "sliderType"_L1;
 constexpr auto valueOption = "value"_L1;
 constexpr auto tenthsOption = "valueD"_L1;
-constexpr double tenthsPerUnit = 10.0;
 
 constexpr int sharpenSide = 3;
 constexpr std::array sharpenKernel{-1.0, -1.0, -1.0, -1.0, 9.0, -1.0, -1.0, -1.0, -1.0};

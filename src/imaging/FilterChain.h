@@ -21,6 +21,9 @@ struct FilterRange {
     std::optional<int> neutral;
 };
 
+// A slider moves in tenths of the number that a row of tenths shows and stores.
+constexpr double tenthsPerUnit = 10.0;
+
 // Nothing for a filter without a number.
 [[nodiscard]] std::optional<FilterRange> filterRange(ImageFilters::FilterType type);
 

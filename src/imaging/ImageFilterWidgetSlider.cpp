@@ -1,15 +1,10 @@
 #include "imaging/ImageFilterWidgetSlider.h"
 
+#include "imaging/FilterChain.h"
 #include "ui_ImageFilterWidgetSlider.h"
 
 #include <QMetaType>
 #include <QSignalBlocker>
-
-namespace {
-
-constexpr double sliderStepsPerUnit = 10.0;
-
-} // namespace
 
 ImageFilterWidgetSlider::ImageFilterWidgetSlider(QWidget* parent)
     : QWidget(parent), _ui(std::make_unique<Ui::ImageFilterWidgetSlider>()) {
@@ -28,7 +23,7 @@ ImageFilterWidgetSlider::~ImageFilterWidgetSlider() = default;
 
 void ImageFilterWidgetSlider::setRange(int min, int max) {
     _ui->spinBox->setRange(min, max);
-    _ui->doubleSpinBox->setRange(min / sliderStepsPerUnit, max / sliderStepsPerUnit);
+    _ui->doubleSpinBox->setRange(min / tenthsPerUnit, max / tenthsPerUnit);
     _ui->horizontalSlider->setRange(min, max);
 }
 
@@ -54,7 +49,7 @@ int ImageFilterWidgetSlider::value() const {
 }
 
 double ImageFilterWidgetSlider::valueD() const {
-    return value() / sliderStepsPerUnit;
+    return value() / tenthsPerUnit;
 }
 
 void ImageFilterWidgetSlider::sliderValueChanged(int value) {
@@ -62,13 +57,13 @@ void ImageFilterWidgetSlider::sliderValueChanged(int value) {
     const QSignalBlocker spinBoxBlocker(_ui->spinBox);
     const QSignalBlocker doubleSpinBoxBlocker(_ui->doubleSpinBox);
     _ui->spinBox->setValue(value);
-    _ui->doubleSpinBox->setValue(value / sliderStepsPerUnit);
+    _ui->doubleSpinBox->setValue(value / tenthsPerUnit);
     emit sliderChanged(value);
 }
 
 void ImageFilterWidgetSlider::onTenthsChanged(double tenths) {
     // Truncated: the box has two decimals, the slider steps of a tenth.
-    _ui->horizontalSlider->setValue(static_cast<int>(tenths * sliderStepsPerUnit));
+    _ui->horizontalSlider->setValue(static_cast<int>(tenths * tenthsPerUnit));
     // A number between two tenths does not move the slider, so no signal of it corrects the box.
     showTenths();
 }
