@@ -375,15 +375,22 @@ private slots:
             {"tBAddEffect",
              "complaints=Error, unable to cast filter option widget... ; dockWidget_ImgPreview=Image 300x240 "
              "preview ; lWDspEffects=Brightness 255|Sharpen (list) ; statusbar=Filters applied to: 1 files"},
-            {"tBMoveDown", "lWDspEffects=Sharpen|Brightness 255 (list)"},
+            {"cBDspEffectsList = Contrast",
+             "cBDspEffectsList=Contrast of Brightness|Contrast|Blur|WhitePoint|BlackPoint|Sharpen"},
+            {"tBAddEffect", "lWDspEffects=Brightness 255|Sharpen|Contrast 10 (list)"},
+            {"tBMoveDown", "lWDspEffects=Sharpen|Brightness 255|Contrast 10 (list)"},
             {"tBMoveUp", ""},
-            {"cBEnabled", "lWDspEffects=Sharpen off|Brightness 255 (list)"},
+            {"tBDelete", "lWDspEffects=Brightness 255|Contrast 10 (list)"},
+            {"tBMoveUp", "lWDspEffects=Contrast 10|Brightness 255 (list)"},
+            {"cBEnabled", "imgWidget=red ; lWDspEffects=Contrast 10|Brightness off 255 (list)"},
             {"lWDspEffects > &Toggle bypass",
-             "imgWidget=red ; lWDspEffects=Sharpen|Brightness off 255 (list)"},
-            {"lWDspEffects > &Bypass all", "lWDspEffects=Sharpen off|Brightness off 255 (list)"},
+             "imgWidget=none ; lWDspEffects=Contrast off 10|Brightness 255 (list)"},
+            {"lWDspEffects > &Bypass all",
+             "imgWidget=red ; lWDspEffects=Contrast off 10|Brightness off 255 (list)"},
             {"pBDspApply", "statusbar=Filters applied to: 2 files ; tBLastResult=filtered 0 of 2"},
-            {"lWDspEffects > &Toggle bypass", "imgWidget=none ; lWDspEffects=Sharpen|Brightness 255 (list) ; "
-                                              "statusbar=Filters applied to: 1 files"},
+            {"lWDspEffects > &Toggle bypass", "imgWidget=none ; lWDspEffects=Contrast 10|Brightness 255 "
+                                              "(list) ; statusbar=Filters applied to: "
+                                              "1 files"},
             {"pBDspReset", "dockWidget_ImgPreview=Image 100x80 preview ; imgWidget=blue"},
             {"press Ctrl+S in imgWidget", "statusbar=(background) ; tBLastResult=saved 1"},
             {"tbProfileNew_HL", "ProfilesEditWidget=Profiles editor ; dockWidget_ImgPreview=Image 280x224 "
@@ -408,8 +415,7 @@ private slots:
              "selected=(nothing) ; statusbar=(background) ; tBLastResult=(nothing) ; tWComments=(nothing) ; "
              "pTETagsFromFile=*"},
             {"cBProfilesName_HL = Default",
-             "complaints=Error, unable to cast filter option widget... ; lWDspEffects=Sharpen|Brightness 255 "
-             "(list) ; statusbar=Select image/s."},
+             "lWDspEffects=Contrast 10|Brightness 255 (list) ; statusbar=Select image/s."},
             {"select 0 in lWDspEffects", ""},
             {"lWDspEffects > &Remove selected", "lWDspEffects=Brightness 255 (list)"},
             {"tBDelete", "lWDspEffects= (list)"},
