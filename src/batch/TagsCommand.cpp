@@ -9,6 +9,7 @@
 #include "catalogue/MediaFormats.h"
 #include "tags/TagText.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -85,12 +86,16 @@ int countTags(const FileList& files, RunOptions run) {
     return finishOutput(code);
 }
 
-// Leaves each sidecar to the first of the files that share it.
+// Leaves each sidecar to the first of the existing files that share it. A missing one edits nothing, and is
+// kept to be reported.
 void dropSharers(FileList& files) {
     QSet<QString> sidecars;
     files.files.removeIf([&](const BatchFile& file) {
+        if (!QFileInfo::exists(file.path))
+            return false;
         const qsizetype before = sidecars.size();
-        sidecars.insert(imgFilePathToTxtFilePath(file.path));
+        // Absolute, since one directory may be given in different forms.
+        sidecars.insert(QFileInfo(imgFilePathToTxtFilePath(file.path)).absoluteFilePath());
         return sidecars.size() == before;
     });
 }

@@ -42,10 +42,10 @@ private slots:
              "...sub/a.png: the sidecar is not valid UTF-8\n...add: 2 done, 0 skipped, 1 failed\n",
              "a.txt sky,sea,sun\na_backup_0.txt sky, sea\nb.txt Cat by sea,sky,sun\n"
              "b_backup_0.txt Cat by sea|sky|sky\n"},
-            {"add, tried", "tags add a.png new.png --tags sun --dry-run --quiet", 1,
+            {"add, tried", "tags add a.gif a.png a.jpg --tags sun --dry-run --quiet", 1,
              "--- ./a.txt\n+++ ./a.txt\n@@ -1 +1 @@\n-sky, sea\n\\ No newline at end of file\n"
              "+sky,sea,sun\n\\ No newline at end of file\n",
-             "tessarine-batch: new.png: no such file\n", ""},
+             "tessarine-batch: a.gif: no such file\n", ""},
             {"remove", "tags remove a.png b.png --tags sea,none", 0, "", "...1 done, 1 skipped, 0 failed\n",
              "a.txt sky\n"},
             {"replace", "tags replace b.png --from s --to S --keep-duplicates --quiet", 0, "", "",
