@@ -223,7 +223,7 @@ int checkCommand(const QStringList& words) {
         [&](const BatchFile& file, FileResult& result) { return checkClip(file, result, dataset, isJson); });
     // Sums over a part of the files would mislead.
     if (isInterrupted())
-        return code;
+        return SomeFailed;
     Findings findings(isJson);
     checkShared(
         files, "shared-sidecar"_L1, [](const BatchFile& file) { return imgFilePathToTxtFilePath(file.path); },

@@ -101,9 +101,10 @@ int exportCommand(const QStringList& words) {
                 tags += tagsOf(result);
             return true;
         });
-    // A part of the export would pass for all of it.
+    // A part of the export would pass for all of it. Not the code of the run, which is 0 where the interrupt
+    // came after the last file.
     if (isInterrupted())
-        return code;
+        return SomeFailed;
     if (format != ExportJsonl)
         text = exportOfTags(tags, format);
     if (output.isNull()) {

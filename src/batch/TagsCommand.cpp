@@ -68,6 +68,9 @@ int countTags(const FileList& files, RunOptions run) {
             ++counts[tag];
         return true;
     });
+    // Sums over a part of the files would mislead.
+    if (isInterrupted())
+        return SomeFailed;
     QList<TagCount> counted;
     for (const auto& [tag, count] : counts.asKeyValueRange())
         counted.append({tag, count});
