@@ -63,12 +63,7 @@ public:
             addFile(path);
     }
 
-    void addFile(const QString& path) {
-        // Compared as text, so the base is to be spelled as in the paths.
-        const bool isBelow = !_base.isEmpty() && path.startsWith(_base);
-        append(path, isBelow ? path.sliced(_base.size()) : QFileInfo(path).fileName(),
-               isBelow ? path.sliced(_base.size()) : path);
-    }
+    void addFile(const QString& path) { append(path, QFileInfo(path).fileName(), path); }
 
     // The files of one share; all paths and collisions stay those of the whole list.
     [[nodiscard]] FileList take(const Share& share) {
@@ -132,13 +127,18 @@ private:
                QFileInfo(slashed(directory) + relative).canonicalFilePath() == _excluded;
     }
 
+    // Below the base both the relative path and the key count from there.
     void append(const QString& path, const QString& relative, const QString& key) {
         // One file may be named twice in different forms.
         const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
-        if (!_paths.contains(absolute)) {
-            _paths.insert(absolute);
+        if (_paths.contains(absolute))
+            return;
+        _paths.insert(absolute);
+        // Compared as text, so the base is to be spelled as in the paths.
+        if (!_base.isEmpty() && path.startsWith(_base))
+            _entries.append({{path, path.sliced(_base.size())}, path.sliced(_base.size())});
+        else
             _entries.append({{path, relative}, key});
-        }
     }
 
     const SuffixMatcher& _suffixes;

@@ -66,10 +66,11 @@ private slots:
             {"text", "export . --jobs 2", 0, "Cat by sea [1]\nsea [2]\nsky [4]\n", "", ""},
             {"csv", "export a.png --format csv", 0, "tag,count\nsky,1\nsea,1\n", "", ""},
             {"json", "export a.png --format json", 0, "[...\"count\": 1,...\"tag\": \"sky\"...]\n", "", ""},
-            {"a line a file", "export sub/text.mp4 b.png --base . --format jsonl", 0,
-             "{\"file_name\":\"text.mp4\",\"text\":\"\"}\n{\"file_name\":\"b.png\",\"text\":\"Cat by sea, "
-             "sky, sky\"}\n",
-             "", ""},
+            {"a line a file", "export ./sub sub/../b.png --base . --format jsonl", 1,
+             "{\"file_name\":\"sub/bad.png\",\"text\":\"Sky\"}\n{\"file_name\":\"sub/"
+             "text.mp4\",\"text\":\"\"}\n"
+             "{\"file_name\":\"b.png\",\"text\":\"Cat by sea, sky, sky\"}\n",
+             "...", ""},
             {"into a file", "export a.png --output out.txt --json", 0,
              "{\"file\":\"a.png\",\"status\":\"done\",\"tags\":[\"sky\",\"sea\"]}\n", "",
              "out.txt sky [1]|sea [1]|\n"},
