@@ -115,7 +115,7 @@ private:
             }
             // The files found before the failure are taken all the same.
             if (error)
-                _unread.append({current, QString::fromLocal8Bit(error.message())});
+                _unread.append({slashed(current), QString::fromLocal8Bit(error.message())});
         }
         relatives.sort();
         for (const QString& relative : std::as_const(relatives))
@@ -198,9 +198,14 @@ FileList listFiles(Arguments& arguments, const SuffixMatcher& suffixes, const QS
                             arguments.value(u"base"_s));
     for (const QString& operand : operands)
         collector.addOperand(operand);
-    // Added as files: a directory in a list is reported and not walked.
-    for (const QString& path : listed)
-        collector.addFile(path);
+    // The list of an earlier run marks a directory that it could not read by a slash. One without a slash is
+    // reported and not walked: find prints the directories between the files that it has chosen.
+    for (const QString& path : listed) {
+        if (path.endsWith(u'/'))
+            collector.addOperand(path);
+        else
+            collector.addFile(path);
+    }
     return collector.take(share);
 }
 

@@ -25,7 +25,7 @@ struct FileList {
     QList<BatchFile> files;     // of this share
     QStringList all;            // paths of all shares
     QSet<QString> colliding;    // paths whose relative name another file before them has
-    QList<BatchFailure> unread; // directories that could not be read
+    QList<BatchFailure> unread; // directories that could not be read, with a slash at their end
 };
 
 // The options with which every subcommand chooses its files.

@@ -51,8 +51,8 @@ private slots:
             {"replace", "tags replace b.png --from s --to S --keep-duplicates --quiet", 0, "", "",
              "b.txt Cat by Sea,Sky,Sky\n"},
             {"split", "tags split b.png --by ' by ' --quiet", 0, "", "", "b.txt sky,Cat,sea\n"},
-            {"a list", "tags list --files-from -", 1, "a.png\tsky, sea\n", "...: gone\\n.png: no such file\n",
-             ""},
+            {"a list", "tags list --files-from -", 1, "a.png\tsky, sea\nsub/bad.png\tSky\nsub/text.mp4\t\n",
+             "...: gone\\n.png: no such file\n...: sub/a.png: the sidecar ...\n", ""},
             {"wrong usage", "tags add --tags ' ,' --shard 3/2 --failed a.txt", 2, "",
              "...: --failed a.txt: the file exists ...\n...: --tags holds no tag\n...: --shard takes I/N "
              "with I from 1 to N, not \"3/2\"\n...",
@@ -323,7 +323,7 @@ private:
         folder.addTags("sub/bad.png", "Sky");
         const QStringList before = treeText(folder.path()).split("\n");
         const auto& [words, exitCode, out, err, made] = row<QString, int, QString, QString, QString>();
-        const BatchRun run = runBatch(folder.path(), words, QByteArray("a.png\0gone\n.png\0", 16));
+        const BatchRun run = runBatch(folder.path(), words, QByteArray("a.png\0gone\n.png\0sub/\0", 21));
         comparePattern(run.out, out);
         comparePattern(run.err, err);
         QCOMPARE(run.exitCode, exitCode);
