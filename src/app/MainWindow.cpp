@@ -16,10 +16,8 @@
 #include "ui_MainWindow.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QFileInfo>
 #include <QTimer>
 
 #include <utility>
@@ -30,13 +28,6 @@ namespace {
 
 // Lets the window paint itself before the first scan blocks it.
 constexpr int firstScanDelayMs = 250;
-
-// Settings are stored beside the executable, or in the user's configuration directory where the executable's
-// is read-only.
-Settings::SettingsLocation settingsLocation() {
-    const bool isWritable = QFileInfo(QCoreApplication::applicationDirPath()).isWritable();
-    return isWritable ? Settings::AppDirLocation : Settings::UserConfigLocation;
-}
 
 QAction* makeWindowAction(QObject* parent, const QString& text, const QString& iconText, const QString& data,
                           const QString& icon) {
@@ -59,7 +50,7 @@ MainWindow::MainWindow(QWidget* parent)
     ui->setupUi(this);
     keepMessages(this);
     // The header of the log names the settings file, so the settings are read first.
-    Settings::instance(this, settingsLocation(), {}, false);
+    Settings::instance(this, Settings::usualLocation(), {}, false);
     LogService::instance()->setApplicationInfo(Settings::instance()->filePath());
     // Without arguments, as the program does not read its command line: the log has its default level.
     LogService::instance()->init({});

@@ -107,15 +107,15 @@ ResizeOptions resizeOptions(Arguments& arguments) {
 
 // --- effects -------------------------------------------------------------------------------------
 
-// The file that the window keeps: beside the executable, or with the user.
+// By default the file that the window keeps. Both programs lie in one directory.
 QString settingsPath(const Arguments& arguments) {
     if (arguments.isSet(u"settings"_s))
         return arguments.value(u"settings"_s);
-    QString beside = QCoreApplication::applicationDirPath() + "/settings.data"_L1;
-    if (QFileInfo::exists(beside))
-        return beside;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           "/Tessarine/settings.data"_L1;
+    const QString directory =
+        Settings::usualLocation() == Settings::AppDirLocation
+            ? QCoreApplication::applicationDirPath()
+            : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Tessarine"_L1;
+    return directory + "/settings.data"_L1;
 }
 
 QList<FilterStep> profileSteps(Arguments& arguments) {

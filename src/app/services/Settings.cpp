@@ -21,6 +21,11 @@ constexpr auto settingsDataKey = "settingsData"_L1;
 
 Settings* Settings::_instance = nullptr;
 
+Settings::SettingsLocation Settings::usualLocation() {
+    const bool isWritable = QFileInfo(QCoreApplication::applicationDirPath()).isWritable();
+    return isWritable ? AppDirLocation : UserConfigLocation;
+}
+
 Settings* Settings::instance(QObject* parent, SettingsLocation location, const QString& fileName,
                              bool debugging) {
     if (!_instance) {

@@ -21,6 +21,8 @@ public:
     enum SettingsLocation { UserConfigLocation = 0, AppDirLocation = 1 };
     Q_ENUM(SettingsLocation)
 
+    // Beside the executable, or in the user's configuration directory where the executable's is read-only.
+    [[nodiscard]] static SettingsLocation usualLocation();
     // The first call makes the object and reads the file; later calls ignore the arguments.
     static Settings* instance(QObject* parent = nullptr, SettingsLocation location = UserConfigLocation,
                               const QString& fileName = {}, bool debugging = false);
