@@ -9,6 +9,7 @@
 #include "tags/TagText.h"
 #include "tags/TagsExport.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -51,15 +52,18 @@ QString metadataLine(const BatchFile& file, QStringList tags) {
     return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
-// Whether the path is one of the files, or of their sidecars.
+// One form for all names of a file, also of one that does not exist yet.
+QString identity(const QString& path) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(QFileInfo(path).absoluteFilePath()) : canonical;
+}
+
+// Whether the path is one of the files, or of their sidecars. A new sidecar counts too, or the next run
+// would take the export for its tags.
 bool isExported(const FileList& files, const QString& path) {
-    // A path that does not exist yet has no canonical form and replaces nothing.
-    const QString canonical = path.isNull() ? QString() : QFileInfo(path).canonicalFilePath();
-    const auto isSame = [&](const QString& other) {
-        return QFileInfo(other).canonicalFilePath() == canonical;
-    };
-    return !canonical.isEmpty() && std::ranges::any_of(files.all, [&](const QString& file) {
-        return isSame(file) || isSame(imgFilePathToTxtFilePath(file));
+    const QString wanted = identity(path);
+    return !path.isNull() && std::ranges::any_of(files.all, [&](const QString& file) {
+        return identity(file) == wanted || identity(imgFilePathToTxtFilePath(file)) == wanted;
     });
 }
 

@@ -75,6 +75,7 @@ private slots:
              "{\"file\":\"a.png\",\"status\":\"done\",\"tags\":[\"sky\",\"sea\"]}\n", "",
              "out.txt sky [1]|sea [1]|\n"},
             {"over a file", "export a.png --output b.txt", 1, "", "...: b.txt: File exists\n", ""},
+            {"into a new sidecar", "export . ./new.png --output new.txt", 1, "", "...: is a source, ...", ""},
             {"over a source", "export . --output a.txt --overwrite", 1, "", "...: a.txt: is a source, ...",
              ""},
         });
