@@ -157,11 +157,12 @@ QStringList listedPaths(Arguments& arguments) {
     QFile file(name);
     const bool isOpen =
         name == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen) {
+    const QByteArray bytes = isOpen ? file.readAll() : QByteArray();
+    // A part of the list would pass for all of it.
+    if (file.error() != QFileDevice::NoError) {
         arguments.reject(Batch::tr("--files-from %1: %2").arg(shownPath(name), file.errorString()));
         return {};
     }
-    const QByteArray bytes = file.readAll();
     // A path may hold a line end, but no NUL.
     const char separator = bytes.contains('\0') ? '\0' : '\n';
     QStringList paths;

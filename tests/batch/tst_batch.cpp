@@ -53,9 +53,10 @@ private slots:
             {"split", "tags split b.png --by ' by ' --quiet", 0, "", "", "b.txt sky,Cat,sea\n"},
             {"a list", "tags list --files-from -", 1, "a.png\tsky, sea\nsub/bad.png\tSky\nsub/text.mp4\t\n",
              "...: gone\\n.png: no such file\n...: sub/a.png: the sidecar ...\n", ""},
-            {"wrong usage", "tags add --tags ' ,' --shard 3/2 --failed a.txt", 2, "",
+            {"wrong usage", "tags add --tags ' ,' --shard 3/2 --failed a.txt --files-from /proc/self/mem", 2,
+             "",
              "...: --failed a.txt: the file exists ...\n...: --tags holds no tag\n...: --shard takes I/N "
-             "with I from 1 to N, not \"3/2\"\n...",
+             "with I from 1 to N, not \"3/2\"\n...: --files-from /proc/self/mem: Input/output error\n...",
              ""},
         });
     }
