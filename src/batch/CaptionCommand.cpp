@@ -97,6 +97,10 @@ Answer askPatiently(const CaptionOptions& options, const QByteArray& request) {
     return answer;
 }
 
+bool isLeftOut(const Sidecar& sidecar, const CaptionOptions& options) {
+    return options.onlyUntagged && !sidecar.text.trimmed().isEmpty();
+}
+
 // The sidecar is read when the answer is in: it may be shared, and an answer takes its time.
 FileResult appendAnswer(const BatchFile& file, const QStringList& added, const CaptionOptions& options) {
     // One lock for all sidecars: two files of the run may share one.
@@ -105,6 +109,9 @@ FileResult appendAnswer(const BatchFile& file, const QStringList& added, const C
     const Sidecar sidecar = readSidecar(file.path);
     if (!sidecar.error.isEmpty())
         return FileResult::failed(sidecar.error);
+    // Another thread may have tagged a file that shares the sidecar.
+    if (isLeftOut(sidecar, options))
+        return FileResult::skipped(Batch::tr("has tags"));
     const QString text = savedTagText(sidecar.tags() + added, options.keepsDuplicates);
     if (const QString error = writeWholeSidecar(sidecar.path, text, options.makesBackups); !error.isEmpty())
         return FileResult::failed(error);
@@ -117,7 +124,7 @@ FileResult caption(const BatchFile& file, const CaptionOptions& options) {
     const Sidecar sidecar = readSidecar(file.path);
     if (!sidecar.error.isEmpty())
         return FileResult::failed(sidecar.error);
-    if (options.onlyUntagged && !sidecar.text.trimmed().isEmpty())
+    if (isLeftOut(sidecar, options))
         return FileResult::skipped(Batch::tr("has tags"));
     QString error;
     const QImage read = readPicture(file.path, error);

@@ -53,6 +53,10 @@ private slots:
             {"split", "tags split b.png --by ' by ' --quiet", 0, "", "", "b.txt sky,Cat,sea\n"},
             {"a list", "tags list --files-from -", 1, "a.png\tsky, sea\nsub/bad.png\tSky\nsub/text.mp4\t\n",
              "...: gone\\n.png: no such file\n...: sub/a.png: the sidecar ...\n", ""},
+            {"wrong usage of caption", "caption . --url nowhere --retry x", 2, "",
+             "...: --model names ...\n...: --url takes an address that begins with http, not \"nowhere\"\n"
+             "...: --retry takes a whole number ...",
+             ""},
             {"wrong usage", "tags add --tags ' ,' --shard 3/2 --failed a.txt --files-from /proc/self/mem", 2,
              "",
              "...: --failed a.txt: the file exists ...\n...: --tags holds no tag\n...: --shard takes I/N "
@@ -195,46 +199,34 @@ private slots:
         const OllamaPeer::Answer good{R"({"response":"Sea, a dog"})"};
         const OllamaPeer::Answer bad{R"({"error":"model not found"})", OllamaPeer::Whole, "404 Not Found"};
         const OllamaPeer::Answer silent{{}, OllamaPeer::Silent};
-        addRows<QString, Answers, int, QString, QString>({
+        addRows<QString, Answers, QString, QString>({
             {"appended",
              "--jobs 2",
              {good},
-             1,
              "a.txt sky,Sea,a dog\nb.txt Sea,a dog\n",
              "tessarine-batch: ./bad.png: Unsupported image format\n...2 done, 0 skipped, 1 failed\n"},
             {"untagged only",
-             "--only-untagged",
+             "--only-untagged --keep-duplicates --jobs 4",
              {good},
-             1,
              "a.txt sky\nb.txt Sea,a dog\n",
-             "...1 done, 1 skipped, 1 failed\n"},
-            {"another separator", "--separator ', a ' --size 5x-1", {good}, 1, "a.txt sky,Sea,dog\n", "..."},
-            {"tried again", "--retry 1", {bad, good}, 1, "a.txt sky,Sea,a dog\n", "..."},
+             "...1 done, 2 skipped, 1 failed\n"},
+            {"another separator", "--separator ', a ' --size 5x-1", {good}, "a.txt sky,Sea,dog\n", "..."},
+            {"tried again", "--retry 1", {bad, good}, "a.txt sky,Sea,a dog\n", "..."},
             {"refused",
              "",
              {bad},
-             1,
              "a.txt sky\n",
              "tessarine-batch: ./a.png: ...{\"error\":\"model not found\"}\n..."},
             {"hanging",
              "--timeout 1",
              {silent, good},
-             1,
              "a.txt sky\nb.txt Sea,a dog\nfailed ./a.png;./bad.png;\n",
              "tessarine-batch: ./a.png: no answer within 1 s\n..."},
             {"nothing said",
              "",
              {{R"({"response":" ,  "})"}},
-             1,
              "a.txt sky\n",
              "tessarine-batch: ./a.png: the answer is empty\n..."},
-            {"wrong usage",
-             "--retry x --url nowhere",
-             {good},
-             2,
-             "a.txt sky\n",
-             "tessarine-batch: --url takes an address that begins with http, not \"nowhere\"\n"
-             "tessarine-batch: --retry takes a whole number ...\n...\n"},
         });
     }
     void captions() {
@@ -243,20 +235,19 @@ private slots:
         folder.addImage("b.png", {8, 6});
         folder.addTags("a.png", "sky");
         folder.addFile("bad.png", "no image");
-        const auto& [words, answers, exitCode, tree, err] =
-            row<QString, QList<OllamaPeer::Answer>, int, QString, QString>();
+        const auto& [words, answers, tree, err] = row<QString, QList<OllamaPeer::Answer>, QString, QString>();
+        if (words.contains("untagged"))
+            folder.addImage("b.jpg", {8, 6});
         OllamaPeer peer;
         peer.setAnswers("/api/generate", answers);
         const BatchRun run =
             runBatch(folder.path(), "caption . --model m --system s --prompt p --failed failed --url " +
                                         peer.url() + " " + words);
         comparePattern(run.err, err);
-        QCOMPARE(run.exitCode, exitCode);
+        QCOMPARE(run.exitCode, 1);
         const QString left = treeText(folder.path());
         for (const QString& line : tree.split("\n", Qt::SkipEmptyParts))
             QVERIFY2(left.contains(line + "\n"), qPrintable(left));
-        if (exitCode == 2)
-            return;
         const QJsonObject sent =
             QJsonDocument::fromJson(peer.requests("/api/generate").first().body).object();
         QCOMPARE(sent["model"].toString() + sent["system"].toString() + sent["prompt"].toString(), "msp");
@@ -271,7 +262,6 @@ private slots:
              "Aufruf: tessarine-batch resize [Optionen] ...Multipliziert ..."},
             {"English before another language", "en_AU:de_DE", "Usage: ..."},
             {"the first that there is", "xh_ZA:ja_JP:de_DE", "使い方: ..."},
-            {"none that there is", "xh_ZA", "Usage: ..."},
             {"the C locale", "C:de_DE", "Usage: ..."},
         });
     }
