@@ -13,10 +13,31 @@ void write(std::FILE* stream, const QString& text) {
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
+// Control characters as escapes but those to keep: a sequence in a name or a tag could recolour the terminal
+// or overwrite other lines.
+QString escaped(const QString& text, QLatin1StringView kept) {
+    QString shown;
+    shown.reserve(text.size());
+    for (const QChar character : text) {
+        const bool isControl = character.unicode() < 0x20 || character.unicode() == 0x7f;
+        if (!isControl || kept.contains(character))
+            shown += character;
+        else if (character == u'\n')
+            shown += "\\n"_L1;
+        else if (character == u'\t')
+            shown += "\\t"_L1;
+        else
+            shown += u"\\x%1"_s.arg(int(character.unicode()), 2, 16, QChar(u'0'));
+    }
+    return shown;
+}
+
 } // namespace
 
 void console::print(const QString& text) {
-    write(stdout, text);
+    static const bool isTerminal = isatty(STDOUT_FILENO) != 0;
+    // A script needs the tags as they are.
+    write(stdout, isTerminal ? escaped(text, "\n\t"_L1) : text);
 }
 
 bool console::flush() {
@@ -42,18 +63,5 @@ bool console::errorsGoToTerminal() {
 }
 
 QString shownPath(const QString& path) {
-    // An escape sequence in a name could recolour the terminal or overwrite other lines.
-    QString shown;
-    shown.reserve(path.size());
-    for (const QChar character : path) {
-        if (character == u'\n')
-            shown += "\\n"_L1;
-        else if (character == u'\t')
-            shown += "\\t"_L1;
-        else if (character.unicode() < 0x20 || character.unicode() == 0x7f)
-            shown += u"\\x%1"_s.arg(int(character.unicode()), 2, 16, QChar(u'0'));
-        else
-            shown += character;
-    }
-    return shown;
+    return escaped(path, {});
 }

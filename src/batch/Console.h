@@ -10,7 +10,8 @@ struct Batch {
 
 namespace console {
 
-// Results, in UTF-8 as they are.
+// Results, in UTF-8: to a terminal with control characters as escapes but for line ends and tabs, otherwise
+// as they are.
 void print(const QString& text);
 // False where standard output did not take everything.
 [[nodiscard]] bool flush();
