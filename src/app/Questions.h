@@ -34,7 +34,7 @@ inline void setPlainTexts(QMessageBox& box, const QString& text, const QString& 
 }
 
 // A modal message with an OK button.
-inline void tellUser(QWidget* parent, const QString& text) {
+inline void showNotice(QWidget* parent, const QString& text) {
     QMessageBox box(parent);
     setPlainTexts(box, text);
     box.exec();

@@ -207,11 +207,11 @@ void MainWindow::deleteStrayTxtFiles() {
 QString MainWindow::importDirectory() {
     QString directory = ui->lEWorkingPath->text();
     if (directory.isEmpty()) {
-        tellUser(this, tr("Set working directory. Path is empty."));
+        showNotice(this, tr("Set working directory. Path is empty."));
         return {};
     }
     if (!QFile::exists(directory)) {
-        tellUser(this, tr("Working directory don't exists at: %1").arg(directory));
+        showNotice(this, tr("Working directory don't exists at: %1").arg(directory));
         return {};
     }
     return directory;

@@ -35,7 +35,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
         _imageLoader->stop();
     if (path.isEmpty()) {
         const QString message = tr("Provide correct working directory path. Path is empty.");
-        tellUser(this, message);
+        showNotice(this, message);
         ui->statusbar->showMessage(message);
         qDebug() << "Path empty:" << path;
         return;
@@ -43,7 +43,7 @@ void MainWindow::openWorkingDirectory(const QString& path) {
     if (!QFile::exists(path)) {
         const QString message =
             tr("Provide correct working directory. Directory dont exists at: %1").arg(path);
-        tellUser(this, message);
+        showNotice(this, message);
         onShowMessage(message);
         qDebug() << "Path dont exists at:" << path;
         return;

@@ -107,7 +107,7 @@ void MainWindow::onProcessResize() {
     qDebug() << "Files:" << files;
     const ResizeOptions options = resizeOptions();
     if (options.mode == ResizeMode::None) {
-        tellUser(this, tr("No resize options specified."));
+        showNotice(this, tr("No resize options specified."));
         return;
     }
     const WaitCursor waitCursor;
