@@ -167,7 +167,10 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
     const bool isWritten = write.outcome == SidecarWrite::Written;
     showResult(tr("saved"), isWritten ? 1 : 0, 1,
                isWritten ? QStringList() : QStringList{fileFailure(txtFileName, sidecarError(write))});
-    // A text that was not written changes nothing in the record.
+    // The tags in memory may not be on the disk any more.
+    if (!isWritten && write.left)
+        _imageTags->setSidecarText(imgFileName, *write.left);
+    // A text that was not written changes no tags.
     switch (write.outcome) {
     case SidecarWrite::NoBackupName:
         return false;

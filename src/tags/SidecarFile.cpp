@@ -62,7 +62,9 @@ SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool 
         result.outcome = SidecarWrite::NotWritten;
     else if (result.written < bytes.size()) // a full disk accepts the first part without an error
         result.outcome = SidecarWrite::CutShort;
-    if (result.outcome != SidecarWrite::Written)
+    if (result.outcome != SidecarWrite::Written) {
         result.error = file.errorString();
+        result.left = QString::fromUtf8(bytes.first(qMax(qint64{0}, result.written)));
+    }
     return result;
 }

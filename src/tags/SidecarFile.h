@@ -33,6 +33,8 @@ struct SidecarWrite {
     QString error;       // of the file, where the outcome is not Written
     QString backupError; // of a rename that failed; the text was written all the same
     qint64 written = 0;  // bytes
+    // What a failed write has left in the sidecar; nothing where that is the old text.
+    std::optional<QString> left = {};
 };
 
 // Writes the text in place. With a backup an existing file is first renamed to its next free backup name.

@@ -180,6 +180,16 @@ void TagRecord::setSavedTags(const QString& key, const QStringList& tags) {
     finish(std::move(step), TagChange::Stored);
 }
 
+void TagRecord::setSidecarText(const QString& key, const QString& text) {
+    if (!contains(key))
+        return;
+    if (const QStringList left = tagsFromText(text); left == tags(key))
+        _sidecarTags.remove(key);
+    else
+        _sidecarTags.insert(key, left);
+    announce(TagChange::Saved);
+}
+
 void TagRecord::appendAnswer(const QString& key, const QStringList& tags, int batch) {
     Step step{.pattern = tr("captions of %1 files"), .batch = batch};
     const auto entry = entryOf(key);
@@ -328,13 +338,18 @@ TagSaveReport TagRecord::save(const TagSaveOptions& options) {
         // Every entry is written, changed or not, and one without tags gives an empty file.
         remark.write = writeSidecar(remark.txtFileName, text, options.makesBackups);
         const bool isWhole = remark.write.outcome == SidecarWrite::Written;
+        const std::optional<QString> left = isWhole ? text : remark.write.left;
         if (isWhole) {
             writers.insert(remark.txtFileName, key);
             _sidecarTags.remove(key);
-            // The file whose tags were written earlier now differs from its sidecar.
-            if (remark.isShared && savedTagText(_tags.value(replacedKey), options.keepsDuplicates) != text)
-                _sidecarTags.insert(replacedKey, tagsFromText(text));
+        } else if (left) {
+            // A write that failed midway has replaced the old text, so these tags are only in memory.
+            _sidecarTags.insert(key, tagsFromText(*left));
         }
+        // The file whose tags were written earlier now differs from its sidecar.
+        if (left && remark.isShared &&
+            savedTagText(_tags.value(replacedKey), options.keepsDuplicates) != left)
+            _sidecarTags.insert(replacedKey, tagsFromText(*left));
         ++(isWhole ? report.written : report.failed);
         // Paints the window without handling events, so the record does not change in this loop.
         if (options.progress)

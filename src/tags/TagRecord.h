@@ -79,6 +79,9 @@ public:
     void splitText(const QString& src);
     // Sets the tags of a text that has just been written to the file's sidecar.
     void setSavedTags(const QString& key, const QStringList& tags);
+    // Records what a failed write has left in the file's sidecar. The tags do not change, and nothing is done
+    // for a file without an entry.
+    void setSidecarText(const QString& key, const QString& text);
     // Appends the tags of an answer. Answers of one batch in a row are one step.
     void appendAnswer(const QString& key, const QStringList& tags, int batch);
     // Reads the sidecars of imported files. Undo removes their entries and does not change the sidecars, so

@@ -144,21 +144,23 @@ private slots:
     void savingCostsOneFileAFault() {
         const MediaFolder folder;
         const QStringList keys{folder.filePath("a.png"), folder.filePath("b.png"), folder.filePath("s.png"),
-                               folder.filePath("s.jpg")};
+                               folder.filePath("s.jpg"), folder.filePath("f.png")};
         folder.addTags("b.png", "old");
+        QFile full(folder.addTags("f.png", "x"));
         QVERIFY(QDir(folder.path()).mkdir("a.txt"));
         TagRecord record;
         record.load(keys);
-        for (const QString& key : keys)
+        QVERIFY(full.remove() && QFile::link("/dev/full", full.fileName()));
+        for (const QString& key : keys.first(4))
             record.append({key}, {key.last(5), key.last(5)});
         const TagSaveReport report = record.save({});
         QCOMPARE(folder.content("b.txt"), QByteArray("old,b.png"));
         QCOMPARE(report.written, 3);
-        QCOMPARE(report.failed, 1);
-        // The file whose tags were written first to the shared sidecar now differs from it; so does the one
-        // without a sidecar.
+        QCOMPARE(report.failed, 2);
+        // The file whose tags were written first to the shared sidecar now differs from it; so do the one
+        // without a sidecar and the one whose sidecar has lost its text.
         const QString loser = folder.content("s.txt") == "s.png" ? keys.at(3) : keys.at(2);
-        QCOMPARE(sorted(record.unsavedKeys()), sorted({keys.at(0), loser}));
+        QCOMPARE(sorted(record.unsavedKeys()), sorted({keys.at(0), keys.at(4), loser}));
         record.undo();
         QVERIFY(record.isUnsaved(keys.at(3)) || record.isUnsaved(keys.at(2)));
         // An answer for a file that was removed from the record is appended to the tags of its sidecar.
