@@ -38,8 +38,9 @@ std::optional<QString> sidecarText(const QString& txtFileName) {
 
 SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool makesBackup) {
     SidecarWrite result;
+    QString backupName;
     if (makesBackup && QFile::exists(txtFileName)) {
-        const QString backupName = txtFilePathBackupFilePath(txtFileName);
+        backupName = txtFilePathBackupFilePath(txtFileName);
         if (backupName.isEmpty()) {
             result.outcome = SidecarWrite::NoBackupName;
             return result;
@@ -54,6 +55,9 @@ SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool 
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         result.outcome = SidecarWrite::NotOpened;
         result.error = file.errorString();
+        // The old text returns to its name. Where that fails as well, only the backup has it.
+        if (!backupName.isEmpty() && result.backupError.isEmpty() && !QFile::rename(backupName, txtFileName))
+            result.left = QString();
         return result;
     }
     const QByteArray bytes = text.toUtf8();

@@ -25,7 +25,7 @@ struct SidecarWrite {
         Written,
         CutShort,     // only the first part is on the disk
         NoBackupName, // all numbers are in use; nothing was written
-        NotOpened,    // the old text is whole
+        NotOpened,    // the old text is whole, at worst in its backup
         NotWritten    // the old text may be lost
     };
 

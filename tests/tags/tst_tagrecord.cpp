@@ -8,6 +8,8 @@
 
 #include <functional>
 
+#include <sys/resource.h>
+
 // The record of tags against plain containers: edits, what is unsaved, undo, saving.
 class TestTagRecord : public QObject {
     Q_OBJECT
@@ -163,6 +165,14 @@ private slots:
         QCOMPARE(sorted(record.unsavedKeys()), sorted({keys.at(0), keys.at(4), loser}));
         record.undo();
         QVERIFY(record.isUnsaved(keys.at(3)) || record.isUnsaved(keys.at(2)));
+        // Without a free file descriptor no file can be opened, but files can be renamed.
+        rlimit limit{};
+        getrlimit(RLIMIT_NOFILE, &limit);
+        const rlimit none{0, limit.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+        QCOMPARE(record.save({.makesBackups = true}).written, 0);
+        setrlimit(RLIMIT_NOFILE, &limit);
+        QCOMPARE(folder.content("b.txt"), QByteArray("old,b.png"));
         // An answer for a file that was removed from the record is appended to the tags of its sidecar.
         record.remove({keys.at(1)});
         record.appendAnswer(keys.at(1), {"sky"}, 1);
