@@ -11,6 +11,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QImageReader>
@@ -83,7 +84,8 @@ void EditImageWidget::setImageFilePath(const QString& filePath) {
     _imageFilePath = filePath;
     // Through a reader, as the pixmap cache may have an older state of the file.
     QImageReader reader(filePath);
-    _pixmap = QPixmap::fromImageReader(&reader);
+    // Opening a named pipe would block until a process writes to it.
+    _pixmap = QFileInfo(filePath).isFile() ? QPixmap::fromImageReader(&reader) : QPixmap();
     showLoadedImage();
 }
 
