@@ -32,6 +32,9 @@ using Texts = QList<std::pair<QString, QString>>;
 
 Texts embeddedTexts(const QString& path) {
     Texts texts;
+    // Opening a named pipe would block until a process writes to it.
+    if (!QFileInfo(path).isFile())
+        return texts;
     const QImageReader reader(path);
     const QStringList keys = reader.textKeys();
     for (const QString& key : keys)

@@ -7,6 +7,7 @@
 #include "ui_MainWindow.h"
 
 #include <QDebug>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <optional>
@@ -14,6 +15,11 @@
 namespace {
 
 constexpr QMargins gridMargins(11, 11, 11, 11);
+
+// Opening a named pipe would block until a process writes to it.
+QSize imageSize(const QString& filePath) {
+    return QFileInfo(filePath).isFile() ? QImageReader(filePath).size() : QSize();
+}
 
 } // namespace
 
@@ -63,8 +69,7 @@ void MainWindow::setItemImage(const QString& filePath, const QSize& size, const 
     _itemModel->setThumbnail(*item, image, size);
     const std::optional<QSize> resolution =
         _imageLoader ? _imageLoader->resolutionOf(filePath) : std::nullopt;
-    item->setData(mediaToolTip(resolution ? *resolution : QImageReader(filePath).size(), filePath),
-                  Qt::ToolTipRole);
+    item->setData(mediaToolTip(resolution ? *resolution : imageSize(filePath), filePath), Qt::ToolTipRole);
     _itemModel->announceThumbnail(filePath);
 }
 

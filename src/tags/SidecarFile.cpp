@@ -4,14 +4,26 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 SidecarRead readSidecarFile(const QString& txtFileName) {
     SidecarRead read;
+    const QFileInfo info(txtFileName);
+    // A media file without a sidecar is no error.
+    if (!info.exists())
+        return read;
+    // Opening a named pipe would block until a process writes to it, and some devices never end.
+    if (!info.isFile() && !info.isDir()) {
+        read.error = qt_error_string(ENXIO);
+        return read;
+    }
     QFile file(txtFileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        // A media file without a sidecar is no error.
-        if (file.exists())
-            read.error = file.errorString();
+        read.error = file.errorString();
         return read;
     }
     const QByteArray bytes = file.readAll();
@@ -51,10 +63,13 @@ SidecarWrite writeSidecar(const QString& txtFileName, const QString& text, bool 
             result.backupError = sidecar.errorString();
     }
     QFile file(txtFileName);
+    // Opening a named pipe would block until a process reads from it.
+    std::error_code ignored;
+    const bool isPipe = std::filesystem::is_fifo(file.filesystemFileName(), ignored);
     // Unbuffered, so that write() itself reports what a full disk refuses.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    if (isPipe || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         result.outcome = SidecarWrite::NotOpened;
-        result.error = file.errorString();
+        result.error = isPipe ? qt_error_string(ENXIO) : file.errorString();
         // The old text returns to its name. Where that fails as well, only the backup has it.
         if (!backupName.isEmpty() && result.backupError.isEmpty() && !QFile::rename(backupName, txtFileName))
             result.left = QString();
