@@ -7,13 +7,13 @@
 #include "tags/AddTagsDialog.h"
 #include "tags/CompletionPopup.h"
 #include "tags/ReplaceTextDialog.h"
+#include "tags/SidecarFile.h"
 #include "tags/TagCompletion.h"
 #include "tags/TagRecord.h"
 #include "tags/TagsExportDialog.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -88,18 +88,16 @@ void MainWindow::onAddTagsAccepted(const QString& text) {
 
 void MainWindow::editTagFor(const QString& filePath) {
     const QString txtFileName = imgFilePathToTxtFilePath(filePath);
-    QFile file(txtFileName);
-    // The context menu has this entry only for a filled sidecar, which may be gone by now.
-    if (!file.exists())
+    const SidecarRead read = readSidecarFile(txtFileName);
+    logSidecarRead(txtFileName, read);
+    // The context menu has this entry only for a filled sidecar, which may be gone by now. Of a text that was
+    // not read to its end, "Save" would drop the rest.
+    if (!read.text || !read.error.isEmpty())
         return;
-    if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "Error:" << file.errorString() << "unable to open file:" << txtFileName;
-        return;
-    }
     auto* dialog = new AddTagsDialog(this);
     connect(dialog, &AddTagsDialog::addTagsTxtAccepted, this, &MainWindow::onTxtTagsAccepted);
     dialog->setKnownTags(_imageTags->counted());
-    dialog->setTagFile(filePath, txtFileName, QString::fromUtf8(file.readAll()));
+    dialog->setTagFile(filePath, txtFileName, *read.text);
     openTagsDialog(dialog);
 }
 
