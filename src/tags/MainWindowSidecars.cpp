@@ -208,7 +208,12 @@ bool MainWindow::saveTagTxtFile(const QString& imgFileName, const QString& txtFi
 
 void MainWindow::onTxtTagsAccepted(const QString& imgFile, const QString& text, const QString& tags) {
     // The second text is the path of the sidecar, the third its new content.
-    saveTagTxtFile(imgFile, text, tags);
+    if (!saveTagTxtFile(imgFile, text, tags)) {
+        // The dialog closes all the same, so the typed tags stay in memory, as unsaved ones.
+        _imageTags->setTags(imgFile, tagsFromText(tags));
+        _imageTags->setSidecarText(imgFile, sidecarText(text).value_or(QString()));
+        refreshSelectionTags(selectedFilePaths());
+    }
     if (!isTagFileEdited())
         readTagFile(imgFile);
 }
