@@ -53,17 +53,15 @@ void logFailedWrite(const QString& path, const QString& error) {
         qWarning() << "Error, unable to write unsaved tags to:" << path << "error:" << error;
 }
 
-// Runs in the writer's thread. Without files the old recovery is removed.
-void writeRecovery(const QString& path, RecoveredTags recovered) {
+// Runs in the writer's thread. Without files the old recovery is removed. Notes the sidecars of unsaved
+// files; the others are of an earlier run and have the state that their sidecars had then.
+void writeRecovery(const QString& path, RecoveredTags recovered, const QStringList& unsaved) {
     if (recovered.files.isEmpty()) {
         QFile::remove(path);
         return;
     }
-    for (auto [key, file] : recovered.files.asKeyValueRange()) {
-        // Entries of an earlier run already have the state that their sidecars had then.
-        if (file.sidecarSize < 0)
-            noteSidecar(key, file);
-    }
+    for (const QString& key : unsaved)
+        noteSidecar(key, recovered.files[key]);
     QDir().mkpath(QFileInfo(path).path());
     // If the disk is full, QSaveFile leaves the old file whole.
     QSaveFile file(path);
@@ -191,7 +189,7 @@ void TagRecovery::write() {
     const QStringList keys = _record.unsavedKeys();
     for (const QString& key : keys)
         recovered.files.insert(key, {_record.tags(key)});
-    _writer.start([path = _path, recovered] { writeRecovery(path, recovered); });
+    _writer.start([path = _path, recovered, keys] { writeRecovery(path, recovered, keys); });
 }
 
 qsizetype TagRecovery::offeredCount() const {
