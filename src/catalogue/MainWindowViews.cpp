@@ -313,7 +313,7 @@ void MainWindow::onFilterImages(const QString& txt) {
             return;
         }
         onShowMessage(tr("No filter word: \"%1\". Searching for the text.")
-                          .arg(query.wrongWord().first(qMin(query.wrongWord().size(), shownWordCharacters))));
+                          .arg(query.wrongWord().left(shownWordCharacters)));
     }
     const bool wantsMissingTxt = isMissingTxtFilter(txt);
     const MediaFilter filter(txt, differentTags);

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 // What a query looks at in one file; see MediaQuery::asked().
 struct MediaFacts {
     enum Fact { Resolution = 1, Kind = 2, Unsaved = 4, Tags = 8 };
@@ -48,9 +50,9 @@ public:
     };
     [[nodiscard]] static Typed typedAtEnd(const QString& text);
 
-    [[nodiscard]] bool isValid() const { return _wrongWord.isNull(); }
-    // The first word that is not part of the language; null in a valid query.
-    [[nodiscard]] const QString& wrongWord() const { return _wrongWord; }
+    [[nodiscard]] bool isValid() const { return !_wrongWord; }
+    // The first word that is not part of the language, which may be an empty one; null in a valid query.
+    [[nodiscard]] QString wrongWord() const { return _wrongWord.value_or(QString()); }
     // The facts that the conditions depend on, as a mask of MediaFacts::Fact; only these are worth finding
     // out for each of thousands of files.
     [[nodiscard]] int asked() const;
@@ -79,7 +81,7 @@ private:
     [[nodiscard]] QList<int> wantedTags(const QStringList& tags) const;
 
     QList<Conditions> _alternatives;
-    QString _wrongWord;
+    std::optional<QString> _wrongWord;
     QHash<QString, int> _wanted;     // numbers of the tags that conditions name, case folded
     QHash<QString, int> _wantedTags; // the same numbers by the tags of files
 };

@@ -118,13 +118,14 @@ private slots:
             {"a tag twice", ":dup", "2"},
             {"a bar in quotes", ":tag \"|\" | :video", "3"},
             {"a quote in quotes", ":tag \"a\"\"b c\"|:image", "12"},
-            {"a word with blanks that needs quotes", ":tag blue sky", "sky"},
-            {"an unfinished word", ":video :ta", ":ta"},
-            {"a missing value", ":video :tag", ":tag"},
-            {"no ratio", ":ratio 3", "3"},
-            {"no number", ":w>wide", ":w>wide"},
-            {"a bar without alternatives", ":video||:image", "|"},
-            {"a bar at the end", ":video |", "|"},
+            {"an empty word", ":video \"\"", "no "},
+            {"a word with blanks that needs quotes", ":tag blue sky", "no sky"},
+            {"an unfinished word", ":video :ta", "no :ta"},
+            {"a missing value", ":video :tag", "no :tag"},
+            {"no ratio", ":ratio 3", "no 3"},
+            {"no number", ":w>wide", "no :w>wide"},
+            {"a bar without alternatives", ":video||:image", "no |"},
+            {"a bar at the end", ":video |", "no |"},
         });
     }
     void queriesFindFiles() {
@@ -133,7 +134,7 @@ private slots:
                                       {{512, 512}, false, true, {"x", "x "}},
                                       {{-1, -1}, true, false, {}}};
         const MediaQuery query(text, {" sky", "blue sky", "x", "x "});
-        QString found = query.wrongWord();
+        QString found = query.isValid() ? QString() : "no " + query.wrongWord();
         for (int number = 0; query.isValid() && number < files.size(); ++number) {
             MediaFacts facts = files[number];
             if (!(query.asked() & MediaFacts::Tags))
