@@ -54,6 +54,8 @@ CompletionPopup::CompletionPopup(QPlainTextEdit* edit, Offer offer)
         const QRect cursor = edit->cursorRect();
         return QRect(edit->viewport()->mapToGlobal(cursor.topLeft()), cursor.size());
     };
+    // Clicks reach the viewport alone.
+    edit->viewport()->installEventFilter(this);
     connect(edit, &QPlainTextEdit::textChanged, this, &CompletionPopup::update);
 }
 
@@ -69,6 +71,7 @@ void CompletionPopup::update() {
     const Line line = _line();
     const CompletionOffer offer = _offer(line.text, line.cursor);
     _start = offer.start;
+    _offered = line;
     if (offer.rows.isEmpty())
         hide();
     else
@@ -145,9 +148,12 @@ void CompletionPopup::step(int rows) {
 void CompletionPopup::insertCompletion(const QTreeWidgetItem* item) {
     const QString text = item->data(0, Qt::UserRole).toString();
     hide();
+    // The cursor was moved in a way that emits no signal here, such as by selecting all.
+    if (_line() != _offered)
+        return;
     // The insertion changes the text, which would open the list again.
     _isInserting = true;
-    _replace(_start, _line().cursor, text);
+    _replace(_start, _offered.cursor, text);
     _isInserting = false;
     // A completion that ends in a blank is followed by a value, whose completions are offered at once.
     if (text.endsWith(u' '))
@@ -168,6 +174,10 @@ bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
         emit accepted(text);
         return true;
     }
+    const bool isStep = modifiers == Qt::NoModifier && (key == Qt::Key_Up || key == Qt::Key_Down);
+    // From Home to Page Down the keys move the cursor away from the text that was completed.
+    if (key >= Qt::Key_Home && key <= Qt::Key_PageDown && !isStep)
+        hide();
     if (!isOpen() || modifiers != Qt::NoModifier)
         return false;
     switch (key) {
@@ -186,13 +196,6 @@ bool CompletionPopup::handleKey(int key, Qt::KeyboardModifiers modifiers) {
         else
             hide();
         return chosen != nullptr;
-    // These keys move the cursor away from the text that was completed.
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        hide();
-        return false;
     default:
         return false;
     }
@@ -211,6 +214,8 @@ bool CompletionPopup::eventFilter(QObject* watched, QEvent* event) {
                (keys->matches(QKeySequence::Undo) || keys->matches(QKeySequence::Redo));
     }
     case QEvent::MouseButtonPress:
+        hide();
+        return false;
     case QEvent::FocusOut:
     case QEvent::Hide:
         if (watched == _edit)
@@ -220,7 +225,7 @@ bool CompletionPopup::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::WindowDeactivate:
-        if (watched != _edit)
+        if (watched == _edit->window())
             hide();
         return false;
     default:

@@ -47,6 +47,8 @@ private:
     struct Line {
         QString text;
         qsizetype cursor = 0;
+
+        bool operator==(const Line&) const = default;
     };
 
     CompletionPopup(QWidget* edit, Offer offer);
@@ -63,6 +65,7 @@ private:
     Offer _offer;
     QTreeWidget* _list = nullptr; // made at the first offer
     qsizetype _start = 0;
+    Line _offered; // the line that the list completes
     bool _isInserting = false;
     bool _isAccepted = false; // and nothing has been typed since
     bool _takesChosen = false;

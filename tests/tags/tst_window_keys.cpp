@@ -69,6 +69,12 @@ private slots:
         QVERIFY(offered(edit).isEmpty());
         QCOMPARE(edit->toPlainText(), QString("x, sky\nsk\nsk"));
         QTest::keyClick(edit, Qt::Key_Backspace);
+        QTest::mouseClick(edit->viewport(), Qt::LeftButton, {}, edit->cursorRect().center());
+        QVERIFY(offered(edit).isEmpty());
+        QTest::keyClicks(edit, "k");
+        QTest::keyClick(edit, Qt::Key_End, Qt::ControlModifier);
+        QVERIFY(offered(edit).isEmpty());
+        QTest::keyClick(edit, Qt::Key_Backspace);
         QTest::keyClick(edit, Qt::Key_Down);
         QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(tags(), QString("sky|sea|old|sea|x| sky|sk|sea"));
