@@ -52,6 +52,13 @@ void ImageLoaderThreaded::stop() {
 
 void ImageLoaderThreaded::processQueue() {
     qDebug() << "ImageLoaderThreaded::processQueue" << _queue.size();
+    const auto isMedia = [this](const QString& filePath) {
+        const QString suffix = queueSuffix(filePath);
+        return _videoFormats.contains(suffix) || _imageFormats.contains(suffix);
+    };
+    // An import queues any file, also a text.
+    while (!_queue.isEmpty() && !isMedia(_queue.constFirst()))
+        qDebug() << "Error, neither image nor video:" << _queue.takeFirst();
     if (_queue.isEmpty()) {
         if (!isAnythingRunning())
             finishLoad();
@@ -59,24 +66,19 @@ void ImageLoaderThreaded::processQueue() {
     }
     // Only the kind of the first file is started. Files of the other kind follow when one of them is the
     // first.
-    const QString headSuffix = queueSuffix(_queue.constFirst());
-    if (_videoFormats.contains(headSuffix)) {
+    if (_videoFormats.contains(queueSuffix(_queue.constFirst()))) {
         createVideoThreads();
         dispatch(_videoThreads, _videoFormats, "video", &VideoImageLoader::isRunning,
                  [](VideoImageLoader* loader, const QString& filePath) {
                      loader->setRunning(true);
                      loader->grabFrame(filePath, 0);
                  });
-    } else if (_imageFormats.contains(headSuffix)) {
+    } else {
         createImageThreads();
         dispatch(_imageThreads, _imageFormats, "image", &ImageLoaderThread::isBusy,
                  [this](ImageLoaderThread* worker, const QString& filePath) {
                      worker->begin(filePath, _previewSize);
                  });
-    } else {
-        // An import queues any file, also a text.
-        qDebug() << "Error, neither image nor video:" << _queue.takeFirst();
-        processQueue();
     }
 }
 
