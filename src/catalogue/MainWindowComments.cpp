@@ -12,11 +12,11 @@
 #include <QClipboard>
 #include <QDebug>
 #include <QEvent>
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QImageReader>
+#include <QSaveFile>
 
 #include <functional>
 #include <utility>
@@ -136,13 +136,16 @@ void MainWindow::onExtractWorkflow() {
     const QString directory = selectDirectory();
     if (directory.isEmpty())
         return;
-    QFile file(u"%1/%2.json"_s.arg(directory, QFileInfo(files.first()).baseName()));
+    const QByteArray text = comment.toUtf8();
+    // An existing file is replaced without a question, but only by the whole text.
+    QSaveFile file(u"%1/%2.json"_s.arg(directory, QFileInfo(files.first()).baseName()));
+    // For a writable file in a read-only directory, where no temporary file can be created beside it.
+    file.setDirectWriteFallback(true);
     QStringList failures;
-    // An existing file is replaced without a question.
     if (!file.open(QIODevice::WriteOnly)) {
         qDebug() << "Error, unable to open file for writting:" << file.errorString();
         failures = {fileFailure(file.fileName(), file.errorString())};
-    } else if (file.write(comment.toUtf8()) == -1 || !file.flush()) { // flush() writes a short text
+    } else if (file.write(text) != text.size() || !file.commit()) {
         qDebug() << "Error, unable to write content to the file:" << file.fileName()
                  << "error:" << file.errorString();
         failures = {fileFailure(file.fileName(), file.errorString())};
