@@ -43,10 +43,21 @@ const QList<TagCount>& TagRecord::counted() const {
     return *_counted;
 }
 
+const QStringList& TagRecord::differentTags() const {
+    if (!_differentTags) {
+        _differentTags.emplace();
+        for (const TagCount& count : counted())
+            _differentTags->append(count.tag);
+    }
+    return *_differentTags;
+}
+
 void TagRecord::announce(TagChange change) {
     // Saving changes no tag, so the counts stay valid.
-    if (change != TagChange::Saved)
+    if (change != TagChange::Saved) {
         _counted.reset();
+        _differentTags.reset();
+    }
     emit changed(change);
 }
 

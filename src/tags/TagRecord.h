@@ -56,6 +56,8 @@ public:
     [[nodiscard]] QStringList tags(const QString& key) const { return _tags.value(key); }
     // Counted once after each change.
     [[nodiscard]] const QList<TagCount>& counted() const;
+    // The tags of counted() alone.
+    [[nodiscard]] const QStringList& differentTags() const;
     [[nodiscard]] QStringList flattened() const { return flattenedTags(_tags); }
 
     // The files whose tags are not those of their sidecar when it was last read or written.
@@ -132,6 +134,7 @@ private:
 
     Tags _tags;
     mutable std::optional<QList<TagCount>> _counted;
+    mutable std::optional<QStringList> _differentTags;
     // Of the files that differ from their sidecar: what the sidecar holds. Equal lists share their memory.
     Tags _sidecarTags;
     QList<Step> _undo;
