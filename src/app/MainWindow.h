@@ -35,6 +35,7 @@ class StatusPanel;
 class TagRecord;
 class TagRecovery;
 class VideoWidget;
+enum class MediaFact;
 enum class ResizeMode;
 enum class TagChange;
 enum class TagMove;
@@ -182,7 +183,7 @@ private:
     // shown with their number, "%1".
     void hideFiles(const QString& reason,
                    const std::function<bool(int row, const QString& filePath)>& isHidden);
-    [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath, int asked) const;
+    [[nodiscard]] MediaFacts mediaFacts(int row, const QString& filePath, QFlags<MediaFact> asked) const;
     void showMediaPreview(const QString& filePath);
 
     SortFilterProxyModel* _proxyModel = nullptr;

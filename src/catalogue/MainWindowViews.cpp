@@ -279,30 +279,26 @@ void MainWindow::hideFiles(const QString& reason,
     _proxyModel->refilter();
 }
 
-MediaFacts MainWindow::mediaFacts(int row, const QString& filePath, int asked) const {
+MediaFacts MainWindow::mediaFacts(int row, const QString& filePath, MediaFactFlags asked) const {
     MediaFacts facts;
-    if (asked & MediaFacts::Resolution)
+    if (asked.testFlag(MediaFact::Resolution))
         // From the text, as the raw value of the cell is only the number of pixels.
         facts.resolution = resolutionFromText(_itemModel->item(row, ColResolution)->text());
-    facts.isVideo = (asked & MediaFacts::Kind) && isVideoFile(filePath);
-    facts.isUnsaved = (asked & MediaFacts::Unsaved) && _imageTags->isUnsaved(filePath);
-    if (asked & MediaFacts::Tags)
+    facts.isVideo = asked.testFlag(MediaFact::Kind) && isVideoFile(filePath);
+    facts.isUnsaved = asked.testFlag(MediaFact::Unsaved) && _imageTags->isUnsaved(filePath);
+    if (asked.testFlag(MediaFact::Tags))
         facts.tags = _imageTags->tags(filePath);
     return facts;
 }
 
 void MainWindow::onFilterImages(const QString& txt) {
     const QString reason = tr("%1 hidden by the filter line");
-    QStringList differentTags;
-    if (!txt.isEmpty()) {
-        for (const TagCount& counted : _imageTags->counted())
-            differentTags.append(counted.tag);
-    }
+    const QStringList differentTags = txt.isEmpty() ? QStringList() : _imageTags->differentTags();
     if (MediaQuery::isQuery(txt)) {
         const MediaQuery query(txt, differentTags);
         // A text that is no valid query is searched as it is, so that no input is without effect.
         if (query.isValid()) {
-            const int asked = query.asked();
+            const MediaFactFlags asked = query.asked();
             int found = 0;
             hideFiles(reason, [&](int row, const QString& filePath) {
                 const bool matches = query.matches(mediaFacts(row, filePath, asked));

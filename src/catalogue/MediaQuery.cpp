@@ -228,8 +228,8 @@ bool MediaQuery::parseSimple(const QString& word, Condition& condition) const {
     return true;
 }
 
-int MediaQuery::asked() const {
-    int asked = 0;
+MediaFactFlags MediaQuery::asked() const {
+    MediaFactFlags asked;
     for (const Conditions& conditions : _alternatives) {
         for (const Condition& condition : conditions)
             asked |= factOf(condition.subject);
@@ -237,23 +237,23 @@ int MediaQuery::asked() const {
     return asked;
 }
 
-MediaFacts::Fact MediaQuery::factOf(Subject subject) {
+MediaFact MediaQuery::factOf(Subject subject) {
     switch (subject) {
     case Subject::Width:
     case Subject::Height:
     case Subject::Ratio:
-        return MediaFacts::Resolution;
+        return MediaFact::Resolution;
     case Subject::Video:
     case Subject::Image:
-        return MediaFacts::Kind;
+        return MediaFact::Kind;
     case Subject::Unsaved:
-        return MediaFacts::Unsaved;
+        return MediaFact::Unsaved;
     case Subject::Tag:
     case Subject::TagCount:
     case Subject::Duplicate:
         break;
     }
-    return MediaFacts::Tags;
+    return MediaFact::Tags;
 }
 
 QList<int> MediaQuery::wantedTags(const QStringList& tags) const {

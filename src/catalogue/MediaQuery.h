@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QFlags>
 #include <QHash>
 #include <QList>
 #include <QSize>
@@ -9,10 +10,12 @@
 
 #include <optional>
 
+// A part of MediaFacts.
+enum class MediaFact { Resolution = 1, Kind = 2, Unsaved = 4, Tags = 8 };
+Q_DECLARE_FLAGS(MediaFactFlags, MediaFact)
+
 // What a query looks at in one file; see MediaQuery::asked().
 struct MediaFacts {
-    enum Fact { Resolution = 1, Kind = 2, Unsaved = 4, Tags = 8 };
-
     QSize resolution; // invalid where it is unknown
     bool isVideo = false;
     bool isUnsaved = false;
@@ -53,9 +56,9 @@ public:
     [[nodiscard]] bool isValid() const { return !_wrongWord; }
     // The first word that is not part of the language, which may be an empty one; null in a valid query.
     [[nodiscard]] QString wrongWord() const { return _wrongWord.value_or(QString()); }
-    // The facts that the conditions depend on, as a mask of MediaFacts::Fact; only these are worth finding
-    // out for each of thousands of files.
-    [[nodiscard]] int asked() const;
+    // The facts that the conditions depend on; only these are worth finding out for each of thousands of
+    // files.
+    [[nodiscard]] MediaFactFlags asked() const;
     // Tags are compared regardless of case and of outer blanks. Only for a valid query.
     [[nodiscard]] bool matches(const MediaFacts& facts) const;
 
@@ -72,7 +75,7 @@ private:
     using Conditions = QList<Condition>; // all of which must hold
     struct Word;
 
-    [[nodiscard]] static MediaFacts::Fact factOf(Subject subject);
+    [[nodiscard]] static MediaFact factOf(Subject subject);
     [[nodiscard]] static QList<Word> split(const QString& text);
     void parse(const QList<Word>& words);
     [[nodiscard]] bool parseSimple(const QString& word, Condition& condition) const;

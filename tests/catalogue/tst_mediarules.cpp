@@ -137,12 +137,12 @@ private slots:
         QString found = query.isValid() ? QString() : "no " + query.wrongWord();
         for (int number = 0; query.isValid() && number < files.size(); ++number) {
             MediaFacts facts = files[number];
-            if (!(query.asked() & MediaFacts::Tags))
+            if (!query.asked().testFlag(MediaFact::Tags))
                 facts.tags.clear();
-            if (!(query.asked() & MediaFacts::Resolution))
+            if (!query.asked().testFlag(MediaFact::Resolution))
                 facts.resolution = {};
-            facts.isVideo = facts.isVideo && (query.asked() & MediaFacts::Kind);
-            facts.isUnsaved = facts.isUnsaved && (query.asked() & MediaFacts::Unsaved);
+            facts.isVideo = facts.isVideo && query.asked().testFlag(MediaFact::Kind);
+            facts.isUnsaved = facts.isUnsaved && query.asked().testFlag(MediaFact::Unsaved);
             if (query.matches(facts))
                 found += QString::number(number + 1);
         }
