@@ -137,7 +137,8 @@ QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes
     row.append(name);
 
     QStandardItem* path = mediaCell(record.path, record.path);
-    path->setData(record.path, Qt::ToolTipRole);
+    // A plain item: GCC would inline the override of MediaItem here and warn of its members.
+    path->QStandardItem::setData(record.path, Qt::ToolTipRole);
     row.append(path);
 
     row.append(mediaCell(formatSize(record.size, 1), record.size));
@@ -149,7 +150,7 @@ QList<QStandardItem*> makeMediaRow(const MediaRecord& record, const QString& yes
 
     const QString hasComment = record.comment.isEmpty() ? no : yes;
     QStandardItem* comment = mediaCell(hasComment, hasComment);
-    comment->setData(record.comment, RoleComment);
+    comment->QStandardItem::setData(record.comment, RoleComment);
     row.append(comment);
 
     row.append(mediaCell(record.suffix, record.suffix));
